@@ -1,0 +1,31 @@
+# How every target of the project is compiled: one interface target, no global flags.
+add_library(brisel_options INTERFACE)
+target_include_directories(brisel_options INTERFACE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR})
+
+target_compile_options(brisel_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+  -Wold-style-cast -Woverloaded-virtual -Wnull-dereference)
+if(BRISEL_WARNINGS_AS_ERRORS)
+  target_compile_options(brisel_options INTERFACE -Werror)
+endif()
+
+if(BRISEL_SANITIZERS)
+  target_compile_options(brisel_options INTERFACE
+    -fsanitize=${BRISEL_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(brisel_options INTERFACE -fsanitize=${BRISEL_SANITIZERS})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # gcc's flow analysis reports null pointers that only the sanitizers' own branches bring in.
+    target_compile_options(brisel_options INTERFACE -Wno-null-dereference)
+  endif()
+endif()
+
+if(BRISEL_COVERAGE)
+  target_compile_options(brisel_options INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(brisel_options INTERFACE --coverage)
+endif()
+
+# What keeps a released program hard to attack.
+target_link_options(brisel_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
+target_compile_options(brisel_options INTERFACE
+  $<$<CONFIG:Release>:-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)

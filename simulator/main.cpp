@@ -1,0 +1,72 @@
+// brisel-simulator: the program on a simulated Mac, driven by commands.
+// SPDX-License-Identifier: MIT
+#include <unistd.h>
+
+#include <fstream>
+#include <iostream>
+#include <string_view>
+
+#include "simulator/Scenario.h"
+
+namespace {
+
+using namespace brisel::simulator;
+
+constexpr int BadUse = 2;
+constexpr std::string_view Usage =
+    "usage: brisel-simulator [FILE]\n"
+    "Runs Brisel on a simulated Mac, one command a line, from FILE or standard input.\n";
+
+void printLine(const std::string& line) {
+    std::cout << line << '\n';
+}
+
+int runScript(std::istream& stream) {
+    StreamSource source(stream);
+    Scenario::Manner manner;
+    manner.badCommandHandler = [](const Scenario::BadCommand& bad) {
+        std::cout.flush();
+        std::cerr << "line " << bad.line << ": " << bad.complaint << '\n';
+    };
+    return Scenario(source, printLine, manner).run() ? 0 : BadUse;
+}
+
+int runInTerminal() {
+    std::cout << "Brisel on a simulated Mac. Type \"start\", then for example\n"
+                 "  attach disk4s1 kind=ntfs name=Data path=/Volumes/Data\n"
+                 "\"help\" lists all commands, \"quit\" ends.\n";
+    TerminalSource source;
+    Scenario::Manner manner;
+    manner.onBadCommand = Scenario::OnBadCommand::GoOn;
+    manner.echo = Scenario::Echo::Nothing;
+    manner.badCommandHandler = [](const Scenario::BadCommand& bad) { printLine(bad.complaint); };
+    Scenario(source, printLine, manner).run();
+    return 0;
+}
+
+int runFile(const char* path) {
+    std::ifstream file(path);
+    if (!file) {
+        std::cerr << "brisel-simulator: cannot read " << path << '\n';
+        return BadUse;
+    }
+    return runScript(file);
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+    std::ios::sync_with_stdio(false);
+    if (argumentCount == 1)
+        return isatty(STDIN_FILENO) != 0 ? runInTerminal() : runScript(std::cin);
+    const std::string_view argument = arguments[1];
+    if (argumentCount == 2 && (argument == "--help" || argument == "-h")) {
+        std::cout << Usage;
+        return 0;
+    }
+    if (argumentCount != 2) {
+        std::cerr << Usage;
+        return BadUse;
+    }
+    return runFile(arguments[1]);
+}

@@ -1,0 +1,88 @@
+// The remount prompt: its category, its posting, and the user's response.
+// SPDX-License-Identifier: MIT
+#include "app/RemountPrompt.h"
+
+#include "platform/Bundle.h"
+#include "platform/Format.h"
+#include "platform/SystemLog.h"
+#include "platform/UserNotificationCenter.h"
+#include "volumes/NTFSVolumeManager.h"
+
+namespace brisel {
+
+namespace {
+
+constexpr const char* CategoryIdentifier = "MOUNT";
+constexpr const char* MountAction = "DO_MOUNT";
+constexpr const char* NothingAction = "NOTHING";
+// One for every volume, so that a newer prompt replaces an older one.
+constexpr const char* RequestIdentifier = "mount";
+constexpr const char* VolumeKey = "volume";
+constexpr const char* SoundName = "Hero";
+constexpr std::chrono::milliseconds Delay{200};
+
+platform::NotificationRequest makeRequest(const platform::Bundle& bundle,
+                                          const NTFSVolume& volume) {
+    return {
+        .identifier = RequestIdentifier,
+        .title = platform::stringWithFormat(bundle.localizedString("%@ detected"), volume.label),
+        .body = bundle.localizedString("Re-mount it read-write?"),
+        .soundName = SoundName,
+        .categoryIdentifier = CategoryIdentifier,
+        .userInfo = {{VolumeKey, platform::textOf(volume.deviceNode)}},
+        .delay = Delay};
+}
+
+void addPrompt(const platform::Platform& platform, const std::shared_ptr<NTFSVolume>& volume) {
+    platform.userNotificationCenter.addNotificationRequest(
+        makeRequest(platform.bundle, *volume),
+        [volume, &log = platform.systemLog](const std::optional<platform::Error>& error) {
+            if (error) {
+                log.log("Adding Local Notification failed!");
+            } else {
+                volume->notificationSent = true;
+            }
+        });
+}
+
+}  // namespace
+
+void postRemountPrompt(const platform::Platform& platform,
+                       const std::shared_ptr<NTFSVolume>& volume) {
+    platform.userNotificationCenter.requestAuthorization(
+        platform::AuthorizationOptionAlert | platform::AuthorizationOptionSound,
+        [platform, volume](bool granted, const std::optional<platform::Error>& error) {
+            if (error) {
+                platform.systemLog.log("Requesting auth for Local Notification failed!");
+            } else if (granted) {
+                addPrompt(platform, volume);
+            }
+        });
+}
+
+void NTFSVolumeManager::registerNotificationCategory() {
+    auto& center = platform_.userNotificationCenter;
+    responses_ = center.setDelegate([this](const auto& response, const auto& completionHandler) {
+        userNotificationCenterDidReceiveNotificationResponse(response, completionHandler);
+    });
+    const auto& bundle = platform_.bundle;
+    center.setNotificationCategories(
+        {{.identifier = CategoryIdentifier,
+          .actions = {
+              {.identifier = MountAction, .title = bundle.localizedString("Yes, sure!")},
+              {.identifier = NothingAction, .title = bundle.localizedString("No, thanks.")}}}});
+}
+
+// The completion handler is not called on any path: the prompt counts as answered with the remount
+// itself, however long that takes. Kept so.
+void NTFSVolumeManager::userNotificationCenterDidReceiveNotificationResponse(
+    const platform::NotificationResponse& response,
+    const platform::UserNotificationCenter::CompletionHandler& /*completionHandler*/) {
+    if (response.requestIdentifier != RequestIdentifier) return;
+    if (response.actionIdentifier != MountAction) return;
+    const auto device = response.userInfo.find(VolumeKey);
+    const bool known = device != response.userInfo.end();
+    remountVolumeNamed(known ? std::optional(device->second) : std::nullopt);
+}
+
+}  // namespace brisel

@@ -1,0 +1,29 @@
+// The start-at-login check item.
+// SPDX-License-Identifier: MIT
+#include "app/AppDelegate.h"
+#include "app/MainMenu.h"
+#include "app/Preferences.h"
+#include "platform/Alert.h"
+#include "platform/Bundle.h"
+#include "platform/LoginItems.h"
+#include "platform/UserDefaults.h"
+
+namespace brisel {
+
+void AppDelegate::toggleStartAtLogin() {
+    const bool wanted = !shouldStartAtLogin_;
+    if (platform_.loginItems.setEnabled(LoginHelperIdentifier, wanted)) {
+        shouldStartAtLogin_ = wanted;
+        platform_.statusMenu.setChecked(ToggleStartAtLoginAction, wanted);
+        platform_.userDefaults.setBool(ShouldStartAtLoginKey, wanted);
+        return;
+    }
+    // The placeholder stays unfilled, deliberately: the text is shown as it stands in the table.
+    const auto& bundle = platform_.bundle;
+    platform_.alert.runModal({.messageText = bundle.localizedString("An error ocurred"),
+                              .informativeText = bundle.localizedString(
+                                  "Couldn't %@ Helper App to launch at login item list."),
+                              .buttons = {bundle.localizedString("OK")}});
+}
+
+}  // namespace brisel

@@ -1,0 +1,121 @@
+// The read-write mount by the system's mount tool, run as administrator.
+// SPDX-License-Identifier: MIT
+#include <utility>
+
+#include "mounting/Remount.h"
+#include "mounting/StatusMessages.h"
+#include "platform/FileManager.h"
+#include "platform/Format.h"
+#include "platform/SystemLog.h"
+#include "privileged/KJPrivilegedTask.h"
+#include "volumes/NTFSVolumeManager.h"
+
+namespace brisel {
+
+namespace {
+
+using platform::DiskDescription;
+using platform::stringWithFormat;
+
+constexpr const char* MountToolPath = "/sbin/mount_ntfs";
+constexpr const char* MountOptions = "rw,auto,nobrowse,noowners,noatime";
+
+/// What one mount is about.
+struct Target {
+    std::string devicePath;
+    std::string bsdName;
+    std::string label;
+    std::string mountPoint;
+};
+
+Target makeTarget(const NTFSVolumeManager& manager, const platform::Disk& disk,
+                  const DiskDescription& description) {
+    Target target;
+    target.devicePath = stringWithFormat("/dev/%s", disk.bsdName);
+    target.bsdName = platform::textOf(description.mediaBSDName);
+    const auto volume = findVolume(manager.volumes(), target.bsdName);
+    target.label = platform::textOf(volume ? volume->label : description.volumeName);
+    target.mountPoint = stringWithFormat(
+        "%@/.brisel/%@", manager.platform().fileManager.homeDirectory(), target.label);
+    return target;
+}
+
+void cleanUpAfterLaunchFailure(NTFSVolumeManager& manager, const Target& target) {
+    const auto& platform = manager.platform();
+    if (const auto error = platform.fileManager.removeItem(target.mountPoint)) {
+        platform.systemLog.log("Unable to delete folder: %@, reason: %@",
+                               error->localizedDescription, error->localizedFailureReason);
+    }
+    removeFirstVolume(manager.volumes(), target.bsdName);
+    manager.setInProgress(false);
+    manager.refreshVolumes();
+}
+
+bool launch(KJPrivilegedTask& task, platform::SystemLog& log, const Target& target) {
+    const auto status = task.launch();
+    if (status == platform::errAuthorizationCanceled) {
+        log.log("mount command cancelled by user");
+        return false;
+    }
+    if (status != platform::errAuthorizationSuccess) {
+        log.log("something went wrong with mount command launch");
+        return false;
+    }
+    log.log("mount command successfully launched for %@", target.devicePath);
+    return true;
+}
+
+void recordMountedVolume(NTFSVolumeManager& manager, const Target& target,
+                         const DiskDescription& description) {
+    const auto volume = NTFSVolume::initWithVolume(description);
+    volume->label = target.label;
+    volume->writable = true;
+    volume->deviceNode = target.bsdName;
+    volume->volumePath = platform::FileURL(target.mountPoint);
+    volume->uuid = uuidText(description);
+    manager.volumes().push_back(volume);
+    manager.refreshVolumes();
+    manager.openInFinder(volume->volumePath);
+}
+
+void finish(NTFSVolumeManager& manager, KJPrivilegedTask& task, const Target& target,
+            const DiskDescription& description) {
+    auto& log = manager.platform().systemLog;
+    task.waitUntilExit();
+    const auto output = task.outputFileHandle()->readDataToEndOfFile();
+    if (!output.empty()) log.log("mount command output: %@", output);
+    // The record of before goes whatever the tool's exit status.
+    removeFirstVolume(manager.volumes(), target.bsdName);
+    if (task.terminationStatus() != 0) {
+        // The mount point stays: a tool that failed may have left something there.
+        log.log("mount will fail, there is a termination status report: %i",
+                task.terminationStatus());
+        reportRemountFailure(manager, std::nullopt, description);
+        return;
+    }
+    recordMountedVolume(manager, target, description);
+}
+
+}  // namespace
+
+void mountWithTool(NTFSVolumeManager& manager, const platform::Disk& disk,
+                   const DiskDescription& description) {
+    const auto& platform = manager.platform();
+    const auto target = makeTarget(manager, disk, description);
+    const auto task = KJPrivilegedTask::init(platform);
+    task->setLaunchPath(MountToolPath);
+    if (const auto error = platform.fileManager.createDirectory(target.mountPoint)) {
+        // Deliberately ends here with the busy state on and the record kept: nothing was tried.
+        platform.systemLog.log("Unable to create folder: %@, reason: %@",
+                               error->localizedDescription, error->localizedFailureReason);
+        return;
+    }
+    task->setArguments({"-o", MountOptions, target.devicePath, target.mountPoint});
+    if (!launch(*task, platform.systemLog, target)) {
+        cleanUpAfterLaunchFailure(manager, target);
+        return;
+    }
+    finish(manager, *task, target, description);
+}
+
+}  // namespace brisel

@@ -1,0 +1,45 @@
+// Unmounting a volume that the user chose in the menu.
+// SPDX-License-Identifier: MIT
+#include "mounting/Unmount.h"
+
+#include <unistd.h>
+
+#include "mounting/StatusMessages.h"
+#include "platform/Format.h"
+#include "platform/Menu.h"
+#include "platform/SystemLog.h"
+#include "volumes/NTFSVolumeManager.h"
+
+namespace brisel {
+
+void NTFSVolumeManager::unmountVolume(const platform::MenuItem& sender) {
+    const auto location = currentFolder(volumeOf(sender));
+    const auto disk = platform_.diskArbitration.diskFromVolumePath(location);
+    if (!disk) {
+        platform_.systemLog.log("Unmount failed for volume at URL %@", location);
+        return;
+    }
+    platform_.diskArbitration.unmount(*disk, [this](const auto& unmounted, const auto& dissenter) {
+        unmountDidFinish(*this, unmounted, dissenter);
+    });
+}
+
+void unmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& disk,
+                      const std::optional<platform::Dissenter>& dissenter) {
+    const auto description = manager.platform().diskArbitration.copyDescription(disk);
+    if (dissenter) {
+        reportUnmountFailure(manager, dissenter, description);
+        return;
+    }
+    // Waits for nothing: gives other processes a turn after the unmount.
+    sleep(0);
+    const auto bsdName = platform::textOf(description.mediaBSDName);
+    const VolumeList snapshot = manager.volumes();
+    for (const auto& volume : snapshot) {
+        if (volume->deviceNode != bsdName) continue;
+        manager.removeVolumeFromList(volume);
+        manager.setInProgress(false);
+    }
+}
+
+}  // namespace brisel

@@ -1,0 +1,28 @@
+// What the platform knows of one disk: a value in which every key may be missing.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/FileURL.h"
+
+namespace brisel::platform {
+
+/// The keys of Disk Arbitration's disk description that Brisel reads, without their prefix "DA".
+struct DiskDescription {
+    std::optional<bool> volumeMountable;
+    std::optional<std::string> volumeKind;
+    std::optional<std::string> volumeName;
+    /// The device node without "/dev/", such as disk4s1.
+    std::optional<std::string> mediaBSDName;
+    /// Where the volume is mounted now.
+    std::optional<FileURL> volumePath;
+    /// UUIDs as CFUUIDCreateString writes them: 36 characters, upper-case, 8-4-4-4-12.
+    std::optional<std::string> mediaUUID;
+    std::optional<std::string> volumeUUID;
+
+    bool operator==(const DiskDescription&) const = default;
+};
+
+}  // namespace brisel::platform

@@ -1,0 +1,27 @@
+// The installed platform.
+// SPDX-License-Identifier: MIT
+#include "platform/Platform.h"
+
+#include <cassert>
+
+namespace brisel::platform {
+
+namespace {
+
+const Platform*& slot() {
+    static const Platform* platform = nullptr;
+    return platform;
+}
+
+}  // namespace
+
+void install(const Platform& platform) {
+    slot() = &platform;
+}
+
+const Platform& installed() {
+    assert(slot() != nullptr);
+    return *slot();
+}
+
+}  // namespace brisel::platform

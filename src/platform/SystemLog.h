@@ -1,0 +1,27 @@
+// The system log.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/Format.h"
+
+namespace brisel::platform {
+
+/// Safe from any thread.
+class SystemLog {
+  public:
+    virtual ~SystemLog() = default;
+
+    /// One entry; the text may hold line breaks and bytes that are no UTF-8.
+    virtual void write(const std::string& text) = 0;
+
+    /// Writes a formatted entry.
+    template <typename... Values>
+    void log(std::string_view format, const Values&... values) {
+        write(stringWithFormat(format, values...));
+    }
+};
+
+}  // namespace brisel::platform

@@ -1,0 +1,55 @@
+// The application's built-in resources.
+// SPDX-License-Identifier: MIT
+#include "platform/common/Bundle.h"
+
+#include <algorithm>
+#include <array>
+
+namespace brisel::platform::common {
+
+namespace {
+
+constexpr std::array<std::string_view, 10> StatusImages{
+    "brisel-status-grey-dark",   "brisel-status-grey-light",   "brisel-status-green-dark",
+    "brisel-status-green-light", "brisel-status-blue-dark",    "brisel-status-blue-light",
+    "brisel-status-orange-dark", "brisel-status-orange-light", "brisel-status-red-dark",
+    "brisel-status-red-light"};
+
+const EmbeddedTable* findTable(std::string_view language) {
+    const auto& tables = embeddedTables();
+    const auto found = std::find_if(tables.begin(), tables.end(), [language](const auto& table) {
+        return table.language == language;
+    });
+    return found == tables.end() ? nullptr : &*found;
+}
+
+// Drops subtags from the end until there is a table: pt-BR, then pt.
+const EmbeddedTable* closestTable(std::string_view code) {
+    while (!code.empty()) {
+        if (const auto* const table = findTable(code)) return table;
+        const auto hyphen = code.rfind('-');
+        code = code.substr(0, hyphen == std::string_view::npos ? 0 : hyphen);
+    }
+    return findTable("en");
+}
+
+}  // namespace
+
+Bundle::Bundle() {
+    setLanguage("en");
+}
+
+void Bundle::setLanguage(std::string_view code) {
+    const auto* const table = closestTable(code);
+    texts_ = StringsTable::parse(table != nullptr ? table->text : "").value_or(StringsTable());
+}
+
+std::string Bundle::localizedString(std::string_view key) const {
+    return texts_.localizedString(key);
+}
+
+bool Bundle::hasImage(const std::string& name) const {
+    return std::find(StatusImages.begin(), StatusImages.end(), name) != StatusImages.end();
+}
+
+}  // namespace brisel::platform::common

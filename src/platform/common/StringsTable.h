@@ -1,0 +1,29 @@
+// A table of localised texts in the .strings format.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace brisel::platform::common {
+
+/// Pairs `"key" = "value";` with comments in between; `\n`, `\t`, `\"`, `\\` are escapes.
+class StringsTable {
+  public:
+    /// None when the text is not well-formed.
+    [[nodiscard]] static std::optional<StringsTable> parse(std::string_view text);
+
+    /// The value for the key, else the key itself.
+    [[nodiscard]] std::string localizedString(std::string_view key) const;
+    [[nodiscard]] const std::map<std::string, std::string, std::less<>>& texts() const {
+        return texts_;
+    }
+
+  private:
+    std::map<std::string, std::string, std::less<>> texts_;
+};
+
+}  // namespace brisel::platform::common

@@ -1,0 +1,46 @@
+// A child process with its standard output on a socket.
+// SPDX-License-Identifier: MIT
+#include "platform/common/ToolProcess.h"
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+
+namespace brisel::platform::common {
+
+namespace {
+
+constexpr int BodyReturned = 127;
+
+[[noreturn]] void runChild(int socket, const std::function<void()>& body) {
+    dup2(socket, STDIN_FILENO);
+    dup2(socket, STDOUT_FILENO);
+    body();
+    _exit(BodyReturned);
+}
+
+StartedTool failure() {
+    return {.status = errAuthorizationToolExecuteFailure, .communicationsPipe = nullptr};
+}
+
+}  // namespace
+
+StartedTool startToolProcess(const std::function<void()>& body) {
+    std::array<int, 2> ends{};
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return failure();
+    const auto [ours, theirs] = ends;
+    const pid_t child = fork();
+    if (child == 0) runChild(theirs, body);
+    close(theirs);
+    std::FILE* const stream = child > 0 ? fdopen(ours, "r+") : nullptr;
+    if (stream == nullptr) {
+        close(ours);
+        return failure();
+    }
+    fcntl(ours, F_SETOWN, child);
+    return {.status = errAuthorizationSuccess, .communicationsPipe = stream};
+}
+
+}  // namespace brisel::platform::common

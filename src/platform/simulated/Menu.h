@@ -1,0 +1,35 @@
+// The status menu of the simulated Mac.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "platform/Menu.h"
+
+namespace brisel::platform::simulated {
+
+/// A deque, because the program inserts at the top: each insertion moves the few items above it,
+/// not the many below.
+class Menu final : public platform::Menu {
+  public:
+    void removeItemsWithTags(std::span<const int> tags) override;
+    void insertItem(MenuItem item, std::size_t index) override;
+    void setChecked(std::string_view action, bool checked) override;
+
+    // The control face.
+    /// What a nib brings: the fixed items.
+    void load(std::vector<MenuItem> items);
+    [[nodiscard]] const std::deque<MenuItem>& items() const { return items_; }
+    /// `TITLE | TITLE | ---` from the top; a checked item ends in ` [x]`.
+    [[nodiscard]] std::string titles() const;
+    /// Whether items came or went since this was asked last.
+    [[nodiscard]] bool takeRebuilt();
+
+  private:
+    std::deque<MenuItem> items_;
+    bool rebuilt_ = false;
+};
+
+}  // namespace brisel::platform::simulated

@@ -1,0 +1,30 @@
+// A readable handle on a file descriptor.
+// SPDX-License-Identifier: MIT
+#include "privileged/FileHandle.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+
+namespace brisel {
+
+FileHandle::~FileHandle() {
+    close(descriptor_);
+}
+
+std::string FileHandle::readDataToEndOfFile() const {
+    constexpr std::size_t ChunkSize = 4096;
+    std::array<char, ChunkSize> chunk{};
+    std::string data;
+    while (true) {
+        const auto count = read(descriptor_, chunk.data(), chunk.size());
+        if (count > 0) {
+            data.append(chunk.data(), static_cast<std::size_t>(count));
+        } else if (count == 0 || errno != EINTR) {
+            return data;
+        }
+    }
+}
+
+}  // namespace brisel

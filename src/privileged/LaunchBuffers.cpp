@@ -1,0 +1,58 @@
+// The scratch memory of one privileged launch.
+// SPDX-License-Identifier: MIT
+#include "privileged/LaunchBuffers.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <deque>
+
+namespace brisel {
+
+namespace {
+
+struct Free {
+    void operator()(char* buffer) const { std::free(buffer); }
+};
+
+// The saved directories are deliberately never released: whatever still refers to one when the
+// process ends finds it.
+const char* saveWorkingDirectory() {
+    static std::deque<std::unique_ptr<char, Free>> saved;
+    return saved.emplace_back(getcwd(nullptr, 0)).get();
+}
+
+std::unique_ptr<char[]> bufferWith(const std::string& argument) {
+    const char* const representation = argument.c_str();
+    const std::size_t size = std::strlen(representation) + 1;
+    auto buffer = std::make_unique<char[]>(size);
+    std::snprintf(buffer.get(), size, "%s", representation);
+    return buffer;
+}
+
+}  // namespace
+
+RightsItemValue::RightsItemValue(const char* path)
+    : length_(std::strlen(path)), memory_(std::max(length_, sizeof path)) {
+    std::memcpy(memory_.data(), &path, sizeof path);
+}
+
+ArgumentVector::ArgumentVector(const std::vector<std::string>& arguments) {
+    for (const auto& argument : arguments) {
+        pointers_.push_back(buffers_.emplace_back(bufferWith(argument)).get());
+    }
+    pointers_.push_back(nullptr);
+}
+
+WorkingDirectory::WorkingDirectory(const std::string& path) : saved_(saveWorkingDirectory()) {
+    static_cast<void>(chdir(path.c_str()) == 0);
+}
+
+WorkingDirectory::~WorkingDirectory() {
+    if (saved_ != nullptr) static_cast<void>(chdir(saved_) == 0);
+}
+
+}  // namespace brisel

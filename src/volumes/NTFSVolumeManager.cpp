@@ -1,0 +1,46 @@
+// The volume manager itself: its creation, its session and its delegate.
+// SPDX-License-Identifier: MIT
+#include "volumes/NTFSVolumeManager.h"
+
+#include <utility>
+
+#include "platform/DiskArbitration.h"
+#include "platform/Menu.h"
+#include "volumes/DiskEvents.h"
+
+namespace brisel {
+
+NTFSVolumeManager& NTFSVolumeManager::sharedInstance() {
+    static NTFSVolumeManager manager(platform::installed());
+    return manager;
+}
+
+NTFSVolumeManager::NTFSVolumeManager(const platform::Platform& platform) : platform_(platform) {
+    auto& disks = platform_.diskArbitration;
+    // A session that could not be opened is not looked for: it reports nothing and makes no disk.
+    disks.createSession();
+    appeared_ = disks.registerDiskAppearedCallback(
+        [this](const platform::Disk& disk) { diskAppeared(*this, disk); });
+    disappeared_ = disks.registerDiskDisappearedCallback(
+        [this](const platform::Disk& disk) { diskDisappeared(*this, disk); });
+    disks.scheduleWithRunLoop();
+    registerNotificationCategory();
+}
+
+void NTFSVolumeManager::setDelegate(std::weak_ptr<NTFSVolumeManagerDelegate> delegate) {
+    delegate_ = std::move(delegate);
+}
+
+void NTFSVolumeManager::refreshVolumes() const {
+    if (const auto delegate = delegate_.lock()) delegate->refreshVolumes();
+}
+
+void NTFSVolumeManager::errorIcon() const {
+    if (const auto delegate = delegate_.lock()) delegate->errorIcon();
+}
+
+std::shared_ptr<NTFSVolume> volumeOf(const platform::MenuItem& item) {
+    return std::dynamic_pointer_cast<NTFSVolume>(item.representedObject);
+}
+
+}  // namespace brisel
