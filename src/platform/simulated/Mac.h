@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/common/Bundle.h"
+#include "platform/common/Menu.h"
 #include "platform/common/NotificationCenter.h"
 #include "platform/Platform.h"
 #include "platform/simulated/Authorization.h"
@@ -11,7 +12,6 @@
 #include "platform/simulated/FileManager.h"
 #include "platform/simulated/FileSystem.h"
 #include "platform/simulated/MainLoop.h"
-#include "platform/simulated/Menu.h"
 #include "platform/simulated/Person.h"
 #include "platform/simulated/SmallServices.h"
 #include "platform/simulated/StatusItem.h"
@@ -43,7 +43,7 @@ struct Mac {
     Authorization authorization;
     FileManager fileManager{transcript, faults, fileSystem, diskArbitration};
     LoginItems loginItems{transcript, faults};
-    Menu statusMenu;
+    common::Menu statusMenu;
     ScriptRunner scriptRunner{transcript, faults};
     StatusItem statusItem{transcript, statusMenu};
     SystemLog systemLog{transcript};

@@ -6,8 +6,23 @@
 
 namespace brisel::platform::simulated {
 
+namespace {
+
+// `TITLE | TITLE | ---` from the top; a checked item ends in ` [x]`.
+std::string titles(const common::Menu& menu) {
+    std::string text;
+    for (const auto& item : menu.items()) {
+        if (!text.empty()) text += " | ";
+        text += item.separator ? "---" : item.title;
+        if (item.checked) text += " [x]";
+    }
+    return text;
+}
+
+}  // namespace
+
 void StatusItem::setImage(const std::optional<std::string>& name) {
-    if (menu_.takeRebuilt()) transcript_.record("menu: %@", menu_.titles());
+    if (menu_.takeRebuilt()) transcript_.record("menu: %@", titles(menu_));
     transcript_.record("icon: %@", name.value_or("(none)"));
 }
 

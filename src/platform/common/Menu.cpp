@@ -1,13 +1,13 @@
-// The status menu of the simulated Mac.
+// The status menu as a list of items.
 // SPDX-License-Identifier: MIT
-#include "platform/simulated/Menu.h"
+#include "platform/common/Menu.h"
 
 #include <algorithm>
 #include <cassert>
 #include <iterator>
 #include <utility>
 
-namespace brisel::platform::simulated {
+namespace brisel::platform::common {
 
 void Menu::removeItemsWithTags(std::span<const int> tags) {
     std::erase_if(items_, [tags](const MenuItem& item) {
@@ -32,18 +32,8 @@ void Menu::load(std::vector<MenuItem> items) {
     items_.assign(std::make_move_iterator(items.begin()), std::make_move_iterator(items.end()));
 }
 
-std::string Menu::titles() const {
-    std::string text;
-    for (const auto& item : items_) {
-        if (!text.empty()) text += " | ";
-        text += item.separator ? "---" : item.title;
-        if (item.checked) text += " [x]";
-    }
-    return text;
-}
-
 bool Menu::takeRebuilt() {
     return std::exchange(rebuilt_, false);
 }
 
-}  // namespace brisel::platform::simulated
+}  // namespace brisel::platform::common

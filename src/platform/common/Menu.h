@@ -1,4 +1,4 @@
-// The status menu of the simulated Mac.
+// The status menu where the platform has no menu of its own: a list of items.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,7 +8,7 @@
 
 #include "platform/Menu.h"
 
-namespace brisel::platform::simulated {
+namespace brisel::platform::common {
 
 /// A deque, because the program inserts at the top: each insertion moves the few items above it,
 /// not the many below.
@@ -18,12 +18,9 @@ class Menu final : public platform::Menu {
     void insertItem(MenuItem item, std::size_t index) override;
     void setChecked(std::string_view action, bool checked) override;
 
-    // The control face.
-    /// What a nib brings: the fixed items.
+    /// Puts the fixed items in, as a nib does on a Mac.
     void load(std::vector<MenuItem> items);
     [[nodiscard]] const std::deque<MenuItem>& items() const { return items_; }
-    /// `TITLE | TITLE | ---` from the top; a checked item ends in ` [x]`.
-    [[nodiscard]] std::string titles() const;
     /// Whether items came or went since this was asked last.
     [[nodiscard]] bool takeRebuilt();
 
@@ -32,4 +29,4 @@ class Menu final : public platform::Menu {
     bool rebuilt_ = false;
 };
 
-}  // namespace brisel::platform::simulated
+}  // namespace brisel::platform::common
