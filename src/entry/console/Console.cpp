@@ -1,0 +1,76 @@
+// Brisel in a terminal.
+// SPDX-License-Identifier: MIT
+#include "entry/console/Console.h"
+
+#include <glib-unix.h>
+
+#include <csignal>
+
+#include "app/MainMenu.h"
+#include "volumes/NTFSVolumeManager.h"
+
+namespace brisel::console {
+
+namespace {
+
+constexpr const char* Help =
+    "A number chooses from the menu, y or n answers a prompt; also: menu, quit.";
+
+gboolean terminateOnSignal(gpointer application) {
+    static_cast<platform::Application*>(application)->terminate();
+    return G_SOURCE_CONTINUE;
+}
+
+// The language as the platform's tables name it: de from de_DE.UTF-8, zh-Hans from zh_CN.
+std::string userLanguage() {
+    const std::string locale = *g_get_language_names();
+    if (locale.starts_with("zh")) return "zh-Hans";
+    return locale.substr(0, locale.find_first_of("_.@"));
+}
+
+}  // namespace
+
+Console::Console(int input, std::ostream& output) : terminal_(input, output) {
+    bundle_.setLanguage(userLanguage());
+    application_.setEnd([this] { g_main_loop_quit(mainLoop_.get()); });
+}
+
+Console::~Console() = default;
+
+void Console::run() {
+    platform::install(platform_);
+    AppDelegate::initialize(platform_);
+    delegate_ = std::make_shared<AppDelegate>(platform_);
+    statusMenu_.load(mainMenuItems(delegate_, platform_));
+    application_.setTerminationStep([this] { delegate_->applicationWillTerminate(); });
+    const guint interrupt = g_unix_signal_add(SIGINT, &terminateOnSignal, &application_);
+    const guint termination = g_unix_signal_add(SIGTERM, &terminateOnSignal, &application_);
+    terminal_.print(Help);
+    delegate_->awakeFromNib();
+    {
+        const auto lines = terminal_.handleLines([this](const auto& line) { carryOut(line); });
+        if (!application_.terminated()) g_main_loop_run(mainLoop_.get());
+    }
+    g_source_remove(termination);
+    g_source_remove(interrupt);
+}
+
+void Console::carryOut(const std::optional<std::string>& line) {
+    if (!line || *line == "quit") {
+        application_.terminate();
+    } else if (*line == "menu") {
+        statusItem_.show();
+    } else if (const auto* const item = statusItem_.itemWithNumber(*line)) {
+        choose(*item);
+    } else if (!userNotificationCenter_.answer(*line) && !line->empty()) {
+        terminal_.print(Help);
+    }
+}
+
+void Console::choose(const platform::MenuItem& item) {
+    // The menu may be rebuilt by what the item does.
+    const auto sender = item;
+    sender.target(sender);
+}
+
+}  // namespace brisel::console

@@ -1,0 +1,90 @@
+// Brisel in a terminal: the platform it runs on, and its commands.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <glib.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "app/AppDelegate.h"
+#include "platform/common/Bundle.h"
+#include "platform/common/Menu.h"
+#include "platform/common/NotificationCenter.h"
+#include "platform/linux/Authorization.h"
+#include "platform/linux/DiskArbitration.h"
+#include "platform/linux/FileManager.h"
+#include "platform/linux/MainContext.h"
+#include "platform/linux/ScriptRunner.h"
+#include "platform/linux/SystemLog.h"
+#include "platform/linux/SystemVersion.h"
+#include "platform/linux/UserDefaults.h"
+#include "platform/Platform.h"
+#include "platform/terminal/Alert.h"
+#include "platform/terminal/SmallServices.h"
+#include "platform/terminal/StatusDisplay.h"
+#include "platform/terminal/Terminal.h"
+#include "platform/terminal/UserNotificationCenter.h"
+
+namespace brisel::console {
+
+/// The disks, folders and preferences of this machine, with a terminal for a screen.
+class Console {
+  public:
+    /// Reads commands from the descriptor `input`.
+    Console(int input, std::ostream& output);
+    Console(const Console&) = delete;
+    Console& operator=(const Console&) = delete;
+    ~Console();
+
+    /// Starts the program and runs it until it terminates.
+    void run();
+
+  private:
+    void carryOut(const std::optional<std::string>& line);
+    void choose(const platform::MenuItem& item);
+
+    platform::terminal::Terminal terminal_;
+    platform::linux::SystemLog systemLog_{
+        [this](const std::string& text) { terminal_.print("log: " + text); }};
+    platform::common::Bundle bundle_;
+    platform::common::Menu statusMenu_;
+    platform::common::NotificationCenter notificationCenter_;
+    platform::terminal::Alert alert_{terminal_};
+    platform::terminal::Application application_{terminal_, "Brisel " BRISEL_VERSION};
+    platform::linux::Authorization authorization_{systemLog_};
+    platform::linux::DiskArbitration diskArbitration_{systemLog_};
+    platform::linux::FileManager fileManager_;
+    platform::terminal::LoginItems loginItems_;
+    platform::linux::RunLoop runLoop_;
+    platform::linux::ScriptRunner scriptRunner_;
+    platform::terminal::StatusDisplay statusItem_{terminal_, statusMenu_};
+    platform::linux::SystemVersion systemVersion_;
+    platform::linux::UserDefaults userDefaults_{systemLog_,
+                                                platform::linux::UserDefaults::defaultPath()};
+    platform::terminal::UserNotificationCenter userNotificationCenter_{terminal_};
+    platform::terminal::Workspace workspace_{terminal_};
+    const platform::Platform platform_{.alert = alert_,
+                                       .application = application_,
+                                       .authorization = authorization_,
+                                       .bundle = bundle_,
+                                       .diskArbitration = diskArbitration_,
+                                       .fileManager = fileManager_,
+                                       .loginItems = loginItems_,
+                                       .statusMenu = statusMenu_,
+                                       .notificationCenter = notificationCenter_,
+                                       .runLoop = runLoop_,
+                                       .scriptRunner = scriptRunner_,
+                                       .statusItem = statusItem_,
+                                       .systemLog = systemLog_,
+                                       .systemVersion = systemVersion_,
+                                       .userDefaults = userDefaults_,
+                                       .userNotificationCenter = userNotificationCenter_,
+                                       .workspace = workspace_};
+    std::unique_ptr<GMainLoop, decltype(&g_main_loop_unref)> mainLoop_{
+        g_main_loop_new(nullptr, FALSE), &g_main_loop_unref};
+    std::shared_ptr<AppDelegate> delegate_;
+};
+
+}  // namespace brisel::console

@@ -1,0 +1,87 @@
+// Asking for an administrator's password and starting tools as root.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/Authorization.h"
+
+#include <polkit/polkit.h>
+#include <unistd.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/common/ToolProcess.h"
+#include "platform/linux/GLibOwners.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+constexpr const char* ActionIdentifier = "org.brisel.run-mount-tool";
+constexpr const char* Pkexec = "/usr/bin/pkexec";
+
+bool isRoot() {
+    return geteuid() == 0;
+}
+
+OSStatus statusOf(PolkitAuthorizationResult* result) {
+    if (polkit_authorization_result_get_is_authorized(result) != FALSE) {
+        return errAuthorizationSuccess;
+    }
+    const bool dismissed = polkit_authorization_result_get_dismissed(result) != FALSE;
+    return dismissed ? errAuthorizationCanceled : errAuthorizationDenied;
+}
+
+OSStatus askPolkit(platform::SystemLog& log) {
+    CallError error;
+    const OwnedObject<PolkitAuthority> authority(
+        polkit_authority_get_sync(nullptr, error.receive()));
+    if (!authority) {
+        log.log("polkit cannot be reached: %@", error.message());
+        return errAuthorizationInternal;
+    }
+    const OwnedObject<PolkitSubject> subject(
+        polkit_unix_process_new_for_owner(getpid(), 0, static_cast<gint>(getuid())));
+    const OwnedObject<PolkitAuthorizationResult> result(polkit_authority_check_authorization_sync(
+        authority.get(), subject.get(), ActionIdentifier, nullptr,
+        POLKIT_CHECK_AUTHORIZATION_FLAGS_ALLOW_USER_INTERACTION, nullptr, error.receive()));
+    if (!result) {
+        log.log("polkit did not answer: %@", error.message());
+        return errAuthorizationInternal;
+    }
+    return statusOf(result.get());
+}
+
+}  // namespace
+
+// polkit keeps what was granted by process, so there is nothing for a reference to hold.
+CreatedAuthorization Authorization::create(std::uint32_t /*flags*/) {
+    return {.status = errAuthorizationSuccess, .authorization = nullptr};
+}
+
+OSStatus Authorization::copyRights(AuthorizationRef /*authorization*/,
+                                   const AuthorizationItem& /*right*/, std::uint32_t /*flags*/) {
+    return isRoot() ? errAuthorizationSuccess : askPolkit(log_);
+}
+
+void Authorization::free(AuthorizationRef /*authorization*/, std::uint32_t /*flags*/) {}
+
+bool Authorization::offersExecuteWithPrivileges() const {
+    return isRoot() || access(Pkexec, X_OK) == 0;
+}
+
+StartedTool Authorization::executeWithPrivileges(AuthorizationRef /*authorization*/,
+                                                 const char* pathToTool, std::uint32_t /*flags*/,
+                                                 char* const* arguments) {
+    // All memory is taken before the fork: the child may only replace itself.
+    const std::string program = isRoot() ? pathToTool : Pkexec;
+    std::vector<std::string> words{program};
+    if (!isRoot()) words.emplace_back(pathToTool);
+    for (; *arguments != nullptr; ++arguments)
+        words.emplace_back(*arguments);
+    std::vector<char*> vector;
+    for (auto& word : words)
+        vector.push_back(word.data());
+    vector.push_back(nullptr);
+    return common::startToolProcess([&] { execv(program.c_str(), vector.data()); });
+}
+
+}  // namespace brisel::platform::linux

@@ -1,0 +1,29 @@
+// Asking for an administrator's password and starting tools as root, through polkit.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Authorization.h"
+#include "platform/SystemLog.h"
+
+namespace brisel::platform::linux {
+
+/// The right is polkit's action `org.brisel.run-mount-tool`, asked for first, so that a dismissed
+/// dialog and a refusal are told apart; the tool is then started by pkexec. Root needs neither.
+class Authorization final : public platform::Authorization {
+  public:
+    explicit Authorization(platform::SystemLog& log) : log_(log) {}
+
+    [[nodiscard]] CreatedAuthorization create(std::uint32_t flags) override;
+    [[nodiscard]] OSStatus copyRights(AuthorizationRef authorization,
+                                      const AuthorizationItem& right, std::uint32_t flags) override;
+    void free(AuthorizationRef authorization, std::uint32_t flags) override;
+    [[nodiscard]] bool offersExecuteWithPrivileges() const override;
+    [[nodiscard]] StartedTool executeWithPrivileges(AuthorizationRef authorization,
+                                                    const char* pathToTool, std::uint32_t flags,
+                                                    char* const* arguments) override;
+
+  private:
+    platform::SystemLog& log_;
+};
+
+}  // namespace brisel::platform::linux

@@ -1,0 +1,165 @@
+// Disk events, unmounts and mounts through UDisks2.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/DiskArbitration.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <utility>
+
+#include "platform/linux/MountInfo.h"
+#include "platform/linux/UDisksErrors.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+constexpr std::array<std::pair<std::string_view, std::string_view>, 3> KnownArguments{
+    {{"rw", "rw"}, {"noatime", "noatime"}, {"nobrowse", "x-gvfs-hide"}}};
+
+bool isMountable(const DiskDescription& description) {
+    return description.volumeMountable.value_or(false);
+}
+
+// A device that carries another volume than before is another disk.
+bool isSameVolume(const DiskDescription& one, const DiskDescription& other) {
+    return one.volumeKind == other.volumeKind && one.volumeUUID == other.volumeUUID &&
+           one.mediaUUID == other.mediaUUID;
+}
+
+bool isWritableMount(const std::string& mountPoint) {
+    return currentMountState(mountPoint) == MountState::ReadWrite &&
+           access(mountPoint.c_str(), W_OK) == 0;
+}
+
+}  // namespace
+
+std::string mountOptions(const std::vector<std::string>& arguments) {
+    std::string options;
+    for (const auto& argument : arguments) {
+        for (const auto& [known, option] : KnownArguments) {
+            if (argument != known) continue;
+            if (!options.empty()) options += ',';
+            options += option;
+        }
+    }
+    return options;
+}
+
+void DiskArbitration::createSession() {
+    service_ = std::make_unique<DiskService>(log_, [this] { compare(); });
+}
+
+Subscription DiskArbitration::registerDiskAppearedCallback(DiskCallback callback) {
+    return appeared_.subscribe(std::move(callback));
+}
+
+Subscription DiskArbitration::registerDiskDisappearedCallback(DiskCallback callback) {
+    return disappeared_.subscribe(std::move(callback));
+}
+
+void DiskArbitration::scheduleWithRunLoop() {
+    firstComparison_ = MainContextWork([this] {
+        scheduled_ = true;
+        compare();
+    });
+}
+
+void DiskArbitration::compare() {
+    // While the service is away nothing is known; its disks are still there.
+    if (!scheduled_ || !service_->isThere()) return;
+    const auto present = service_->disks();
+    for (const auto& [name, description] : Disks(reported_)) {
+        const auto found = present.find(name);
+        const bool stays = found != present.end() && isMountable(found->second) &&
+                           isSameVolume(description, found->second);
+        if (stays) {
+            reported_[name] = found->second;
+        } else {
+            reported_.erase(name);
+            disappeared_({.bsdName = name, .reported = description});
+        }
+    }
+    for (const auto& [name, description] : present) {
+        if (!isMountable(description) || reported_.contains(name)) continue;
+        reported_[name] = description;
+        appeared_({.bsdName = name, .reported = description});
+    }
+}
+
+std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
+    if (!name) return std::nullopt;
+    return Disk{.bsdName = *name, .reported = std::nullopt};
+}
+
+std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<FileURL>& path) {
+    if (!path) return std::nullopt;
+    for (const auto& [name, description] : service_->disks()) {
+        if (description.volumePath == path) return diskFromBSDName(name);
+    }
+    return std::nullopt;
+}
+
+DiskDescription DiskArbitration::copyDescription(const Disk& disk) {
+    if (disk.reported) return *disk.reported;
+    const auto present = service_->disks();
+    if (const auto found = present.find(disk.bsdName); found != present.end()) return found->second;
+    if (const auto found = reported_.find(disk.bsdName); found != reported_.end()) {
+        return found->second;
+    }
+    DiskDescription gone;
+    gone.mediaBSDName = disk.bsdName;
+    return gone;
+}
+
+void DiskArbitration::unmount(const Disk& disk, Completion completion) {
+    const auto description = copyDescription(disk);
+    if (isMountable(description) && !description.volumePath) {
+        completion(disk, std::nullopt);
+        return;
+    }
+    service_->unmount(disk.bsdName, [this, disk, completion = std::move(completion)](
+                                        const auto& failure, const auto& /*result*/) {
+        completion(disk, dissenterFor(failure, disk));
+    });
+}
+
+void DiskArbitration::mountWithArguments(const Disk& disk,
+                                         const std::vector<std::string>& arguments,
+                                         Completion completion) {
+    service_->mount(disk.bsdName, mountOptions(arguments),
+                    [this, disk, completion = std::move(completion)](
+                        const auto& failure, const std::string& mountPoint) {
+                        if (failure) {
+                            completion(disk, dissenterFor(failure, disk));
+                        } else {
+                            finishMount(disk, mountPoint, completion);
+                        }
+                    });
+}
+
+// NTFS drivers fall back to a read-only mount without an error when the volume is hibernated or
+// otherwise unsafe to write.
+void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoint,
+                                  const Completion& completion) {
+    if (isWritableMount(mountPoint)) {
+        completion(disk, std::nullopt);
+        return;
+    }
+    log_.log("%@ came up read-only and is unmounted again: the driver found it unsafe to write.",
+             disk.bsdName);
+    service_->unmount(disk.bsdName,
+                      [this, disk, completion](const auto& failure, const auto& /*result*/) {
+                          static_cast<void>(dissenterFor(failure, disk));
+                          completion(disk, Dissenter{.status = DAReturn::NotWritable});
+                      });
+}
+
+std::optional<Dissenter> DiskArbitration::dissenterFor(
+    const std::optional<DiskService::CallFailure>& failure, const Disk& disk) const {
+    if (!failure) return std::nullopt;
+    log_.log("UDisks2 on %@: %@", disk.bsdName, failure->message);
+    return Dissenter{.status = statusOfError(failure->errorName)};
+}
+
+}  // namespace brisel::platform::linux

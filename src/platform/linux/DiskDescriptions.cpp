@@ -1,0 +1,113 @@
+// What UDisks2 says of a block device, as a disk description.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/DiskDescriptions.h"
+
+#include <glib.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <memory>
+
+namespace brisel::platform::linux {
+
+namespace {
+
+constexpr std::size_t UUIDBytes = 16;
+constexpr std::size_t UUIDLength = 36;
+constexpr std::string_view DevicePrefix = "/dev/";
+
+std::optional<std::string> orAbsent(const std::string& text) {
+    return text.empty() ? std::nullopt : std::optional(text);
+}
+
+bool isHyphenPlace(std::size_t index) {
+    return index == 8 || index == 13 || index == 18 || index == 23;
+}
+
+bool isUUID(std::string_view text) {
+    if (text.size() != UUIDLength) return false;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        const bool fits = isHyphenPlace(index) ? text[index] == '-' : g_ascii_isxdigit(text[index]);
+        if (!fits) return false;
+    }
+    return true;
+}
+
+std::string uppercased(std::string_view text) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(), g_ascii_toupper);
+    return result;
+}
+
+using Bytes = std::array<std::uint8_t, UUIDBytes>;
+
+Bytes bytesOf(std::string_view uuid) {
+    Bytes bytes{};
+    std::size_t nibble = 0;
+    for (const char character : uuid) {
+        if (character == '-') continue;
+        auto& byte = bytes.at(nibble++ / 2);
+        byte = static_cast<std::uint8_t>((byte << 4U) | g_ascii_xdigit_value(character));
+    }
+    return bytes;
+}
+
+std::string textOfBytes(const Bytes& bytes) {
+    constexpr std::string_view Digits = "0123456789ABCDEF";
+    std::string text;
+    for (const auto byte : bytes) {
+        if (isHyphenPlace(text.size())) text += '-';
+        text += Digits[byte >> 4U];
+        text += Digits[byte & 0xFU];
+    }
+    return text;
+}
+
+Bytes sha1(const Bytes& start, std::string_view rest) {
+    const std::unique_ptr<GChecksum, decltype(&g_checksum_free)> checksum(
+        g_checksum_new(G_CHECKSUM_SHA1), &g_checksum_free);
+    g_checksum_update(checksum.get(), start.data(), static_cast<gssize>(start.size()));
+    g_checksum_update(checksum.get(), reinterpret_cast<const guchar*>(rest.data()),
+                      static_cast<gssize>(rest.size()));
+    std::array<std::uint8_t, 20> digest{};
+    gsize length = digest.size();
+    g_checksum_get_digest(checksum.get(), digest.data(), &length);
+    Bytes first{};
+    std::copy_n(digest.begin(), first.size(), first.begin());
+    return first;
+}
+
+// Version 5 in the high bits of byte 6, the RFC's variant in those of byte 8.
+std::string nameBasedUUID(std::string_view name) {
+    auto bytes = sha1(bytesOf(SerialNamespace), name);
+    bytes[6] = static_cast<std::uint8_t>((bytes[6] & 0x0FU) | 0x50U);
+    bytes[8] = static_cast<std::uint8_t>((bytes[8] & 0x3FU) | 0x80U);
+    return textOfBytes(bytes);
+}
+
+}  // namespace
+
+std::optional<std::string> uuidText(std::string_view name) {
+    if (name.empty()) return std::nullopt;
+    return isUUID(name) ? uppercased(name) : nameBasedUUID(uppercased(name));
+}
+
+std::string bsdName(std::string_view device) {
+    if (device.starts_with(DevicePrefix)) device.remove_prefix(DevicePrefix.size());
+    return std::string(device);
+}
+
+DiskDescription describe(const BlockProperties& properties) {
+    DiskDescription description;
+    description.volumeMountable = properties.filesystem && !properties.hintIgnore;
+    description.volumeKind = orAbsent(properties.idType);
+    description.volumeName = orAbsent(properties.idLabel);
+    description.mediaBSDName = bsdName(properties.device);
+    if (properties.mountPoint) description.volumePath.emplace(*properties.mountPoint);
+    description.mediaUUID = uuidText(properties.partitionUUID);
+    description.volumeUUID = uuidText(properties.idUUID);
+    return description;
+}
+
+}  // namespace brisel::platform::linux

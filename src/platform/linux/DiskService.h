@@ -1,0 +1,66 @@
+// UDisks2's objects on the system bus, and calls on their file systems.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gio/gio.h>
+#include <udisks/udisks.h>
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/DiskDescription.h"
+#include "platform/linux/GLibOwners.h"
+#include "platform/SystemLog.h"
+
+namespace brisel::platform::linux {
+
+/// Main thread only; everything is called back from the main context.
+class DiskService {
+  public:
+    using Changed = std::function<void()>;
+    /// None on success, else the name and the message of a D-Bus error.
+    struct CallFailure {
+        std::string errorName;
+        std::string message;
+    };
+    using Done = std::function<void(const std::optional<CallFailure>&, const std::string& result)>;
+
+    /// Connects to the system bus and asks for UDisks2. `changed` is called whenever any object
+    /// may have changed, and when the service goes or comes back.
+    DiskService(platform::SystemLog& log, Changed changed);
+    DiskService(const DiskService&) = delete;
+    DiskService& operator=(const DiskService&) = delete;
+    /// Calls under way end without being told of.
+    ~DiskService();
+
+    /// Whether the service is there now.
+    [[nodiscard]] bool isThere() const;
+    /// The description of every block device there is, by BSD name.
+    [[nodiscard]] std::map<std::string, DiskDescription> disks() const;
+
+    /// Unmounts the file system of a device.
+    void unmount(const std::string& device, Done done);
+    /// Mounts it with the options; the result is the mount point.
+    void mount(const std::string& device, const std::string& options, Done done);
+
+  private:
+    struct Call;
+
+    void noteOwner();
+    void askForRestart() const;
+    [[nodiscard]] OwnedObject<UDisksFilesystem> filesystem(const std::string& device) const;
+    static void finishUnmount(GObject* source, GAsyncResult* result, gpointer call);
+    static void finishMount(GObject* source, GAsyncResult* result, gpointer call);
+
+    platform::SystemLog& log_;
+    Changed changed_;
+    OwnedObject<GCancellable> cancellable_{g_cancellable_new()};
+    OwnedObject<GDBusObjectManager> objects_;
+    std::vector<SignalConnection> connections_;
+    bool wasThere_ = false;
+};
+
+}  // namespace brisel::platform::linux

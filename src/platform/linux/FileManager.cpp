@@ -1,0 +1,60 @@
+// The file system of a Linux machine.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/FileManager.h"
+
+#include <glib.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <iterator>
+#include <system_error>
+
+namespace brisel::platform::linux {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::optional<Error> errorFrom(const std::error_code& code) {
+    if (!code) return std::nullopt;
+    return Error{.localizedDescription = code.message(), .localizedFailureReason = std::nullopt};
+}
+
+}  // namespace
+
+std::string FileManager::homeDirectory() const {
+    return FileURL(g_get_home_dir()).path();
+}
+
+std::string FileManager::currentDirectoryPath() const {
+    std::error_code code;
+    return fs::current_path(code).string();
+}
+
+bool FileManager::isWritableFileAtPath(const std::optional<std::string>& path) {
+    return path && access(path->c_str(), W_OK) == 0;
+}
+
+FolderListing FileManager::contentsOfDirectory(const FileURL& folder) {
+    FolderListing listing;
+    std::error_code code;
+    for (fs::directory_iterator entry(folder.path(), code); !code && entry != end(entry);
+         entry.increment(code)) {
+        ++listing.entryCount;
+    }
+    listing.error = errorFrom(code);
+    return listing;
+}
+
+std::optional<Error> FileManager::createDirectory(const std::string& path) {
+    std::error_code code;
+    fs::create_directories(path, code);
+    return errorFrom(code);
+}
+
+std::optional<Error> FileManager::removeItem(const std::string& path) {
+    if (rmdir(path.c_str()) == 0) return std::nullopt;
+    return errorFrom(std::error_code(errno, std::generic_category()));
+}
+
+}  // namespace brisel::platform::linux

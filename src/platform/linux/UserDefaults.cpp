@@ -1,0 +1,117 @@
+// The preferences in a key file.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/UserDefaults.h"
+
+#include <filesystem>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "platform/linux/GLibOwners.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* Group = "Brisel";
+constexpr int PrivateFolder = 0700;
+
+std::string freeNameBeside(const std::string& path) {
+    std::error_code code;
+    std::string name = path + ".malformed";
+    for (int number = 2; fs::exists(name, code); ++number) {
+        name = path + ".malformed-" + std::to_string(number);
+    }
+    return name;
+}
+
+}  // namespace
+
+UserDefaults::UserDefaults(platform::SystemLog& log, std::string path)
+    : log_(log), path_(std::move(path)) {
+    load();
+}
+
+std::string UserDefaults::defaultPath() {
+    return std::string(g_get_user_config_dir()) + "/brisel/preferences.conf";
+}
+
+void UserDefaults::load() {
+    CallError error;
+    if (g_key_file_load_from_file(file_.get(), path_.c_str(), G_KEY_FILE_KEEP_COMMENTS,
+                                  error.receive()) != FALSE ||
+        g_error_matches(error.get(), G_FILE_ERROR, G_FILE_ERROR_NOENT) != FALSE) {
+        return;
+    }
+    log_.log("The preferences in %@ cannot be read: %@", path_, error.message());
+    file_.reset(g_key_file_new());
+    setAside();
+}
+
+void UserDefaults::setAside() {
+    const auto name = freeNameBeside(path_);
+    std::error_code code;
+    fs::rename(path_, name, code);
+    mayWrite_ = !code;
+    if (mayWrite_) {
+        log_.log("They are kept as %@; starting on defaults.", name);
+    } else {
+        log_.log("They stay where they are; starting on defaults, which will not be saved.");
+    }
+}
+
+void UserDefaults::registerDefaults(const std::map<std::string, bool>& defaults) {
+    for (const auto& [key, value] : defaults)
+        registered_.insert_or_assign(key, value);
+}
+
+bool UserDefaults::boolForKey(std::string_view key) const {
+    CallError error;
+    const bool stored = g_key_file_get_boolean(file_.get(), Group, std::string(key).c_str(),
+                                               error.receive()) != FALSE;
+    if (!error) return stored;
+    const auto found = registered_.find(key);
+    return found != registered_.end() && found->second;
+}
+
+UserDefaults::StringArray UserDefaults::stringArrayForKey(std::string_view key) const {
+    gsize count = 0;
+    const std::unique_ptr<char*, decltype(&g_strfreev)> texts(
+        g_key_file_get_string_list(file_.get(), Group, std::string(key).c_str(), &count, nullptr),
+        &g_strfreev);
+    if (!texts) return nullptr;
+    return std::make_shared<const std::vector<std::string>>(texts.get(), texts.get() + count);
+}
+
+void UserDefaults::setBool(std::string_view key, bool value) {
+    g_key_file_set_boolean(file_.get(), Group, std::string(key).c_str(), value ? TRUE : FALSE);
+    changed_ = true;
+    synchronize();
+}
+
+void UserDefaults::setStringArray(std::string_view key, StringArray value) {
+    std::vector<const char*> texts;
+    for (const auto& text : *value)
+        texts.push_back(text.c_str());
+    // GLib wants a vector even for no texts at all.
+    texts.push_back(nullptr);
+    g_key_file_set_string_list(file_.get(), Group, std::string(key).c_str(), texts.data(),
+                               texts.size() - 1);
+    changed_ = true;
+    synchronize();
+}
+
+void UserDefaults::synchronize() {
+    if (!changed_ || !mayWrite_) return;
+    g_mkdir_with_parents(fs::path(path_).parent_path().c_str(), PrivateFolder);
+    CallError error;
+    if (g_key_file_save_to_file(file_.get(), path_.c_str(), error.receive()) == FALSE) {
+        log_.log("The preferences cannot be written: %@", error.message());
+        return;
+    }
+    changed_ = false;
+}
+
+}  // namespace brisel::platform::linux

@@ -1,0 +1,87 @@
+// The status item and its menu as lines on the terminal.
+// SPDX-License-Identifier: MIT
+#include "platform/terminal/StatusDisplay.h"
+
+#include <array>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace brisel::platform::terminal {
+
+namespace {
+
+struct State {
+    std::string_view colour;
+    std::string_view words;
+};
+
+constexpr std::array States{State{"grey", "no NTFS volume"},
+                            State{"green", "a volume is read-only"},
+                            State{"blue", "a volume is writable"}, State{"orange", "working"},
+                            State{"red", "something went wrong"}};
+
+std::string_view wordsFor(const std::string& imageName) {
+    for (const auto& state : States) {
+        if (imageName.find(state.colour) != std::string::npos) return state.words;
+    }
+    return "";
+}
+
+bool isChoosable(const MenuItem& item) {
+    return !item.separator && !item.action.empty();
+}
+
+std::vector<const MenuItem*> choosableItems(const common::Menu& menu) {
+    std::vector<const MenuItem*> items;
+    for (const auto& item : menu.items()) {
+        if (isChoosable(item)) items.push_back(&item);
+    }
+    return items;
+}
+
+}  // namespace
+
+void StatusDisplay::setImage(const std::optional<std::string>& name) {
+    state_ = wordsFor(name.value_or(""));
+    pending_ = linux::MainContextWork([this] { showIfChanged(); });
+}
+
+std::string StatusDisplay::text() const {
+    std::string text = "[Brisel: " + state_ + "]\n";
+    std::size_t number = 0;
+    for (const auto& item : menu_.items()) {
+        if (item.separator) {
+            text += "      ----\n";
+        } else if (isChoosable(item)) {
+            const auto digits = std::to_string(++number);
+            text += std::string(digits.size() < 2 ? "   " : "  ") + digits + "  " +
+                    visible(item.title) + (item.checked ? " [x]" : "") + "\n";
+        } else {
+            text += "      " + visible(item.title) + "\n";
+        }
+    }
+    return text;
+}
+
+void StatusDisplay::showIfChanged() {
+    if (text() != shown_) show();
+}
+
+void StatusDisplay::show() {
+    shown_ = text();
+    std::string_view rest = shown_;
+    while (!rest.empty()) {
+        const auto end = rest.find('\n');
+        terminal_.print(rest.substr(0, end));
+        rest.remove_prefix(end + 1);
+    }
+}
+
+const MenuItem* StatusDisplay::itemWithNumber(const std::string& number) const {
+    const auto items = choosableItems(menu_);
+    const auto position = numberUpTo(number, items.size());
+    return position ? items[*position - 1] : nullptr;
+}
+
+}  // namespace brisel::platform::terminal

@@ -1,0 +1,123 @@
+// Lines in from the terminal, lines out to it.
+// SPDX-License-Identifier: MIT
+#include "platform/terminal/Terminal.h"
+
+#include <glib-unix.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <utility>
+
+namespace brisel::platform::terminal {
+
+namespace {
+
+constexpr unsigned char Delete = 0x7F;
+constexpr unsigned char FirstPrintable = 0x20;
+constexpr unsigned char CaretOffset = 0x40;
+// In UTF-8 the control characters U+0080 to U+009F are this byte and one from 0x80 to 0x9F.
+constexpr unsigned char C1Lead = 0xC2;
+constexpr unsigned char C1Last = 0x9F;
+
+using Handler = std::function<bool()>;
+
+gboolean callHandler(gint /*descriptor*/, GIOCondition /*condition*/, gpointer data) {
+    return (*static_cast<Handler*>(data))() ? G_SOURCE_CONTINUE : G_SOURCE_REMOVE;
+}
+
+void deleteHandler(gpointer data) {
+    delete static_cast<Handler*>(data);
+}
+
+}  // namespace
+
+std::string visible(std::string_view text) {
+    std::string shown;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        const auto byte = static_cast<unsigned char>(text[index]);
+        const auto next =
+            index + 1 < text.size() ? static_cast<unsigned char>(text[index + 1]) : Delete;
+        if (byte < FirstPrintable || byte == Delete) {
+            shown += '^';
+            shown += static_cast<char>(byte ^ CaretOffset);
+        } else if (byte == C1Lead && next > Delete && next <= C1Last) {
+            shown += '?';
+            ++index;
+        } else {
+            shown += text[index];
+        }
+    }
+    return shown;
+}
+
+std::optional<std::size_t> numberUpTo(const std::string& text, std::size_t most) {
+    std::size_t number = 0;
+    const auto* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    const bool fits = result.ec == std::errc() && result.ptr == end && number >= 1;
+    return fits && number <= most ? std::optional(number) : std::nullopt;
+}
+
+void Terminal::print(std::string_view text) {
+    output_ << visible(text) << '\n';
+    output_.flush();
+}
+
+std::optional<std::string> Terminal::ask(std::string_view question) {
+    output_ << visible(question) << ' ';
+    output_.flush();
+    while (true) {
+        if (auto line = takeLine()) return line;
+        if (!readMore()) return std::nullopt;
+    }
+}
+
+Subscription Terminal::handleLines(LineHandler handler) {
+    handler_ = std::move(handler);
+    auto* const readable = new Handler([this] {
+        readMore();
+        handOutLines();
+        return !ended_;
+    });
+    const guint source = g_unix_fd_add_full(
+        G_PRIORITY_DEFAULT, input_, static_cast<GIOCondition>(G_IO_IN | G_IO_HUP | G_IO_ERR),
+        &callHandler, readable, &deleteHandler);
+    return Subscription([this, source] {
+        handler_ = nullptr;
+        if (!ended_) g_source_remove(source);
+    });
+}
+
+void Terminal::handOutLines() {
+    while (handler_) {
+        const auto line = takeLine();
+        if (!line && !ended_) return;
+        const auto handler = handler_;
+        handler(line);
+        if (!line) return;
+    }
+}
+
+bool Terminal::readMore() {
+    constexpr std::size_t ChunkSize = 1024;
+    std::array<char, ChunkSize> chunk{};
+    ssize_t count = 0;
+    do {
+        count = read(input_, chunk.data(), chunk.size());
+    } while (count < 0 && errno == EINTR);
+    if (count > 0) typed_.append(chunk.data(), static_cast<std::size_t>(count));
+    ended_ = count <= 0;
+    return !ended_;
+}
+
+std::optional<std::string> Terminal::takeLine() {
+    const auto end = typed_.find('\n');
+    if (end == std::string::npos) return std::nullopt;
+    auto line = typed_.substr(0, end);
+    typed_.erase(0, end + 1);
+    return line;
+}
+
+}  // namespace brisel::platform::terminal

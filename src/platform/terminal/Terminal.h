@@ -1,0 +1,51 @@
+// Lines in from the terminal, lines out to it.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "platform/Subscription.h"
+
+namespace brisel::platform::terminal {
+
+/// Main thread only. What is typed while nobody asks goes to the line handler, as GLib's main
+/// loop turns; while somebody asks, that one gets the next line.
+class Terminal {
+  public:
+    /// A line without its end; none at the end of input.
+    using LineHandler = std::function<void(const std::optional<std::string>& line)>;
+
+    /// `input` is a descriptor, which stays the caller's.
+    Terminal(int input, std::ostream& output) : input_(input), output_(output) {}
+
+    /// Prints the text and a line end. Control characters, which a volume's label may hold, are
+    /// made visible, so that nothing but the program's own lines steers the terminal.
+    void print(std::string_view text);
+    /// Blocks until a line was typed; none at the end of input.
+    [[nodiscard]] std::optional<std::string> ask(std::string_view question);
+    [[nodiscard]] Subscription handleLines(LineHandler handler);
+
+  private:
+    /// False at the end of input.
+    bool readMore();
+    [[nodiscard]] std::optional<std::string> takeLine();
+    void handOutLines();
+
+    int input_;
+    std::ostream& output_;
+    std::string typed_;
+    bool ended_ = false;
+    LineHandler handler_;
+};
+
+/// The text with its control characters made visible: `^[` for escape, and so on.
+std::string visible(std::string_view text);
+
+/// The number if the text is one from 1 to `most`.
+std::optional<std::size_t> numberUpTo(const std::string& text, std::size_t most);
+
+}  // namespace brisel::platform::terminal

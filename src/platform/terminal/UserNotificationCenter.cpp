@@ -1,0 +1,66 @@
+// Notifications as questions on the terminal.
+// SPDX-License-Identifier: MIT
+#include "platform/terminal/UserNotificationCenter.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace brisel::platform::terminal {
+
+namespace {
+
+// For the first action and those after it.
+constexpr std::string_view Letters = "yn";
+
+}  // namespace
+
+Subscription UserNotificationCenter::setDelegate(ResponseHandler handler) {
+    return responses_.subscribe(std::move(handler));
+}
+
+void UserNotificationCenter::setNotificationCategories(
+    const std::vector<NotificationCategory>& categories) {
+    categories_ = categories;
+}
+
+void UserNotificationCenter::requestAuthorization(unsigned /*options*/,
+                                                  AuthorizationHandler handler) {
+    handler(true, std::nullopt);
+}
+
+void UserNotificationCenter::addNotificationRequest(const NotificationRequest& request,
+                                                    AddHandler handler) {
+    latest_ = request;
+    std::string question = "? " + request.title + ". " + request.body;
+    const auto& actions = actionsOf(request);
+    for (std::size_t index = 0; index < std::min(actions.size(), Letters.size()); ++index) {
+        question += std::string("  ") + Letters[index] + " = " + actions[index].title;
+    }
+    terminal_.print(question);
+    handler(std::nullopt);
+}
+
+bool UserNotificationCenter::answer(const std::string& line) {
+    if (!latest_ || line.size() != 1) return false;
+    const auto index = Letters.find(line.front());
+    const auto& actions = actionsOf(*latest_);
+    if (index >= actions.size()) return false;
+    const auto request = *std::exchange(latest_, std::nullopt);
+    responses_({.requestIdentifier = request.identifier,
+                .actionIdentifier = actions[index].identifier,
+                .userInfo = request.userInfo},
+               [] {});
+    return true;
+}
+
+const std::vector<NotificationAction>& UserNotificationCenter::actionsOf(
+    const NotificationRequest& request) const {
+    static const std::vector<NotificationAction> none;
+    for (const auto& category : categories_) {
+        if (category.identifier == request.categoryIdentifier) return category.actions;
+    }
+    return none;
+}
+
+}  // namespace brisel::platform::terminal
