@@ -1,0 +1,46 @@
+# What there is to do with the sources; CMakePresets.json says how each build is made.
+.PHONY: all run test bench coverage tidy format clean
+
+all:
+	scripts/install-needs build
+	cmake --preset release
+	cmake --build --preset release
+
+run:
+	scripts/install-needs run
+	cmake --preset release
+	cmake --build --preset release
+	scripts/main-job build/bin
+
+# Both compilers, all tests under the address, undefined-behaviour and leak sanitizers, those with
+# threads under the thread sanitizer, the fuzzers for a short while, and the linters.
+test:
+	scripts/install-needs test
+	cmake --preset release
+	cmake --build --preset release
+	cmake --preset asan
+	cmake --build --preset asan
+	cmake --preset tsan
+	cmake --build --preset tsan
+	ctest --preset tsan
+	ctest --preset asan -j 2
+
+bench:
+	scripts/install-needs bench
+	cmake --preset bench
+	cmake --build --preset bench
+	build/bin/brisel-benchmarks
+
+coverage:
+	scripts/install-needs test
+	scripts/coverage
+
+tidy:
+	scripts/install-needs test
+	scripts/tidy
+
+format:
+	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+
+clean:
+	rm -rf build

@@ -1,0 +1,27 @@
+// A folder that goes with its owner.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+namespace brisel::tests {
+
+class TemporaryFolder {
+  public:
+    TemporaryFolder() {
+        std::string name = std::filesystem::temp_directory_path() / "brisel-XXXXXX";
+        path_ = mkdtemp(name.data());
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+
+    [[nodiscard]] const std::string& path() const { return path_; }
+
+  private:
+    std::string path_;
+};
+
+}  // namespace brisel::tests
