@@ -14,21 +14,21 @@
 namespace brisel::platform {
 
 /// Status codes of Disk Arbitration (DADissenter.h), as unsigned values.
-namespace DAReturn {
-inline constexpr std::uint32_t Success = 0;
-inline constexpr std::uint32_t Error = 0xF8DA0001;
-inline constexpr std::uint32_t Busy = 0xF8DA0002;
-inline constexpr std::uint32_t BadArgument = 0xF8DA0003;
-inline constexpr std::uint32_t ExclusiveAccess = 0xF8DA0004;
-inline constexpr std::uint32_t NoResources = 0xF8DA0005;
-inline constexpr std::uint32_t NotFound = 0xF8DA0006;
-inline constexpr std::uint32_t NotMounted = 0xF8DA0007;
-inline constexpr std::uint32_t NotPermitted = 0xF8DA0008;
-inline constexpr std::uint32_t NotPrivileged = 0xF8DA0009;
-inline constexpr std::uint32_t NotReady = 0xF8DA000A;
-inline constexpr std::uint32_t NotWritable = 0xF8DA000B;
-inline constexpr std::uint32_t Unsupported = 0xF8DA000C;
-}  // namespace DAReturn
+struct DAReturn {
+    static constexpr std::uint32_t Success = 0;
+    static constexpr std::uint32_t Error = 0xF8DA0001;
+    static constexpr std::uint32_t Busy = 0xF8DA0002;
+    static constexpr std::uint32_t BadArgument = 0xF8DA0003;
+    static constexpr std::uint32_t ExclusiveAccess = 0xF8DA0004;
+    static constexpr std::uint32_t NoResources = 0xF8DA0005;
+    static constexpr std::uint32_t NotFound = 0xF8DA0006;
+    static constexpr std::uint32_t NotMounted = 0xF8DA0007;
+    static constexpr std::uint32_t NotPermitted = 0xF8DA0008;
+    static constexpr std::uint32_t NotPrivileged = 0xF8DA0009;
+    static constexpr std::uint32_t NotReady = 0xF8DA000A;
+    static constexpr std::uint32_t NotWritable = 0xF8DA000B;
+    static constexpr std::uint32_t Unsupported = 0xF8DA000C;
+};
 
 /// A disk object: a device that may be gone, and what a report said of it.
 struct Disk {

@@ -28,6 +28,12 @@ std::string userLanguage() {
     return locale.substr(0, locale.find_first_of("_.@"));
 }
 
+void choose(const platform::MenuItem& item) {
+    // The menu may be rebuilt by what the item does.
+    const auto sender = item;
+    sender.target(sender);
+}
+
 }  // namespace
 
 Console::Console(int input, std::ostream& output) : terminal_(input, output) {
@@ -65,12 +71,6 @@ void Console::carryOut(const std::optional<std::string>& line) {
     } else if (!userNotificationCenter_.answer(*line) && !line->empty()) {
         terminal_.print(Help);
     }
-}
-
-void Console::choose(const platform::MenuItem& item) {
-    // The menu may be rebuilt by what the item does.
-    const auto sender = item;
-    sender.target(sender);
 }
 
 }  // namespace brisel::console

@@ -43,7 +43,6 @@ class Console {
 
   private:
     void carryOut(const std::optional<std::string>& line);
-    void choose(const platform::MenuItem& item);
 
     platform::terminal::Terminal terminal_;
     platform::linux::SystemLog systemLog_{

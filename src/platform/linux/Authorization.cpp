@@ -78,6 +78,7 @@ StartedTool Authorization::executeWithPrivileges(AuthorizationRef /*authorizatio
     for (; *arguments != nullptr; ++arguments)
         words.emplace_back(*arguments);
     std::vector<char*> vector;
+    vector.reserve(words.size() + 1);
     for (auto& word : words)
         vector.push_back(word.data());
     vector.push_back(nullptr);

@@ -58,8 +58,8 @@ std::string textOfBytes(const Bytes& bytes) {
     std::string text;
     for (const auto byte : bytes) {
         if (isHyphenPlace(text.size())) text += '-';
-        text += Digits[byte >> 4U];
-        text += Digits[byte & 0xFU];
+        text += Digits[byte / Digits.size()];
+        text += Digits[byte % Digits.size()];
     }
     return text;
 }
@@ -70,7 +70,8 @@ Bytes sha1(const Bytes& start, std::string_view rest) {
     g_checksum_update(checksum.get(), start.data(), static_cast<gssize>(start.size()));
     g_checksum_update(checksum.get(), reinterpret_cast<const guchar*>(rest.data()),
                       static_cast<gssize>(rest.size()));
-    std::array<std::uint8_t, 20> digest{};
+    constexpr std::size_t DigestBytes = 20;
+    std::array<std::uint8_t, DigestBytes> digest{};
     gsize length = digest.size();
     g_checksum_get_digest(checksum.get(), digest.data(), &length);
     Bytes first{};
@@ -78,11 +79,17 @@ Bytes sha1(const Bytes& start, std::string_view rest) {
     return first;
 }
 
-// Version 5 in the high bits of byte 6, the RFC's variant in those of byte 8.
+// RFC 4122, section 4.3, with version 5 and the RFC's own variant.
 std::string nameBasedUUID(std::string_view name) {
+    constexpr std::size_t VersionByte = 6;
+    constexpr std::size_t VariantByte = 8;
+    constexpr unsigned VersionMask = 0x0F;
+    constexpr unsigned Version = 0x50;
+    constexpr unsigned VariantMask = 0x3F;
+    constexpr unsigned Variant = 0x80;
     auto bytes = sha1(bytesOf(SerialNamespace), name);
-    bytes[6] = static_cast<std::uint8_t>((bytes[6] & 0x0FU) | 0x50U);
-    bytes[8] = static_cast<std::uint8_t>((bytes[8] & 0x3FU) | 0x80U);
+    bytes[VersionByte] = static_cast<std::uint8_t>((bytes[VersionByte] & VersionMask) | Version);
+    bytes[VariantByte] = static_cast<std::uint8_t>((bytes[VariantByte] & VariantMask) | Variant);
     return textOfBytes(bytes);
 }
 

@@ -52,8 +52,8 @@ class DiskService {
     void noteOwner();
     void askForRestart() const;
     [[nodiscard]] OwnedObject<UDisksFilesystem> filesystem(const std::string& device) const;
-    static void finishUnmount(GObject* source, GAsyncResult* result, gpointer call);
-    static void finishMount(GObject* source, GAsyncResult* result, gpointer call);
+    static void finishUnmount(GObject* source, GAsyncResult* result, gpointer data);
+    static void finishMount(GObject* source, GAsyncResult* result, gpointer data);
 
     platform::SystemLog& log_;
     Changed changed_;

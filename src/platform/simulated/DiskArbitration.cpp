@@ -107,7 +107,7 @@ void DiskArbitration::complete(const Disk& disk, std::optional<std::uint32_t> re
         completion({.bsdName = name, .reported = std::nullopt}, dissenter);
     };
     if (holding_) {
-        held_.push_back(std::move(work));
+        held_.emplace_back(std::move(work));
     } else {
         mainLoop_.post(std::move(work));
     }
