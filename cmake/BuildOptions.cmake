@@ -19,6 +19,12 @@ if(BRISEL_SANITIZERS)
   endif()
 endif()
 
+# Coverage for the fuzz targets to go by; only they link the fuzzer itself.
+if(BRISEL_FUZZERS AND CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  target_compile_options(brisel_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(brisel_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(BRISEL_COVERAGE)
   target_compile_options(brisel_options INTERFACE --coverage -fprofile-update=atomic)
   target_link_options(brisel_options INTERFACE --coverage)

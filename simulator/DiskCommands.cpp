@@ -107,15 +107,14 @@ Complaint detach(Stage& stage, const Words& arguments) {
 }
 
 Complaint refuse(Stage& stage, const Words& arguments) {
-    const auto status = arguments.size() == 3 ? parseNumber(arguments[2]) : std::nullopt;
+    const auto status = arguments.size() == 3 ? parseStatus(arguments[2]) : std::nullopt;
     if (!status) return misused("refuse");
     auto& disks = stage.mac.diskArbitration;
-    const auto code = static_cast<std::uint32_t>(*status);
     if (!disks.wasEverAttached(arguments[1])) return "there never was such a disk";
     if (arguments[0] == "unmount") {
-        disks.refuseUnmount(arguments[1], code);
+        disks.refuseUnmount(arguments[1], *status);
     } else if (arguments[0] == "mount") {
-        disks.refuseMount(arguments[1], code);
+        disks.refuseMount(arguments[1], *status);
     } else {
         return misused("refuse");
     }

@@ -17,7 +17,7 @@ std::string itemLine(const platform::MenuItem& item) {
     auto line = platform::stringWithFormat("item: tag=%i", item.tag);
     if (item.separator) return line + " ---";
     line += platform::stringWithFormat(R"( title="%@")", item.title);
-    if (!item.action.empty()) line += " action=" + item.action;
+    if (!item.action.empty()) line += platform::stringWithFormat(" action=%@", item.action);
     const auto volume = volumeOf(item);
     if (volume) line += " volume=" + platform::textOf(volume->deviceNode);
     if (item.alignment) line += platform::stringWithFormat(" align=%i", *item.alignment);

@@ -82,7 +82,7 @@ std::optional<int> passwordStatus(const Words& arguments) {
     if (arguments == Words{"ok"}) return platform::errAuthorizationSuccess;
     if (arguments == Words{"cancel"}) return platform::errAuthorizationCanceled;
     if (arguments.size() != 2 || arguments[0] != "fail") return std::nullopt;
-    const auto code = parseNumber(arguments[1]);
+    const auto code = parseStatus(arguments[1]);
     return code ? std::optional(static_cast<int>(*code)) : std::nullopt;
 }
 

@@ -1,6 +1,8 @@
 // Commands that change what surrounds the program, disks apart.
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <array>
+#include <csignal>
 
 #include "simulator/Commands.h"
 
@@ -11,7 +13,14 @@ namespace {
 namespace simulated = platform::simulated;
 
 constexpr std::int64_t MostExitStatus = 255;
-constexpr std::int64_t MostSignal = 31;
+// Those that end a process unless it does something about them.
+constexpr std::array<std::int64_t, 16> EndingSignals{
+    SIGHUP,  SIGINT,  SIGQUIT, SIGILL,  SIGTRAP, SIGABRT, SIGBUS,  SIGFPE,
+    SIGKILL, SIGUSR1, SIGSEGV, SIGUSR2, SIGPIPE, SIGALRM, SIGTERM, SIGSYS};
+
+bool endsProcess(std::int64_t signal) {
+    return std::find(EndingSignals.begin(), EndingSignals.end(), signal) != EndingSignals.end();
+}
 
 Complaint tool(Stage& stage, const Words& arguments) {
     simulated::Authorization::ToolEnd end;
@@ -20,7 +29,7 @@ Complaint tool(Stage& stage, const Words& arguments) {
     if (!number) return misused("tool");
     if (ending->first == "exit" && *number >= 0 && *number <= MostExitStatus) {
         end.exitStatus = static_cast<int>(*number);
-    } else if (ending->first == "signal" && *number > 0 && *number <= MostSignal) {
+    } else if (ending->first == "signal" && endsProcess(*number)) {
         end.signal = static_cast<int>(*number);
     } else {
         return misused("tool");
@@ -43,7 +52,7 @@ Complaint launch(Stage& stage, const Words& arguments) {
         return std::nullopt;
     }
     const bool fails = arguments.size() == 2 && arguments[0] == "fail";
-    const auto code = fails ? parseNumber(arguments[1]) : std::nullopt;
+    const auto code = fails ? parseStatus(arguments[1]) : std::nullopt;
     if (!code || *code == 0) return misused("launch");
     stage.mac.authorization.failLaunch(static_cast<platform::OSStatus>(*code));
     return std::nullopt;

@@ -3,6 +3,7 @@
 #include "simulator/Words.h"
 
 #include <charconv>
+#include <limits>
 
 namespace brisel::simulator {
 
@@ -98,6 +99,13 @@ std::optional<std::int64_t> parseNumber(std::string_view word) {
         std::from_chars(word.data(), end, number, hexadecimal ? Hexadecimal : Decimal);
     if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
     return number;
+}
+
+std::optional<std::uint32_t> parseStatus(std::string_view word) {
+    const auto number = parseNumber(word);
+    const bool fits = number && *number >= std::numeric_limits<std::int32_t>::min() &&
+                      *number <= std::numeric_limits<std::uint32_t>::max();
+    return fits ? std::optional(static_cast<std::uint32_t>(*number)) : std::nullopt;
 }
 
 }  // namespace brisel::simulator

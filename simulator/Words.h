@@ -23,4 +23,7 @@ std::optional<std::pair<std::string, std::string>> splitKeyAndValue(const std::s
 /// A whole number, decimal with an optional minus, or hexadecimal after 0x.
 std::optional<std::int64_t> parseNumber(std::string_view word);
 
+/// The same for a status of 32 bits, which may be written as a signed or an unsigned number.
+std::optional<std::uint32_t> parseStatus(std::string_view word);
+
 }  // namespace brisel::simulator

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <unistd.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string_view>
@@ -34,19 +35,22 @@ int runScript(std::istream& stream) {
 int runInTerminal() {
     std::cout << "Brisel on a simulated Mac. Type \"start\", then for example\n"
                  "  attach disk4s1 kind=ntfs name=Data path=/Volumes/Data\n"
-                 "\"help\" lists all commands, \"quit\" ends.\n";
+                 "\"help\" lists all commands, \"quit\" ends.\n"
+              << std::flush;
     TerminalSource source;
     Scenario::Manner manner;
     manner.onBadCommand = Scenario::OnBadCommand::GoOn;
     manner.echo = Scenario::Echo::Nothing;
-    manner.badCommandHandler = [](const Scenario::BadCommand& bad) { printLine(bad.complaint); };
-    Scenario(source, printLine, manner).run();
+    // What the program did must be seen before the next prompt, which another library writes.
+    const auto show = [](const std::string& line) { std::cout << line << std::endl; };
+    manner.badCommandHandler = [show](const Scenario::BadCommand& bad) { show(bad.complaint); };
+    Scenario(source, show, manner).run();
     return 0;
 }
 
 int runFile(const char* path) {
     std::ifstream file(path);
-    if (!file) {
+    if (!file || std::filesystem::is_directory(path)) {
         std::cerr << "brisel-simulator: cannot read " << path << '\n';
         return BadUse;
     }

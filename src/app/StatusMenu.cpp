@@ -24,17 +24,25 @@ constexpr std::array GeneratedTags{MainTag, SecondaryTag};
 // where the platform numbers its alignments differently. Deliberate.
 constexpr int SecondaryAlignment = 1;
 
+/// What a menu item lets the manager do.
 struct Action {
-    const char* selector;
-    void (NTFSVolumeManager::*method)(const MenuItem& sender);
+    std::string_view selector;
+    MenuItem::Target (*on)(NTFSVolumeManager& manager);
 };
 
-constexpr Action ShowInFinder{"showInFinder:", &NTFSVolumeManager::showInFinder};
-constexpr Action Remount{"remountVolume:", &NTFSVolumeManager::remountVolume};
-constexpr Action Unmount{"unmountVolume:", &NTFSVolumeManager::unmountVolume};
-constexpr Action CleanUp{"cleanupFinderInfo:", &NTFSVolumeManager::cleanupFinderInfo};
-constexpr Action Save{"saveVolumeForAutomount:", &NTFSVolumeManager::saveVolumeForAutomount};
-constexpr Action Unsave{"unsaveVolumeForAutomount:", &NTFSVolumeManager::unsaveVolumeForAutomount};
+// The method is no part of what the target holds, so that the target needs no memory of its own.
+template <auto Method>
+MenuItem::Target target(NTFSVolumeManager& manager) {
+    return [&manager](const MenuItem& sender) { (manager.*Method)(sender); };
+}
+
+using Manager = NTFSVolumeManager;
+constexpr Action ShowInFinder{"showInFinder:", &target<&Manager::showInFinder>};
+constexpr Action Remount{"remountVolume:", &target<&Manager::remountVolume>};
+constexpr Action Unmount{"unmountVolume:", &target<&Manager::unmountVolume>};
+constexpr Action CleanUp{"cleanupFinderInfo:", &target<&Manager::cleanupFinderInfo>};
+constexpr Action Save{"saveVolumeForAutomount:", &target<&Manager::saveVolumeForAutomount>};
+constexpr Action Unsave{"unsaveVolumeForAutomount:", &target<&Manager::unsaveVolumeForAutomount>};
 
 MenuItem statusLine(std::string title) {
     MenuItem item;
@@ -56,9 +64,7 @@ MenuItem volumeItem(NTFSVolumeManager& manager, const std::shared_ptr<NTFSVolume
     item.tag = MainTag;
     item.title = std::move(title);
     item.action = action.selector;
-    item.target = [&manager, method = action.method](const MenuItem& sender) {
-        (manager.*method)(sender);
-    };
+    item.target = action.on(manager);
     item.representedObject = volume;
     return item;
 }

@@ -17,10 +17,18 @@ std::size_t placeholderLength(std::string_view text) {
     return found == Placeholders.end() ? 0 : found->size();
 }
 
+std::size_t longestResult(std::string_view format, std::span<const FormatArgument> arguments) {
+    std::size_t length = format.size();
+    for (const auto& argument : arguments)
+        length += argument.text().size();
+    return length;
+}
+
 }  // namespace
 
 std::string stringWithFormat(std::string_view format, std::span<const FormatArgument> arguments) {
     std::string text;
+    text.reserve(longestResult(format, arguments));
     while (!format.empty()) {
         const std::size_t length = placeholderLength(format);
         if (length == 0 || arguments.empty()) {

@@ -29,8 +29,9 @@ struct MenuItem {
     std::string title;
     /// NSTextAlignment's raw value over the whole title, where the title is an attributed one.
     std::optional<int> alignment;
-    /// The selector's name, such as "remountVolume:"; empty for an item that does nothing.
-    std::string action;
+    /// The selector's name, a literal such as "remountVolume:"; empty for an item that does
+    /// nothing.
+    std::string_view action;
     /// Carries the action out; the item itself is the sender.
     Target target;
     std::shared_ptr<RepresentedObject> representedObject;

@@ -101,7 +101,7 @@ TEST_F(Screen, NumbersTheMenuItemsThatCanBeChosen) {
     second.action = "second:";
     second.checked = true;
     menu.load({title, separator, first, second});
-    StatusDisplay display(*terminal_, menu);
+    StatusDisplay display(*terminal_, menu, [](const auto&) { return Subscription(); });
     display.show();
     EXPECT_THAT(shown(), HasSubstr("      Status\n      ----\n   1  First\n   2  Second [x]\n"));
     EXPECT_EQ(display.itemWithNumber("2")->title, "Second");

@@ -58,7 +58,8 @@ class Console {
     platform::terminal::LoginItems loginItems_;
     platform::linux::RunLoop runLoop_;
     platform::linux::ScriptRunner scriptRunner_;
-    platform::terminal::StatusDisplay statusItem_{terminal_, statusMenu_};
+    platform::terminal::StatusDisplay statusItem_{terminal_, statusMenu_,
+                                                  &platform::linux::whenMainLoopTurns};
     platform::linux::SystemVersion systemVersion_;
     platform::linux::UserDefaults userDefaults_{systemLog_,
                                                 platform::linux::UserDefaults::defaultPath()};

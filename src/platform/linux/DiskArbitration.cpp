@@ -7,6 +7,7 @@
 #include <array>
 #include <utility>
 
+#include "platform/linux/MainContext.h"
 #include "platform/linux/MountInfo.h"
 #include "platform/linux/UDisksErrors.h"
 
@@ -59,7 +60,7 @@ Subscription DiskArbitration::registerDiskDisappearedCallback(DiskCallback callb
 }
 
 void DiskArbitration::scheduleWithRunLoop() {
-    firstComparison_ = MainContextWork([this] {
+    firstComparison_ = whenMainLoopTurns([this] {
         scheduled_ = true;
         compare();
     });

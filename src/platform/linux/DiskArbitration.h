@@ -9,7 +9,6 @@
 #include "platform/common/Signal.h"
 #include "platform/DiskArbitration.h"
 #include "platform/linux/DiskService.h"
-#include "platform/linux/MainContext.h"
 #include "platform/SystemLog.h"
 
 namespace brisel::platform::linux {
@@ -47,7 +46,7 @@ class DiskArbitration final : public platform::DiskArbitration {
 
     platform::SystemLog& log_;
     std::unique_ptr<DiskService> service_;
-    MainContextWork firstComparison_;
+    Subscription firstComparison_;
     bool scheduled_ = false;
     /// What was reported as appeared, with the newest description of each.
     Disks reported_;

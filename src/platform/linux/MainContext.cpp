@@ -38,8 +38,9 @@ Subscription attach(GSource* source, GSourceFunc function, Work work) {
 
 }  // namespace
 
-MainContextWork::MainContextWork(std::function<void()> work)
-    : source_(attach(g_idle_source_new(), &runOnce, std::move(work))) {}
+Subscription whenMainLoopTurns(std::function<void()> work) {
+    return attach(g_idle_source_new(), &runOnce, std::move(work));
+}
 
 Subscription RunLoop::scheduledTimer(std::chrono::milliseconds interval,
                                      std::function<void()> fire) {

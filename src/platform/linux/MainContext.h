@@ -12,15 +12,8 @@
 
 namespace brisel::platform::linux {
 
-/// Work that waits for the main loop to turn; dropped when the owner goes first.
-class MainContextWork {
-  public:
-    MainContextWork() = default;
-    explicit MainContextWork(std::function<void()> work);
-
-  private:
-    Subscription source_;
-};
+/// Lets `work` wait for the main loop to turn; it is dropped when the subscription ends first.
+[[nodiscard]] Subscription whenMainLoopTurns(std::function<void()> work);
 
 class RunLoop final : public platform::RunLoop {
   public:

@@ -44,7 +44,7 @@ std::vector<const MenuItem*> choosableItems(const common::Menu& menu) {
 
 void StatusDisplay::setImage(const std::optional<std::string>& name) {
     state_ = wordsFor(name.value_or(""));
-    pending_ = linux::MainContextWork([this] { showIfChanged(); });
+    pending_ = later_([this] { showIfChanged(); });
 }
 
 std::string StatusDisplay::text() const {

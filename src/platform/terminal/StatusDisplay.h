@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/common/Menu.h"
-#include "platform/linux/MainContext.h"
 #include "platform/StatusItem.h"
 #include "platform/terminal/Terminal.h"
 
@@ -16,8 +17,11 @@ namespace brisel::platform::terminal {
 /// differ from what was printed last.
 class StatusDisplay final : public platform::StatusItem {
   public:
-    StatusDisplay(Terminal& terminal, const common::Menu& menu)
-        : terminal_(terminal), menu_(menu) {}
+    /// Lets work wait for the main loop until the subscription ends.
+    using Later = std::function<Subscription(std::function<void()> work)>;
+
+    StatusDisplay(Terminal& terminal, const common::Menu& menu, Later later)
+        : terminal_(terminal), menu_(menu), later_(std::move(later)) {}
 
     void create(double /*length*/) override {}
     void showStatusMenu() override {}
@@ -44,7 +48,8 @@ class StatusDisplay final : public platform::StatusItem {
     const common::Menu& menu_;
     std::string state_;
     std::string shown_;
-    linux::MainContextWork pending_;
+    Later later_;
+    Subscription pending_;
 };
 
 }  // namespace brisel::platform::terminal

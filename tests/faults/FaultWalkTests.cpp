@@ -1,0 +1,193 @@
+// Every scenario again, with each call that can fail failing in turn.
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+#include "simulator/Scenario.h"
+#include "tests/faults/FaultExpectations.h"
+#include "tests/faults/ScenarioAndProbe.h"
+
+namespace brisel::tests {
+
+namespace {
+
+using Lines = std::vector<std::string>;
+using simulator::Scenario;
+using ::testing::Contains;
+using ::testing::StartsWith;
+
+/// Scenarios that are about bad commands stop at one, so there is nothing to walk.
+constexpr std::string_view BadCommandPrefix = "bad-";
+
+Lines scenarioNames() {
+    Lines names;
+    for (const auto& entry : std::filesystem::directory_iterator(BRISEL_SCENARIO_FOLDER)) {
+        const auto name = entry.path().stem().string();
+        const bool scenario = entry.path().extension() == ".scenario";
+        if (scenario && !name.starts_with(BadCommandPrefix)) names.push_back(name);
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+Lines readLines(const std::filesystem::path& file) {
+    std::ifstream stream(file);
+    Lines lines;
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+/// One run of a scenario with one of its calls failing.
+class FaultyRun {
+  public:
+    /// `failing` counts from 1; with 0 no call fails.
+    FaultyRun(const Lines& commands, std::size_t failing)
+        : source_(commands, transcript_),
+          scenario_(source_, [this](const std::string& line) { hear(line); },
+                    {.onBadCommand = Scenario::OnBadCommand::GoOn,
+                     .echo = Scenario::Echo::Nothing,
+                     .badCommandHandler = [](const Scenario::BadCommand&) {},
+                     .afterCommand = [this] { checkThatNoDeviceHasTwoRecords(); }}) {
+        scenario_.mac().faults.failCall(failing);
+        scenario_.run();
+        scenario_.mac().mainLoop.post([this] { loopTurned_ = true; });
+        scenario_.mac().mainLoop.turnUntilIdle();
+    }
+
+    [[nodiscard]] const platform::simulated::Faults& faults() { return scenario_.mac().faults; }
+    [[nodiscard]] const platform::Bundle& bundle() { return scenario_.mac().bundle; }
+    [[nodiscard]] bool loopTurned() const { return loopTurned_; }
+
+    [[nodiscard]] std::size_t transcriptSize() const {
+        std::size_t size = 0;
+        for (const auto& line : transcript_)
+            size += line.size();
+        return size;
+    }
+
+    /// Whether the program, or the simulation before it was started, has ended.
+    [[nodiscard]] bool hasEnded() {
+        const bool terminated =
+            std::find(transcript_.begin(), transcript_.end(), "terminate") != transcript_.end();
+        return terminated || !scenario_.program().started();
+    }
+
+    /// Up to the probe, where the fault came before it.
+    [[nodiscard]] std::span<const std::string> linesAfterTheFault() const {
+        const auto probed = transcript_.size() - linesOfTheProbe().size();
+        const auto end = probed >= linesBeforeFault_ ? probed : transcript_.size();
+        return std::span(transcript_).first(end).subspan(std::min(linesBeforeFault_, end));
+    }
+    /// What came of the probe; empty when nothing did.
+    [[nodiscard]] Lines linesOfTheProbe() const {
+        const auto appeared = std::string("log: disk ") + ScenarioAndProbe::ProbeDevice;
+        const auto found =
+            std::find(transcript_.begin(), transcript_.end(), appeared + " appeared");
+        return {found, transcript_.end()};
+    }
+
+  private:
+    void hear(const std::string& line) {
+        if (faults().struck().empty()) linesBeforeFault_ = transcript_.size() + 1;
+        transcript_.push_back(line);
+    }
+
+    void checkThatNoDeviceHasTwoRecords() {
+        const auto* const manager = scenario_.program().manager();
+        if (manager == nullptr) return;
+        std::set<std::optional<std::string>> devices;
+        for (const auto& volume : manager->volumes()) {
+            EXPECT_TRUE(devices.insert(volume->deviceNode).second)
+                << "two records of " << volume->deviceNode.value_or("no device");
+        }
+    }
+
+    Lines transcript_;
+    std::size_t linesBeforeFault_ = 0;
+    bool loopTurned_ = false;
+    ScenarioAndProbe source_;
+    Scenario scenario_;
+};
+
+void checkThatTheProgramLives(FaultyRun& run) {
+    EXPECT_TRUE(run.loopTurned());
+    if (run.hasEnded()) return;
+    const auto lines = run.linesOfTheProbe();
+    if (run.faults().struck() == "createSession") {
+        EXPECT_TRUE(lines.empty()) << "a session that was not opened reports a disk";
+        return;
+    }
+    EXPECT_THAT(lines, Contains(StartsWith("menu: "))) << "the probe did not rebuild the menu";
+}
+
+void checkThatTheFaultWasTold(FaultyRun& run) {
+    const auto& call = run.faults().struck();
+    const auto* const expectation = expectationFor(call);
+    ASSERT_NE(expectation, nullptr) << "what is to follow a failed " << call << '?';
+    // The completion of a request dies with a program that ends before it.
+    if (expectation->comes == Comes::WithCompletion && run.hasEnded()) return;
+    const auto lines = run.linesAfterTheFault();
+    EXPECT_TRUE(isMet(*expectation, lines, run.bundle()))
+        << "the failed " << call << " was not told; after it came\n"
+        << ::testing::PrintToString(Lines(lines.begin(), lines.end()));
+}
+
+// Each call there is; of a scenario that rebuilds large menus over and over an even choice of them,
+// the first and the last among it.
+std::vector<std::size_t> callsToFail(FaultyRun& plain) {
+    constexpr std::size_t MostText = 4'000'000;
+    constexpr std::size_t FewestRuns = 8;
+    const auto calls = plain.faults().calls();
+    const auto affordable = std::max(FewestRuns, MostText / (plain.transcriptSize() + 1));
+    const auto runs = std::min(calls, affordable);
+    std::vector<std::size_t> chosen;
+    for (std::size_t run = 0; run < runs; ++run)
+        chosen.push_back(runs == 1 ? 1 : 1 + run * (calls - 1) / (runs - 1));
+    return chosen;
+}
+
+class FaultWalk : public ::testing::TestWithParam<std::string> {
+  protected:
+    [[nodiscard]] static Lines commands() {
+        return readLines(std::filesystem::path(BRISEL_SCENARIO_FOLDER) /
+                         (GetParam() + ".scenario"));
+    }
+};
+
+std::string testName(const ::testing::TestParamInfo<std::string>& scenario) {
+    auto name = scenario.param;
+    std::replace_if(
+        name.begin(), name.end(),
+        [](unsigned char character) { return std::isalnum(character) == 0; }, '_');
+    return name;
+}
+
+}  // namespace
+
+TEST_P(FaultWalk, LeavesTheProgramAliveAndTellsOfEachFault) {
+    const auto lines = commands();
+    FaultyRun plain(lines, 0);
+    checkThatTheProgramLives(plain);
+    for (const auto failing : callsToFail(plain)) {
+        FaultyRun run(lines, failing);
+        SCOPED_TRACE("call " + std::to_string(failing) + ", " + run.faults().struck());
+        checkThatTheProgramLives(run);
+        checkThatTheFaultWasTold(run);
+        if (HasFailure()) return;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenario, FaultWalk, ::testing::ValuesIn(scenarioNames()), testName);
+
+TEST(ScenarioFolder, HoldsScenariosToWalk) {
+    EXPECT_FALSE(scenarioNames().empty());
+}
+
+}  // namespace brisel::tests

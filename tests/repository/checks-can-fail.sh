@@ -1,0 +1,91 @@
+#!/bin/sh
+# Checks that each check of the repository finds what it is for, and nothing in a good tree.
+# SPDX-License-Identifier: MIT
+#
+# usage: checks-can-fail.sh FOLDER, which is emptied
+folder=$1
+checks=$(dirname "$0")
+failures=0
+
+# tree FILE TEXT: a tree of this one file.
+tree() {
+    rm -rf "$folder"
+    mkdir -p "$folder/$(dirname "$1")"
+    printf 'BasedOnStyle: Google\n' >"$folder/.clang-format"
+    printf "$2" >"$folder/$1"
+}
+
+passes() {
+    sh "$checks/$1.sh" "$folder" >/dev/null 2>&1 && return
+    echo "$1 complains about a good tree: $2"
+    failures=1
+}
+
+complains() {
+    sh "$checks/$1.sh" "$folder" >/dev/null 2>&1 || return
+    echo "$1 does not complain: $2"
+    failures=1
+}
+
+# includes FROM TO VERDICT
+includes() {
+    tree "$1" "#include \"$2\"\n"
+    "$3" arrows "$1 includes $2"
+}
+
+includes src/app/A.cpp mounting/B.h passes
+includes src/mounting/A.cpp privileged/B.h passes
+includes src/volumes/A.cpp platform/B.h passes
+includes src/platform/simulated/A.cpp platform/simulated/B.h passes
+includes src/platform/linux/A.cpp platform/common/B.h passes
+includes src/entry/linux/main.cpp platform/linux/B.h passes
+includes simulator/A.cpp platform/simulated/B.h passes
+includes tests/core/A.cpp platform/simulated/B.h passes
+includes tests/tools/A.cpp tools/B.h passes
+
+includes src/volumes/A.cpp mounting/B.h complains
+includes src/volumes/A.cpp app/B.h complains
+includes src/mounting/A.cpp app/B.h complains
+includes src/privileged/A.cpp volumes/B.h complains
+includes src/platform/A.h volumes/B.h complains
+includes src/platform/A.h platform/common/B.h complains
+includes src/platform/simulated/A.cpp volumes/B.h complains
+includes src/platform/linux/A.cpp platform/simulated/B.h complains
+includes src/platform/common/A.cpp platform/linux/B.h complains
+includes src/app/A.cpp platform/simulated/B.h complains
+includes src/app/A.cpp simulator/B.h complains
+includes src/app/A.cpp B.h complains
+includes src/entry/linux/main.cpp simulator/B.h complains
+includes simulator/A.cpp tests/B.h complains
+includes tools/A.cpp app/B.h complains
+includes tools/A.cpp platform/linux/B.h complains
+
+tree src/app/A.cpp '#ifdef __linux__\n#endif\n'
+complains arrows 'an operating system in the core'
+tree src/platform/linux/A.cpp '#ifdef __linux__\n#endif\n'
+passes arrows 'an operating system in its platform'
+
+good='// A good file.\n// SPDX-License-Identifier: MIT\n#pragma once\n'
+tree src/app/A.h "$good"
+passes files 'a good header'
+passes format 'a good header'
+passes words 'a good header'
+tree src/app/A.h '#pragma once\n// SPDX-License-Identifier: MIT\n'
+complains files 'no sentence'
+tree src/app/A.h '// No licence.\n#pragma once\n'
+complains files 'no licence'
+tree src/app/A.h '// No guard.\n// SPDX-License-Identifier: MIT\n'
+complains files 'no guard'
+tree src/app/A.h "$good$(yes '//' | head -350 | tr '\n' '@' | sed 's/@/\\n/g')"
+complains files 'a long file'
+
+tree src/app/A.cpp 'int  a ;\n'
+complains format 'bad format'
+# Put together, so that these lines are not found themselves.
+for words in '/wo''rk/main' 'see pa''rt 2.1' 'Pa''rt 4.5'; do
+    tree src/app/A.cpp "// $words\n"
+    complains words "$words"
+done
+
+rm -rf "$folder"
+exit $failures

@@ -1,0 +1,14 @@
+#!/bin/sh
+# Checks that the sources are formatted as .clang-format has it.
+# SPDX-License-Identifier: MIT
+#
+# usage: format.sh ROOT
+cd "$1" || exit 2
+
+if ! command -v clang-format >/dev/null; then
+    echo "clang-format is missing, so nothing was checked" >&2
+    exit 1
+fi
+find src simulator tests benchmarks tools helper \
+    \( -name '*.h' -o -name '*.cpp' -o -name '*.mm' -o -name '*.m' -o -name '*.c' \) 2>/dev/null |
+sort | xargs clang-format --dry-run -Werror
