@@ -30,6 +30,7 @@ bench:
 	cmake --preset bench
 	cmake --build --preset bench
 	build/bin/brisel-benchmarks
+	build/bin/brisel-benchmarks --check-growth
 
 coverage:
 	scripts/install-needs test
