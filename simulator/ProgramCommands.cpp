@@ -4,7 +4,6 @@
 #include <array>
 #include <memory>
 
-#include "platform/simulated/ProgramEnded.h"
 #include "simulator/Commands.h"
 
 namespace brisel::simulator {
@@ -127,9 +126,6 @@ Complaint respond(Stage& stage, const Words& arguments) {
 
 Complaint quit(Stage& stage, const Words& arguments) {
     if (!arguments.empty()) return misused("quit");
-    if (stage.blocked()) return "an alert or prompt is up";
-    // Before the start there is no program to end, only the simulation.
-    if (!stage.program.started()) throw platform::simulated::ProgramEnded();
     stage.mac.application.terminate();
     return std::nullopt;
 }
@@ -149,7 +145,7 @@ constexpr std::array Table{
     Command{"respond", When::Running,
             "respond DO_MOUNT|NOTHING|default|dismiss [id=ID] [volume=DEVICE]",
             "responds to the last remount prompt", respond},
-    Command{"quit", When::AnyTime, "quit", "terminates the application", quit},
+    Command{"quit", When::Running, "quit", "terminates the application", quit},
 };
 
 }  // namespace

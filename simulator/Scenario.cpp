@@ -67,7 +67,11 @@ Complaint Scenario::carryOut(const std::string& line) {
     if (!words) return "a quote does not end";
     const auto name = words->front();
     words->erase(words->begin());
-    if (name == "help" && manner_.onBadCommand == OnBadCommand::GoOn) return help();
+    if (manner_.onBadCommand == OnBadCommand::GoOn) {
+        if (name == "help") return help();
+        // Whoever plays may leave before the start, too.
+        if (name == "quit" && !program_.started()) throw ProgramEnded();
+    }
     const auto* const command = findCommand(name);
     if (command == nullptr) return "there is no command \"" + name + "\"";
     if (auto complaint = complaintAboutMoment(*command, stage_)) return complaint;

@@ -35,7 +35,7 @@ class Scenario final : private platform::simulated::Person {
         Echo echo = Echo::Commands;
         /// Hears of each bad command.
         BadCommandHandler badCommandHandler = [](const BadCommand&) {};
-        /// Called after each command, while the program does not run.
+        /// Called after each command, also while an alert or prompt blocks the program.
         std::function<void()> afterCommand = [] {};
     };
 

@@ -7,7 +7,6 @@ namespace brisel::simulator {
 std::optional<std::string> StreamSource::nextLine(const std::string& /*prompt*/) {
     std::string line;
     if (!std::getline(stream_, line)) return std::nullopt;
-    if (line.ends_with('\r')) line.pop_back();
     return line;
 }
 

@@ -13,13 +13,16 @@ namespace {
 namespace simulated = platform::simulated;
 
 constexpr std::int64_t MostExitStatus = 255;
-// Those that end a process unless it does something about them.
-constexpr std::array<std::int64_t, 16> EndingSignals{
-    SIGHUP,  SIGINT,  SIGQUIT, SIGILL,  SIGTRAP, SIGABRT, SIGBUS,  SIGFPE,
-    SIGKILL, SIGUSR1, SIGSEGV, SIGUSR2, SIGPIPE, SIGALRM, SIGTERM, SIGSYS};
+// The signals that stop a process, let it go on, or are ignored unless it does something about
+// them.
+constexpr std::array<std::int64_t, 8> HarmlessSignals{SIGCHLD, SIGCONT, SIGSTOP, SIGTSTP,
+                                                      SIGTTIN, SIGTTOU, SIGURG,  SIGWINCH};
 
 bool endsProcess(std::int64_t signal) {
-    return std::find(EndingSignals.begin(), EndingSignals.end(), signal) != EndingSignals.end();
+    constexpr std::int64_t MostSignal = 31;
+    return signal >= 1 && signal <= MostSignal &&
+           std::find(HarmlessSignals.begin(), HarmlessSignals.end(), signal) ==
+               HarmlessSignals.end();
 }
 
 Complaint tool(Stage& stage, const Words& arguments) {

@@ -10,7 +10,7 @@ namespace brisel::simulator {
 namespace {
 
 bool isBlank(char character) {
-    return character == ' ' || character == '\t';
+    return character == ' ' || character == '\t' || character == '\r';
 }
 
 class Splitter {

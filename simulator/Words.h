@@ -13,8 +13,9 @@ namespace brisel::simulator {
 
 using Words = std::vector<std::string>;
 
-/// Splits a line at its blanks. Double quotes, which may stand anywhere in a word, keep blanks in
-/// it; inside them `\"`, `\\` and `\n` are escapes. None when a quote does not end.
+/// Splits a line at its blanks, a foreign line end's among them. Double quotes, which may stand
+/// anywhere in a word, keep blanks in it; inside them `\"`, `\\` and `\n` are escapes. None when a
+/// quote does not end.
 std::optional<Words> splitIntoWords(std::string_view line);
 
 /// `KEY=VALUE` at its first equals sign; none without one.

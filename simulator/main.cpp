@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -60,6 +61,8 @@ int runFile(const char* path) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
+    // Whoever started this may ignore ended children; the program must hear of its own.
+    std::signal(SIGCHLD, SIG_DFL);
     std::ios::sync_with_stdio(false);
     if (argumentCount == 1)
         return isatty(STDIN_FILENO) != 0 ? runInTerminal() : runScript(std::cin);

@@ -18,8 +18,9 @@ inline constexpr const char* LoginHelperIdentifier = "org.brisel.BriselHelper";
 /// The key path under which a change of the status button's appearance is told.
 inline constexpr std::string_view EffectiveAppearanceKeyPath = "effectiveAppearance";
 
-/// Main thread only. Made and connected by whatever loads the interface: a nib on a Mac, elsewhere
-/// the program's entry.
+/// Main thread only. The status item, its menu and the start-at-login item are services of the
+/// platform and live as long as it. Made and connected by whatever loads the interface: a nib on a
+/// Mac, elsewhere the program's entry.
 class AppDelegate final : public NTFSVolumeManagerDelegate,
                           public std::enable_shared_from_this<AppDelegate> {
   public:

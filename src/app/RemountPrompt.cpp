@@ -73,8 +73,8 @@ void NTFSVolumeManager::registerNotificationCategory() {
               {.identifier = NothingAction, .title = bundle.localizedString("No, thanks.")}}}});
 }
 
-// The completion handler is not called on any path: the prompt counts as answered with the remount
-// itself, however long that takes. Kept so.
+// The completion handler is not called on any path. Kept so: the program has nothing to tell the
+// center, which goes on without it.
 void NTFSVolumeManager::userNotificationCenterDidReceiveNotificationResponse(
     const platform::NotificationResponse& response,
     const platform::UserNotificationCenter::CompletionHandler& /*completionHandler*/) {

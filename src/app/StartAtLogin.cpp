@@ -18,8 +18,10 @@ void AppDelegate::toggleStartAtLogin() {
         platform_.userDefaults.setBool(ShouldStartAtLoginKey, wanted);
         return;
     }
-    // The placeholder stays unfilled, deliberately: the text is shown as it stands in the table.
+    // The placeholder stays unfilled, deliberately: the text is shown as it stands in the table,
+    // and the word for it is looked up and left out.
     const auto& bundle = platform_.bundle;
+    static_cast<void>(bundle.localizedString(shouldStartAtLogin_ ? "add" : "remove"));
     platform_.alert.runModal({.messageText = bundle.localizedString("An error ocurred"),
                               .informativeText = bundle.localizedString(
                                   "Couldn't %@ Helper App to launch at login item list."),

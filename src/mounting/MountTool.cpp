@@ -105,7 +105,8 @@ void mountWithTool(NTFSVolumeManager& manager, const platform::Disk& disk,
     const auto task = KJPrivilegedTask::init(platform);
     task->setLaunchPath(MountToolPath);
     if (const auto error = platform.fileManager.createDirectory(target.mountPoint)) {
-        // Deliberately ends here with the busy state on and the record kept: nothing was tried.
+        // Deliberately ends here with the busy state on and the record kept, though the volume is
+        // unmounted: no mount was tried.
         platform.systemLog.log("Unable to create folder: %@, reason: %@",
                                error->localizedDescription, error->localizedFailureReason);
         return;

@@ -78,8 +78,8 @@ void remountUnmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& d
     // Waits for nothing: gives other processes a turn between the unmount and the mount.
     sleep(0);
     if (!description.volumeMountable.value_or(false)) {
-        // Deliberately ends here with the busy state on: the disk is neither mounted nor
-        // mountable, and only its disappearance settles that.
+        // Deliberately ends here with the busy state on and the record kept: nothing of this disk
+        // will end the state, only another operation or another volume's going.
         platform.systemLog.log("Disk not mountable!");
         return;
     }

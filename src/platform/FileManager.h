@@ -30,8 +30,8 @@ class FileManager {
     [[nodiscard]] virtual FolderListing contentsOfDirectory(const FileURL& folder) = 0;
     /// Makes the folder and those above it; one that is there already is no error.
     [[nodiscard]] virtual std::optional<Error> createDirectory(const std::string& path) = 0;
-    /// Removes a folder. The program names only mount points that it made; a platform may refuse
-    /// to remove one that is not empty.
+    /// Removes a folder. The path ends in a volume's label, which is anybody's text: a platform
+    /// with real disks must refuse to remove a folder that is not empty.
     [[nodiscard]] virtual std::optional<Error> removeItem(const std::string& path) = 0;
 };
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Platform.h"
 
-#include <cassert>
+#include <cstdlib>
 
 namespace brisel::platform {
 
@@ -20,7 +20,7 @@ void install(const Platform& platform) {
 }
 
 const Platform& installed() {
-    assert(slot() != nullptr);
+    if (slot() == nullptr) std::abort();
     return *slot();
 }
 

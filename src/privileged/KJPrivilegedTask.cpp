@@ -122,7 +122,9 @@ void KJPrivilegedTask::checkTaskStatus() {
     checkStatusTimer_.reset();
     platform_.notificationCenter.postNotificationName(KJPrivilegedTaskDidTerminateNotification,
                                                       this);
-    if (terminationHandler_) terminationHandler_(*this);
+    // A copy: the handler may set another one.
+    const auto handler = terminationHandler_;
+    if (handler) handler(*this);
 }
 
 void KJPrivilegedTask::waitUntilExit() {
@@ -130,6 +132,8 @@ void KJPrivilegedTask::waitUntilExit() {
         platform_.systemLog.log("Task %@ is not running", inheritedDescription());
         return;
     }
+    // The timer may hold the last reference but this one.
+    const auto self = shared_from_this();
     checkStatusTimer_.reset();
     // Spins at full speed, deliberately: the tool's end is seen at once.
     while (childIsRunning()) {

@@ -31,6 +31,8 @@ class KJPrivilegedTask : public std::enable_shared_from_this<KJPrivilegedTask> {
   public:
     using TerminationHandler = std::function<void(KJPrivilegedTask&)>;
 
+    /// Whether tools can be started as administrator here; the platform looks the call up by name
+    /// when it is first used.
     [[nodiscard]] static bool authorizationFunctionAvailable(const platform::Platform& platform);
 
     // Each of these launches, waits for the tool's end and returns the task, also when the launch

@@ -20,9 +20,10 @@ struct MenuItem;
 
 namespace brisel {
 
-/// Main thread only, but for `sharedInstance`. Each operation is defined in the folder whose
-/// matter it is; none returns a result: what comes of it reaches the user through the delegate,
-/// alerts and the log.
+/// Main thread only, but for `sharedInstance` and reading the busy flag. The session with the
+/// platform's disk service, and whatever memory it takes, is the service's own. Each operation is
+/// defined in the folder whose matter it is; none returns a result: what comes of it reaches the
+/// user through the delegate, alerts and the log.
 class NTFSVolumeManager {
   public:
     /// The program's one manager, made on the first call on the installed platform. Any thread may

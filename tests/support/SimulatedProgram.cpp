@@ -2,7 +2,29 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/SimulatedProgram.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "platform/Format.h"
+
 namespace brisel::tests {
+
+DiskProperties ntfsDisk(const std::string& name, const std::string& volumeUUID) {
+    DiskProperties properties;
+    properties.description.volumeMountable = true;
+    properties.description.volumeKind = "ntfs";
+    properties.description.volumeName = name;
+    properties.description.volumePath.emplace("/Volumes/" + name);
+    if (!volumeUUID.empty()) properties.description.volumeUUID = volumeUUID;
+    return properties;
+}
+
+platform::MenuItem senderFor(const std::shared_ptr<NTFSVolume>& volume) {
+    platform::MenuItem item;
+    item.representedObject = volume;
+    return item;
+}
 
 int ScriptedPerson::answerAlert(const platform::AlertContent& alert) {
     alertsSeen.push_back(alert);
@@ -22,13 +44,63 @@ void SimulatedProgram::start() {
 
 void SimulatedProgram::attachNTFS(const std::string& device, const std::string& name,
                                   const std::string& volumeUUID) {
-    platform::simulated::DiskArbitration::Properties properties;
-    properties.description.volumeMountable = true;
-    properties.description.volumeKind = "ntfs";
-    properties.description.volumeName = name;
-    properties.description.volumePath.emplace("/Volumes/" + name);
-    if (!volumeUUID.empty()) properties.description.volumeUUID = volumeUUID;
-    mac.diskArbitration.attach(device, std::move(properties));
+    mac.diskArbitration.attach(device, ntfsDisk(name, volumeUUID));
+}
+
+void SimulatedProgram::attachQuietly(const std::string& device, const std::string& name,
+                                     const std::string& volumeUUID) {
+    attachNTFS(device, name, volumeUUID);
+    turn();
+    forgetLines();
+}
+
+void SimulatedProgram::choose(const std::string& title) {
+    const auto& items = mac.statusMenu.items();
+    const auto found = std::find_if(items.begin(), items.end(), [&](const auto& item) {
+        return item.title == title && item.target;
+    });
+    if (found == items.end()) {
+        ADD_FAILURE() << "no menu item \"" << title << "\" in " << menuTitles();
+        return;
+    }
+    // The menu may be rebuilt by what the item does.
+    const auto sender = *found;
+    sender.target(sender);
+    turn();
+}
+
+void SimulatedProgram::respond(const std::string& action, const std::string& device) {
+    mac.userNotificationCenter.respond({.requestIdentifier = "mount",
+                                        .actionIdentifier = action,
+                                        .userInfo = {{"volume", device}}});
+    turn();
+}
+
+std::shared_ptr<NTFSVolume> SimulatedProgram::volume(std::size_t index) {
+    return manager().volumes().at(index);
+}
+
+std::string SimulatedProgram::menuTitles() const {
+    std::string text;
+    for (const auto& item : mac.statusMenu.items()) {
+        if (!text.empty()) text += " | ";
+        text += item.separator ? "---" : item.title;
+    }
+    return text;
+}
+
+std::vector<std::string> SimulatedProgram::labels() {
+    std::vector<std::string> texts;
+    for (const auto& record : manager().volumes())
+        texts.push_back(platform::textOf(record->label));
+    return texts;
+}
+
+std::vector<std::string> SimulatedProgram::devices() {
+    std::vector<std::string> texts;
+    for (const auto& record : manager().volumes())
+        texts.push_back(platform::textOf(record->deviceNode));
+    return texts;
 }
 
 std::vector<std::string> SimulatedProgram::newLines() {

@@ -3,11 +3,14 @@
 #include <unistd.h>
 
 #include <clocale>
+#include <csignal>
 #include <iostream>
 
 #include "entry/console/Console.h"
 
 int main(int argumentCount, char** /*arguments*/) {
+    // Whoever started this may ignore ended children; the program must hear of its own.
+    std::signal(SIGCHLD, SIG_DFL);
     if (argumentCount > 1) {
         std::cerr << "usage: brisel-console\n"
                      "Watches for NTFS volumes and re-mounts them read-write, in this terminal.\n";

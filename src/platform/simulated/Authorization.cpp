@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <string_view>
 #include <utility>
 
 #include "platform/common/ToolProcess.h"
@@ -15,7 +16,7 @@ namespace brisel::platform::simulated {
 namespace {
 
 std::string quotedIfNeeded(const std::string& word) {
-    return word.find_first_of(" \"") == std::string::npos ? word : '"' + word + '"';
+    return word.find_first_of(" \t\"") == std::string::npos ? word : '"' + word + '"';
 }
 
 std::vector<std::string> commandLine(const char* path, char* const* arguments) {
@@ -25,11 +26,23 @@ std::vector<std::string> commandLine(const char* path, char* const* arguments) {
     return command;
 }
 
-// Runs in the child. What the socket does not hold is dropped: a real tool would wait for a reader
-// that itself waits for the tool's end.
+// Runs in the child. What the socket does not hold is left to a process of its own: the reader
+// itself waits for the tool's end before it reads.
+void print(std::string_view output) {
+    const auto sent = send(STDOUT_FILENO, output.data(), output.size(), MSG_DONTWAIT);
+    if (sent > 0) output.remove_prefix(static_cast<std::size_t>(sent));
+    if (output.empty() || fork() != 0) return;
+    while (!output.empty()) {
+        const auto more = send(STDOUT_FILENO, output.data(), output.size(), MSG_NOSIGNAL);
+        if (more <= 0) break;
+        output.remove_prefix(static_cast<std::size_t>(more));
+    }
+    _exit(0);
+}
+
+// Runs in the child.
 void endAs(const Authorization::ToolEnd& end) {
-    const auto& output = end.output;
-    static_cast<void>(send(STDOUT_FILENO, output.data(), output.size(), MSG_DONTWAIT));
+    print(end.output);
     if (end.signal != 0) {
         std::signal(end.signal, SIG_DFL);
         raise(end.signal);

@@ -42,10 +42,9 @@ std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::st
 
 std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<FileURL>& path) {
     if (faults_.strikes("diskFromVolumePath") || dead_ || !path) return std::nullopt;
-    const auto* const entry = diskMountedAt(path->path());
-    if (entry == nullptr) return std::nullopt;
-    return Disk{.bsdName = entry->properties.description.mediaBSDName.value_or(""),
-                .reported = std::nullopt};
+    const auto found = diskMountedAt(*path);
+    if (found == disks_.end()) return std::nullopt;
+    return Disk{.bsdName = found->first, .reported = std::nullopt};
 }
 
 DiskDescription DiskArbitration::copyDescription(const Disk& disk) {
@@ -184,16 +183,16 @@ void DiskArbitration::mountBehind(const std::string& device, const std::string& 
 }
 
 bool DiskArbitration::isWritable(const std::string& path) const {
-    const auto* const entry = diskMountedAt(path);
-    return entry != nullptr && entry->properties.writable;
+    const auto found = diskMountedAt(FileURL(path));
+    return found != disks_.end() && found->second.properties.writable;
 }
 
-const DiskArbitration::Entry* DiskArbitration::diskMountedAt(const std::string& path) const {
-    const FileURL url(path);
-    const Entry* latest = nullptr;
-    for (const auto& [device, entry] : disks_) {
-        if (!entry.attached || entry.properties.description.volumePath != url) continue;
-        if (latest == nullptr || entry.mounted > latest->mounted) latest = &entry;
+DiskArbitration::Disks::const_iterator DiskArbitration::diskMountedAt(const FileURL& path) const {
+    auto latest = disks_.end();
+    for (auto disk = disks_.begin(); disk != disks_.end(); ++disk) {
+        const auto& entry = disk->second;
+        if (!entry.attached || entry.properties.description.volumePath != path) continue;
+        if (latest == disks_.end() || entry.mounted > latest->second.mounted) latest = disk;
     }
     return latest;
 }

@@ -78,7 +78,10 @@ class DiskArbitration final : public platform::DiskArbitration {
         std::optional<std::uint32_t> mountRefusal;
     };
 
-    [[nodiscard]] const Entry* diskMountedAt(const std::string& path) const;
+    using Disks = std::map<std::string, Entry>;
+
+    /// The end of the disks where none is mounted there.
+    [[nodiscard]] Disks::const_iterator diskMountedAt(const FileURL& path) const;
     void mount(Entry& entry, const std::string& path);
     void postReport(const common::Signal<const Disk&>& signal, const std::string& device);
     void complete(const Disk& disk, std::optional<std::uint32_t> refusal, Completion completion);
@@ -93,7 +96,7 @@ class DiskArbitration final : public platform::DiskArbitration {
     bool dead_ = false;
     bool holding_ = false;
     std::uint64_t order_ = 0;
-    std::map<std::string, Entry> disks_;
+    Disks disks_;
     std::vector<std::function<void()>> held_;
     common::Signal<const Disk&> appeared_;
     common::Signal<const Disk&> disappeared_;

@@ -10,6 +10,7 @@
 namespace brisel::platform::simulated {
 
 /// Both calls come while the program is blocked; the surroundings may be changed before answering.
+/// Either may throw ProgramEnded instead.
 class Person {
   public:
     virtual ~Person() = default;

@@ -9,10 +9,12 @@ namespace brisel::platform::simulated {
 namespace {
 
 std::string listText(const platform::UserDefaults::StringArray& list) {
-    std::string text;
-    for (const auto& entry : *list)
-        text += (text.empty() ? "" : ", ") + entry;
-    return "(" + text + ")";
+    std::string text = "(";
+    for (std::size_t index = 0; index < list->size(); ++index) {
+        if (index > 0) text += ", ";
+        text += list->at(index);
+    }
+    return text + ")";
 }
 
 std::string valueText(const UserDefaults::Value& value) {

@@ -1,0 +1,245 @@
+// The remount prompt: its category, its posting, and the user's response.
+// SPDX-License-Identifier: MIT
+#include "app/RemountPrompt.h"
+
+#include <thread>
+
+#include "tests/support/PlatformWith.h"
+#include "tests/support/RunningProgram.h"
+
+namespace brisel::tests {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using Center = platform::simulated::UserNotificationCenter;
+
+class RemountPrompt : public RunningProgram {
+  protected:
+    std::shared_ptr<NTFSVolume> post() {
+        const auto volume = NTFSVolume::initWithVolume({});
+        volume->label = "Data";
+        volume->deviceNode = "disk4s1";
+        postRemountPrompt(mac.platform, volume);
+        return volume;
+    }
+};
+
+TEST_F(RemountPrompt, HasOneCategoryOfTwoActions) {
+    const auto& categories = mac.userNotificationCenter.categories();
+    ASSERT_EQ(categories.size(), 1U);
+    EXPECT_EQ(categories[0].identifier, "MOUNT");
+    ASSERT_EQ(categories[0].actions.size(), 2U);
+    EXPECT_EQ(categories[0].actions[0].identifier, "DO_MOUNT");
+    EXPECT_EQ(categories[0].actions[0].title, "Yes, sure!");
+    EXPECT_EQ(categories[0].actions[1].identifier, "NOTHING");
+    EXPECT_EQ(categories[0].actions[1].title, "No, thanks.");
+}
+
+TEST_F(RemountPrompt, CarriesItsContent) {
+    EXPECT_TRUE(post()->notificationSent);
+    const auto& prompt = mac.userNotificationCenter.lastPrompt();
+    ASSERT_TRUE(prompt);
+    EXPECT_EQ(prompt->identifier, "mount");
+    EXPECT_EQ(prompt->title, "Data detected");
+    EXPECT_EQ(prompt->body, "Re-mount it read-write?");
+    EXPECT_EQ(prompt->soundName, "Hero");
+    EXPECT_EQ(prompt->categoryIdentifier, "MOUNT");
+    EXPECT_EQ(prompt->userInfo, (platform::UserInfo{{"volume", "disk4s1"}}));
+    EXPECT_EQ(prompt->delay, std::chrono::milliseconds(200));
+}
+
+TEST_F(RemountPrompt, IsOnlyLoggedWhereThePermissionFails) {
+    mac.userNotificationCenter.setPermission(Center::Permission::Error);
+    EXPECT_FALSE(post()->notificationSent);
+    EXPECT_THAT(newLines(), ElementsAre("permission: alert sound",
+                                        "log: Requesting auth for Local Notification failed!"));
+}
+
+TEST_F(RemountPrompt, IsSilentlyDroppedWithoutPermission) {
+    mac.userNotificationCenter.setPermission(Center::Permission::Deny);
+    EXPECT_FALSE(post()->notificationSent);
+    EXPECT_THAT(newLines(), ElementsAre("permission: alert sound"));
+}
+
+TEST_F(RemountPrompt, IsNotSentWhereItIsNotAccepted) {
+    mac.userNotificationCenter.refuseNextRequest();
+    EXPECT_FALSE(post()->notificationSent);
+    EXPECT_THAT(newLines(),
+                ElementsAre("permission: alert sound", "log: Adding Local Notification failed!"));
+}
+
+TEST_F(RemountPrompt, IsTriedAgainWithTheNextRebuildUntilItWasAccepted) {
+    mac.userNotificationCenter.setPermission(Center::Permission::Deny);
+    attachQuietly("disk4s1", "Data");
+    manager().refreshVolumes();
+    EXPECT_THAT(newLines(), Contains("permission: alert sound"));
+    mac.userNotificationCenter.setPermission(Center::Permission::Allow);
+    manager().refreshVolumes();
+    EXPECT_TRUE(volume()->notificationSent);
+    forgetLines();
+    manager().refreshVolumes();
+    EXPECT_THAT(newLines(), testing::Not(Contains("permission: alert sound")));
+}
+
+TEST_F(RemountPrompt, IsReplacedByThatOfALaterVolume) {
+    mac.userNotificationCenter.setPermission(Center::Permission::Deny);
+    attachQuietly("disk4s1", "Data");
+    attachQuietly("disk5s1", "Other");
+    mac.userNotificationCenter.setPermission(Center::Permission::Allow);
+    manager().refreshVolumes();
+    EXPECT_EQ(mac.userNotificationCenter.lastPrompt()->userInfo.at("volume"), "disk5s1");
+    EXPECT_EQ(mac.userNotificationCenter.lastPrompt()->identifier, "mount");
+    EXPECT_TRUE(volume(0)->notificationSent);
+    EXPECT_TRUE(volume(1)->notificationSent);
+}
+
+/// A center whose answers come when the test gives them.
+class SlowCenter final : public platform::UserNotificationCenter {
+  public:
+    unsigned options = 0;
+    std::vector<AuthorizationHandler> permissions;
+    std::vector<platform::NotificationRequest> requests;
+    std::vector<AddHandler> additions;
+
+    platform::Subscription setDelegate(ResponseHandler /*handler*/) override { return {}; }
+    void setNotificationCategories(
+        const std::vector<platform::NotificationCategory>& /*categories*/) override {}
+    void requestAuthorization(unsigned asked, AuthorizationHandler handler) override {
+        options = asked;
+        permissions.push_back(std::move(handler));
+    }
+    void addNotificationRequest(const platform::NotificationRequest& request,
+                                AddHandler handler) override {
+        requests.push_back(request);
+        additions.push_back(std::move(handler));
+    }
+};
+
+class SlowPrompt : public RunningProgram {
+  protected:
+    SlowCenter center;
+    const platform::Platform slow = platformWith(mac.platform, {.userNotificationCenter = &center});
+    std::shared_ptr<NTFSVolume> record = NTFSVolume::initWithVolume({});
+};
+
+TEST_F(SlowPrompt, AsksForAlertAndSoundTogether) {
+    postRemountPrompt(slow, record);
+    EXPECT_EQ(center.options, 6U);
+}
+
+TEST_F(SlowPrompt, StopsAtAnErrorEvenWhereItIsGranted) {
+    postRemountPrompt(slow, record);
+    center.permissions.at(0)(
+        true, platform::Error{.localizedDescription = "x", .localizedFailureReason = {}});
+    EXPECT_TRUE(center.requests.empty());
+    EXPECT_THAT(newLogLines(), ElementsAre("Requesting auth for Local Notification failed!"));
+}
+
+TEST_F(SlowPrompt, CountsAsSentOnlyOnceItWasAccepted) {
+    postRemountPrompt(slow, record);
+    center.permissions.at(0)(true, std::nullopt);
+    EXPECT_FALSE(record->notificationSent);
+    center.additions.at(0)(std::nullopt);
+    EXPECT_TRUE(record->notificationSent);
+}
+
+TEST_F(SlowPrompt, IsAddedAgainByARebuildBeforeItWasAccepted) {
+    postRemountPrompt(slow, record);
+    postRemountPrompt(slow, record);
+    for (const auto& permission : center.permissions)
+        permission(true, std::nullopt);
+    EXPECT_EQ(center.requests.size(), 2U);
+    EXPECT_EQ(center.requests[0].identifier, center.requests[1].identifier);
+}
+
+TEST_F(SlowPrompt, KeepsItsRecordAlive) {
+    const std::weak_ptr<NTFSVolume> observer = record;
+    postRemountPrompt(slow, record);
+    record.reset();
+    center.permissions.at(0)(true, std::nullopt);
+    center.permissions.clear();
+    const auto kept = observer.lock();
+    ASSERT_NE(kept, nullptr);
+    center.additions.at(0)(std::nullopt);
+    EXPECT_TRUE(kept->notificationSent);
+}
+
+TEST_F(SlowPrompt, ShowsAMissingLabelAndDeviceAsNull) {
+    postRemountPrompt(slow, record);
+    center.permissions.at(0)(true, std::nullopt);
+    EXPECT_EQ(center.requests.at(0).title, "(null) detected");
+    EXPECT_EQ(center.requests.at(0).userInfo.at("volume"), "(null)");
+}
+
+TEST_F(SlowPrompt, MayBeAnsweredOnAnotherThread) {
+    postRemountPrompt(slow, record);
+    std::thread([&] {
+        center.permissions.at(0)(true, std::nullopt);
+        center.additions.at(0)(std::nullopt);
+    }).join();
+    EXPECT_TRUE(record->notificationSent);
+}
+
+class Response : public RunningProgram {
+  protected:
+    void SetUp() override {
+        RunningProgram::SetUp();
+        attachQuietly("disk4s1", "Data");
+    }
+};
+
+TEST_F(Response, StartsTheRemount) {
+    respond("DO_MOUNT", "disk4s1");
+    EXPECT_THAT(newLines(), Contains("unmount: disk4s1"));
+    EXPECT_TRUE(volume()->writable);
+}
+
+TEST_F(Response, DoesNothingForAnyOtherAction) {
+    for (const auto* const action :
+         {"NOTHING", platform::NotificationDefaultActionIdentifier,
+          platform::NotificationDismissActionIdentifier, "do_mount", ""}) {
+        respond(action, "disk4s1");
+        EXPECT_THAT(newLines(), ElementsAre()) << action;
+    }
+    EXPECT_FALSE(manager().inProgress());
+}
+
+TEST_F(Response, IsNotFollowedByAnotherPrompt) {
+    respond("NOTHING", "disk4s1");
+    manager().refreshVolumes();
+    EXPECT_THAT(newLines(), testing::Not(Contains("permission: alert sound")));
+}
+
+TEST_F(Response, ToAnotherRequestIsIgnored) {
+    for (const auto* const identifier : {"other", "Mount", "MOUNT", ""}) {
+        mac.userNotificationCenter.respond({.requestIdentifier = identifier,
+                                            .actionIdentifier = "DO_MOUNT",
+                                            .userInfo = {{"volume", "disk4s1"}}});
+    }
+    EXPECT_THAT(newLines(), ElementsAre());
+}
+
+TEST_F(Response, ForAnUnknownVolumeEndsInTheAlert) {
+    respond("DO_MOUNT", "disk9");
+    EXPECT_THAT(newLines(), Contains("alert: Volume not mounted"));
+    EXPECT_FALSE(manager().inProgress());
+}
+
+TEST_F(Response, WithoutAVolumeEndsInTheAlert) {
+    mac.userNotificationCenter.respond(
+        {.requestIdentifier = "mount", .actionIdentifier = "DO_MOUNT", .userInfo = {}});
+    EXPECT_THAT(newLines(), Contains("alert: Volume not mounted"));
+}
+
+TEST_F(Response, NeverCallsItsCompletionHandler) {
+    respond("DO_MOUNT", "disk4s1");
+    respond("DO_MOUNT", "disk9");
+    respond("NOTHING", "disk4s1");
+    mac.userNotificationCenter.respond(
+        {.requestIdentifier = "other", .actionIdentifier = "DO_MOUNT", .userInfo = {}});
+    EXPECT_EQ(mac.userNotificationCenter.completedResponses(), 0);
+}
+
+}  // namespace
+}  // namespace brisel::tests

@@ -1,0 +1,98 @@
+// The status icon: its colour, and light and dark.
+// SPDX-License-Identifier: MIT
+#include "platform/Bundle.h"
+#include "platform/StatusItem.h"
+#include "tests/support/PlatformWith.h"
+#include "tests/support/RunningProgram.h"
+
+namespace brisel::tests {
+namespace {
+
+using testing::ElementsAre;
+
+class StatusIcon : public RunningProgram {
+  protected:
+    /// The image that a state's code shows.
+    std::string imageOf(int code) {
+        program.delegate()->setStatusIcon(static_cast<AppDelegate::StatusIcon>(code));
+        forgetLines();
+        program.delegate()->refreshIcon();
+        return newLines().back();
+    }
+};
+
+TEST_F(StatusIcon, HasAColourForEachCode) {
+    EXPECT_EQ(imageOf(0), "icon: brisel-status-grey-light");
+    EXPECT_EQ(imageOf(1), "icon: brisel-status-green-light");
+    EXPECT_EQ(imageOf(2), "icon: brisel-status-blue-light");
+    EXPECT_EQ(imageOf(3), "icon: brisel-status-orange-light");
+    EXPECT_EQ(imageOf(4), "icon: brisel-status-red-light");
+}
+
+TEST_F(StatusIcon, IsGreyForAnyOtherCode) {
+    EXPECT_EQ(imageOf(5), "icon: brisel-status-grey-light");
+    EXPECT_EQ(imageOf(-1), "icon: brisel-status-grey-light");
+}
+
+TEST_F(StatusIcon, IsDarkInTheDarkForEachCode) {
+    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    EXPECT_EQ(imageOf(0), "icon: brisel-status-grey-dark");
+    EXPECT_EQ(imageOf(1), "icon: brisel-status-green-dark");
+    EXPECT_EQ(imageOf(2), "icon: brisel-status-blue-dark");
+    EXPECT_EQ(imageOf(3), "icon: brisel-status-orange-dark");
+    EXPECT_EQ(imageOf(4), "icon: brisel-status-red-dark");
+}
+
+TEST_F(StatusIcon, CountsAnyNameWithDarkInItAsDark) {
+    for (const auto* const name : {"NSAppearanceNameVibrantDark", "dark", "xDARKx",
+                                   "NSAppearanceNameAccessibilityHighContrastDarkAqua"}) {
+        mac.statusItem.setAppearance(name);
+        EXPECT_EQ(newLines().back(), "icon: brisel-status-grey-dark") << name;
+    }
+    for (const auto* const name : {"NSAppearanceNameAqua", "", "dar k"}) {
+        mac.statusItem.setAppearance(name);
+        EXPECT_EQ(newLines().back(), "icon: brisel-status-grey-light") << name;
+    }
+}
+
+TEST_F(StatusIcon, FollowsTheAppearanceAndKeepsItsColour) {
+    program.delegate()->errorIcon();
+    forgetLines();
+    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    mac.statusItem.setAppearance("NSAppearanceNameAqua");
+    EXPECT_THAT(newLines(),
+                ElementsAre("icon: brisel-status-red-dark", "icon: brisel-status-red-light"));
+}
+
+TEST_F(StatusIcon, LosesTheErrorWithTheNextRebuild) {
+    program.delegate()->errorIcon();
+    EXPECT_EQ(newLines().back(), "icon: brisel-status-red-light");
+    manager().refreshVolumes();
+    EXPECT_EQ(newLines().back(), "icon: brisel-status-grey-light");
+}
+
+TEST_F(StatusIcon, IgnoresOtherKeyPaths) {
+    program.delegate()->observeValueForKeyPath("appearance");
+    program.delegate()->observeValueForKeyPath("");
+    EXPECT_THAT(newLines(), ElementsAre());
+    program.delegate()->observeValueForKeyPath("effectiveAppearance");
+    EXPECT_THAT(newLines(), ElementsAre("icon: brisel-status-grey-light"));
+}
+
+/// Resources without images.
+class BareBundle final : public platform::Bundle {
+  public:
+    std::string localizedString(std::string_view key) const override { return std::string(key); }
+    bool hasImage(const std::string& /*name*/) const override { return false; }
+};
+
+TEST_F(StatusIcon, IsNoneWhereTheImageIsMissing) {
+    BareBundle bundle;
+    const auto delegate =
+        std::make_shared<AppDelegate>(platformWith(mac.platform, {.bundle = &bundle}));
+    delegate->refreshIcon();
+    EXPECT_THAT(newLines(), ElementsAre("icon: (none)"));
+}
+
+}  // namespace
+}  // namespace brisel::tests

@@ -1,0 +1,231 @@
+// The volume part of the status menu.
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+
+#include "platform/Format.h"
+#include "tests/support/RunningProgram.h"
+
+namespace brisel::tests {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+using testing::StartsWith;
+
+/// What an item is, in one line.
+std::string look(const platform::MenuItem& item) {
+    auto line = std::to_string(item.tag) + ' ' + (item.separator ? "---" : item.title);
+    if (!item.action.empty()) line.append(" ").append(item.action);
+    if (item.alignment) line += " align " + std::to_string(*item.alignment);
+    return line;
+}
+
+class StatusMenu : public RunningProgram {
+  protected:
+    std::vector<std::string> generated() {
+        std::vector<std::string> lines;
+        for (const auto& item : mac.statusMenu.items()) {
+            if (item.tag != 0) lines.push_back(look(item));
+        }
+        return lines;
+    }
+    std::shared_ptr<NTFSVolume> add(const std::string& label, const std::string& uuid,
+                                    bool writable) {
+        const auto volume = NTFSVolume::initWithVolume({});
+        volume->label = label;
+        volume->deviceNode = "disk-of-" + label;
+        if (!uuid.empty()) volume->uuid = uuid;
+        volume->writable = writable;
+        manager().volumes().push_back(volume);
+        return volume;
+    }
+    auto addReadOnly(const std::string& label, const std::string& uuid = "") {
+        return add(label, uuid, false);
+    }
+    auto addWritable(const std::string& label, const std::string& uuid = "") {
+        return add(label, uuid, true);
+    }
+    std::string titles() {
+        manager().refreshVolumes();
+        return menuTitles();
+    }
+};
+
+TEST_F(StatusMenu, HidesAllVolumesWhileAnOperationRuns) {
+    addReadOnly("Data");
+    manager().setInProgress(true);
+    EXPECT_EQ(titles(), std::string("Brisel is operating ... | --- | ") + FixedItems);
+    EXPECT_THAT(generated(), ElementsAre("101 Brisel is operating ...", "101 ---"));
+    EXPECT_FALSE(mac.statusMenu.items()[0].target);
+    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 3);
+    EXPECT_THAT(newLines(), Not(Contains(StartsWith("permission:"))));
+}
+
+TEST_F(StatusMenu, SaysThatThereAreNoVolumes) {
+    EXPECT_EQ(titles(), std::string("No NTFS Volumes to re-mount | --- | ") + FixedItems);
+    EXPECT_THAT(generated(), ElementsAre("101 No NTFS Volumes to re-mount", "101 ---"));
+    EXPECT_FALSE(mac.statusMenu.items()[0].target);
+    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 0);
+}
+
+TEST_F(StatusMenu, OffersAReadOnlyVolumeWithTheSeparatorAtTwo) {
+    addReadOnly("Data", SomeUUID);
+    EXPECT_EQ(titles(), "re-mount Data | Start at Login | --- | About Brisel | --- | Quit Brisel");
+    EXPECT_THAT(generated(), ElementsAre("101 re-mount Data remountVolume:", "101 ---"));
+    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 1);
+}
+
+TEST_F(StatusMenu, OffersAllThatAWritableVolumeAllows) {
+    addWritable("Data", SomeUUID);
+    manager().refreshVolumes();
+    EXPECT_THAT(
+        generated(),
+        ElementsAre("101 show Data in Finder showInFinder:", "102 unmount unmountVolume: align 1",
+                    "102 remove all extended attributes cleanupFinderInfo: align 1",
+                    "102 mount automatically saveVolumeForAutomount: align 1", "101 ---"));
+    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 2);
+}
+
+TEST_F(StatusMenu, OffersToMountAListedVolumeManually) {
+    storeAutomountList({SomeUUID});
+    addWritable("Data", SomeUUID);
+    manager().refreshVolumes();
+    EXPECT_EQ(generated().at(3), "102 mount manually unsaveVolumeForAutomount: align 1");
+}
+
+TEST_F(StatusMenu, OffersNoAutomountWithoutAUUID) {
+    addWritable("Data");
+    EXPECT_EQ(
+        titles(),
+        std::string("show Data in Finder | unmount | remove all extended attributes | --- | ") +
+            FixedItems);
+    EXPECT_EQ(generated().size(), 4U);
+}
+
+TEST_F(StatusMenu, ShowsTheVolumeFoundLastFirst) {
+    addWritable("One", SomeUUID);
+    addWritable("Two");
+    EXPECT_EQ(titles(), std::string("show Two in Finder | unmount | remove all extended attributes "
+                                    "| --- | show One in Finder | unmount | remove all extended "
+                                    "attributes | mount automatically | --- | ") +
+                            FixedItems);
+}
+
+TEST_F(StatusMenu, PutsTheSeparatorOfAReadOnlyVolumeBelowTheNextGroupsFirstItem) {
+    addWritable("One");
+    addReadOnly("Two");
+    EXPECT_EQ(titles(), std::string("re-mount Two | show One in Finder | --- | unmount | remove "
+                                    "all extended attributes | --- | ") +
+                            FixedItems);
+    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 1);
+}
+
+TEST_F(StatusMenu, TakesTheIconOfTheVolumeFoundLast) {
+    addReadOnly("One");
+    addWritable("Two");
+    EXPECT_EQ(titles(),
+              "show Two in Finder | unmount | remove all extended attributes | --- | "
+              "re-mount One | Start at Login | --- | About Brisel | --- | Quit Brisel");
+    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 2);
+}
+
+TEST_F(StatusMenu, SeparatesReadOnlyVolumesAsTheyCome) {
+    addReadOnly("One");
+    addReadOnly("Two");
+    addReadOnly("Three");
+    EXPECT_EQ(titles(),
+              "re-mount Three | re-mount Two | --- | re-mount One | --- | Start at Login "
+              "| --- | About Brisel | --- | Quit Brisel");
+}
+
+TEST_F(StatusMenu, IsTheSameWhenItIsBuiltTwice) {
+    addReadOnly("One");
+    addWritable("Two", SomeUUID);
+    const auto once = titles();
+    EXPECT_EQ(titles(), once);
+}
+
+TEST_F(StatusMenu, GivesItemsTheirVolume) {
+    const auto volume = addWritable("Data", SomeUUID);
+    manager().refreshVolumes();
+    for (std::size_t index = 0; index < 4; ++index) {
+        EXPECT_EQ(mac.statusMenu.items()[index].representedObject, volume);
+        EXPECT_TRUE(mac.statusMenu.items()[index].target);
+        EXPECT_FALSE(mac.statusMenu.items()[index].checked);
+    }
+    EXPECT_EQ(mac.statusMenu.items()[4].representedObject, nullptr);
+}
+
+TEST_F(StatusMenu, LeavesItemsOfOtherTagsInPlace) {
+    std::vector<platform::MenuItem> fixed(4);
+    const std::vector<int> tags{100, 103, -101, 0};
+    for (std::size_t index = 0; index < fixed.size(); ++index) {
+        fixed[index].tag = tags[index];
+        fixed[index].title = "Fixed " + std::to_string(tags[index]);
+    }
+    mac.statusMenu.load(fixed);
+    EXPECT_EQ(titles(),
+              "No NTFS Volumes to re-mount | --- | Fixed 100 | Fixed 103 | Fixed -101 | "
+              "Fixed 0");
+    addReadOnly("Data");
+    EXPECT_EQ(titles(), "re-mount Data | Fixed 100 | --- | Fixed 103 | Fixed -101 | Fixed 0");
+}
+
+TEST_F(StatusMenu, NeedsOneFixedItemOnly) {
+    mac.statusMenu.load({platform::MenuItem()});
+    addReadOnly("Data");
+    EXPECT_EQ(titles(), "re-mount Data |  | ---");
+}
+
+TEST_F(StatusMenu, ReadsTheAutomountListOncePerVolume) {
+    addReadOnly("One", SomeUUID);
+    addWritable("Two", OtherUUID);
+    const auto before = mac.userDefaults.listReads();
+    manager().refreshVolumes();
+    EXPECT_EQ(mac.userDefaults.listReads(), before + 2);
+}
+
+TEST_F(StatusMenu, ShowsAMissingLabelAsNull) {
+    addWritable("x")->label.reset();
+    EXPECT_THAT(titles(), StartsWith("show (null) in Finder | "));
+}
+
+TEST_F(StatusMenu, SpeaksTheUsersLanguageButForItsFixedItems) {
+    addWritable("Data", SomeUUID);
+    mac.bundle.setLanguage("de");
+    const auto shown = mac.bundle.localizedString("show %@ in Finder");
+    EXPECT_NE(shown, "show %@ in Finder");
+    EXPECT_THAT(titles(), testing::AllOf(StartsWith(platform::stringWithFormat(shown, "Data")),
+                                         testing::EndsWith(FixedItems)));
+}
+
+class Prompting : public StatusMenu {
+  protected:
+    long promptsOfARebuild() {
+        forgetLines();
+        manager().refreshVolumes();
+        return std::ranges::count(newLines(), "permission: alert sound");
+    }
+};
+
+TEST_F(Prompting, AsksForAReadOnlyVolumeOnce) {
+    const auto volume = addReadOnly("Data", SomeUUID);
+    EXPECT_EQ(promptsOfARebuild(), 1);
+    EXPECT_TRUE(volume->notificationSent);
+    EXPECT_EQ(promptsOfARebuild(), 0);
+}
+
+TEST_F(Prompting, LeavesListedVolumesAlone) {
+    storeAutomountList({SomeUUID});
+    addReadOnly("Data", SomeUUID);
+    EXPECT_EQ(promptsOfARebuild(), 0);
+}
+
+TEST_F(Prompting, LeavesWritableVolumesAlone) {
+    addWritable("Data", SomeUUID);
+    EXPECT_EQ(promptsOfARebuild(), 0);
+}
+
+}  // namespace
+}  // namespace brisel::tests

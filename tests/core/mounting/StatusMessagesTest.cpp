@@ -1,0 +1,142 @@
+// Disk Arbitration's refusals, for the log and for the user.
+// SPDX-License-Identifier: MIT
+#include "mounting/StatusMessages.h"
+
+#include "tests/support/RunningProgram.h"
+
+namespace brisel::tests {
+namespace {
+
+using testing::ElementsAre;
+
+struct Row {
+    std::uint32_t status;
+    const char* format;
+};
+
+constexpr const char* Unspecified = "no error specified by DADissenter for volume %@";
+
+const Row Rows[] = {{0xF8DA0001, "kDAReturnError for volume %@"},
+                    {0xF8DA0002, "kDAReturnBusy for volume %@"},
+                    {0xF8DA0003, "kDAReturnBadArgument for volume %@"},
+                    {0xF8DA0004, "kDAReturnExclusiveAccess for volume %@"},
+                    {0xF8DA0005, "kDAReturnNoResources for volume %@"},
+                    {0xF8DA0006, "kDAReturnNotFound for volume %@"},
+                    {0xF8DA0007, "kDAReturnNotMounted for volume %@"},
+                    {0xF8DA0008, "kDAReturnNotPermitted for volume %@"},
+                    {0xF8DA0009, "kDAReturnNotPrivileged for volume %@"},
+                    {0xF8DA000A, "kDAReturnNotReady for volume %@"},
+                    {0xF8DA000B, "kDAReturnNotWritable for volume %@"},
+                    {0xF8DA000C, "kDAReturnUnsupported for volume %@"},
+                    {0, "kDAReturnSuccess for volume %@"},
+                    {0xF8DA0000, Unspecified},
+                    {0xF8DA000D, Unspecified},
+                    {1, Unspecified},
+                    {0x0000C010, Unspecified},
+                    {0x7FFFFFFF, Unspecified},
+                    {0x80000000, Unspecified},
+                    {0xFFFFFFFF, Unspecified}};
+
+TEST(StatusMessage, StandsInItsTable) {
+    for (const auto& row : Rows)
+        EXPECT_EQ(dissenterStatusMessage(row.status), row.format) << std::hex << row.status;
+}
+
+class FailureReport : public RunningProgram {
+  protected:
+    void SetUp() override {
+        RunningProgram::SetUp();
+        attachQuietly("disk4s1", "Data");
+        attachQuietly("disk5s1", "Other");
+        manager().setInProgress(true);
+        description_ = mac.diskArbitration.properties("disk4s1").description;
+    }
+    void reportUnmount(std::uint32_t status) {
+        reportUnmountFailure(manager(), platform::Dissenter{status}, description_);
+    }
+    platform::DiskDescription description_;
+};
+
+constexpr const char* OtherAlone =
+    "menu: re-mount Other | Start at Login | --- | About Brisel | --- | Quit Brisel";
+
+TEST_F(FailureReport, OfAnUnmountKeepsTheRecord) {
+    reportUnmount(0xF8DA0001);
+    EXPECT_THAT(newLines(), ElementsAre("icon: brisel-status-red-light",
+                                        "log: kDAReturnError for volume disk4s1",
+                                        "alert: Volume \"Data\" not unmountable",
+                                        "text: The volume is not unmountable. Probably it is still "
+                                        "used by another application.",
+                                        "buttons: OK",
+                                        "menu: re-mount Other | re-mount Data | --- | Start at "
+                                        "Login | --- | About Brisel | --- | Quit Brisel",
+                                        "icon: brisel-status-green-light"));
+    EXPECT_THAT(devices(), ElementsAre("disk4s1", "disk5s1"));
+    EXPECT_FALSE(manager().inProgress());
+}
+
+TEST_F(FailureReport, OfARemountRemovesTheRecordBeforeTheAlert) {
+    std::size_t recordsWhileTheAlertWasUp = 0;
+    person.whenAlertShows = [&](const auto&) {
+        recordsWhileTheAlertWasUp = manager().volumes().size();
+        return 0;
+    };
+    reportRemountFailure(manager(), platform::Dissenter{0xF8DA0006}, description_);
+    EXPECT_THAT(
+        newLines(),
+        ElementsAre("icon: brisel-status-red-light", "log: kDAReturnNotFound for volume disk4s1",
+                    "alert: Volume \"Data\" not re-mountable",
+                    "text: The volume is not re-mountable in read/write mode. Probably it "
+                    "was not clean unmounted before.",
+                    "buttons: OK", OtherAlone, "icon: brisel-status-green-light"));
+    EXPECT_EQ(recordsWhileTheAlertWasUp, 1U);
+    EXPECT_THAT(devices(), ElementsAre("disk5s1"));
+    EXPECT_FALSE(manager().inProgress());
+}
+
+TEST_F(FailureReport, OfARemountRemovesTheFirstMatchOnly) {
+    const auto twin = NTFSVolume::initWithVolume({});
+    twin->deviceNode = "disk4s1";
+    manager().volumes().push_back(twin);
+    reportRemountFailure(manager(), std::nullopt, description_);
+    EXPECT_THAT(devices(), ElementsAre("disk5s1", "disk4s1"));
+}
+
+TEST_F(FailureReport, OfARemountRemovesNothingWhereNothingMatches) {
+    description_.mediaBSDName = "disk9";
+    reportRemountFailure(manager(), std::nullopt, description_);
+    EXPECT_THAT(devices(), ElementsAre("disk4s1", "disk5s1"));
+}
+
+TEST_F(FailureReport, LogsNoStatusWithoutADissenter) {
+    reportRemountFailure(manager(), std::nullopt, description_);
+    EXPECT_THAT(newLogLines(), ElementsAre());
+    EXPECT_EQ(person.alertsSeen.size(), 1U);
+    EXPECT_FALSE(manager().inProgress());
+    reportUnmountFailure(manager(), std::nullopt, description_);
+    EXPECT_THAT(newLogLines(), ElementsAre());
+}
+
+TEST_F(FailureReport, ShowsItsAlertForASuccessToo) {
+    reportUnmount(0);
+    EXPECT_THAT(newLogLines(), ElementsAre("kDAReturnSuccess for volume disk4s1"));
+    EXPECT_EQ(person.alertsSeen.size(), 1U);
+}
+
+TEST_F(FailureReport, ShowsAMissingNameAsNull) {
+    description_.volumeName.reset();
+    description_.mediaBSDName.reset();
+    reportUnmount(0xF8DA000D);
+    EXPECT_THAT(newLogLines(), ElementsAre("no error specified by DADissenter for volume (null)"));
+    ASSERT_EQ(person.alertsSeen.size(), 1U);
+    EXPECT_EQ(person.alertsSeen[0].messageText, "Volume \"(null)\" not unmountable");
+}
+
+TEST_F(FailureReport, NamesTheDiskInTheLogAndTheVolumeInTheAlert) {
+    reportUnmount(0xF8DA0003);
+    EXPECT_THAT(newLogLines(), ElementsAre("kDAReturnBadArgument for volume disk4s1"));
+    EXPECT_EQ(person.alertsSeen.at(0).messageText, "Volume \"Data\" not unmountable");
+}
+
+}  // namespace
+}  // namespace brisel::tests

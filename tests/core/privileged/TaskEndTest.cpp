@@ -1,0 +1,266 @@
+// The end of a privileged task: noticed by the poll, or waited for.
+// SPDX-License-Identifier: MIT
+#include "tests/core/privileged/RealTools.h"
+
+namespace brisel::tests {
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::StartsWith;
+
+/// Notes notifications and handler calls in their order.
+class WatchedTask : public PrivilegedTask {
+  protected:
+    std::vector<std::string> heard;
+    const void* object = nullptr;
+    platform::Subscription observation = mac.notificationCenter.addObserver(
+        "KJPrivilegedTaskDidTerminateNotification", [this](const void* subject) {
+            heard.emplace_back("notification");
+            object = subject;
+        });
+
+    void watch(const Task& made) {
+        made->setTerminationHandler([this](KJPrivilegedTask& ended) {
+            EXPECT_FALSE(ended.isRunning());
+            heard.emplace_back("handler");
+        });
+    }
+    void launchAndEnd(const Task& made) {
+        ASSERT_EQ(made->launch(), 0);
+        waitForTheEnd(made->processIdentifier());
+    }
+};
+
+TEST_F(WatchedTask, PostsItsNotificationBeforeItCallsItsHandlerOnce) {
+    const auto made = shell("exit 1");
+    watch(made);
+    launchAndEnd(made);
+    passTime(1000);
+    EXPECT_THAT(heard, ElementsAre("notification", "handler"));
+    EXPECT_EQ(object, made.get());
+    EXPECT_FALSE(made->isRunning());
+    EXPECT_EQ(made->terminationStatus(), 1);
+}
+
+TEST_F(WatchedTask, IsLookedAtEveryTwentiethOfASecond) {
+    const auto made = shell("exit 0");
+    watch(made);
+    launchAndEnd(made);
+    passTime(49);
+    EXPECT_TRUE(made->isRunning());
+    EXPECT_THAT(heard, ElementsAre());
+    passTime(1);
+    EXPECT_FALSE(made->isRunning());
+    EXPECT_THAT(heard, ElementsAre("notification", "handler"));
+}
+
+TEST_F(WatchedTask, RunsOnWhileItsToolDoes) {
+    const auto made = waitingTool(5);
+    watch(made);
+    ASSERT_EQ(made->launch(), 0);
+    passTime(200);
+    EXPECT_TRUE(made->isRunning());
+    EXPECT_THAT(heard, ElementsAre());
+    tools.tell("\n");
+    waitForTheEnd(made->processIdentifier());
+    passTime(50);
+    EXPECT_EQ(made->terminationStatus(), 5);
+    EXPECT_THAT(heard, ElementsAre("notification", "handler"));
+}
+
+TEST_F(WatchedTask, PostsItsNotificationWithoutAHandlerToo) {
+    const auto made = shell("exit 0");
+    launchAndEnd(made);
+    passTime(50);
+    EXPECT_THAT(heard, ElementsAre("notification"));
+}
+
+TEST_F(WatchedTask, StaysAliveUntilItsEndWasNoticed) {
+    auto made = shell("exit 0");
+    watch(made);
+    const std::weak_ptr<KJPrivilegedTask> observer = made;
+    launchAndEnd(made);
+    made.reset();
+    EXPECT_FALSE(observer.expired());
+    passTime(50);
+    EXPECT_THAT(heard, ElementsAre("notification", "handler"));
+    EXPECT_TRUE(observer.expired());
+}
+
+TEST_F(WatchedTask, MayBeLaunchedAgainByItsHandler) {
+    const auto made = shell("exit 0");
+    int launches = 1;
+    made->setTerminationHandler([&](KJPrivilegedTask& ended) {
+        if (++launches == 2) {
+            EXPECT_EQ(ended.launch(), 0);
+        }
+    });
+    launchAndEnd(made);
+    passTime(50);
+    EXPECT_TRUE(made->isRunning());
+    waitForTheEnd(made->processIdentifier());
+    passTime(50);
+    EXPECT_FALSE(made->isRunning());
+    EXPECT_EQ(launches, 3);
+    made->setTerminationHandler({});
+}
+
+TEST_F(WatchedTask, MayLoseItsHandlerToTheHandlerItself) {
+    const auto made = shell("exit 0");
+    made->setTerminationHandler([this, calls = 0](KJPrivilegedTask& ended) mutable {
+        ended.setTerminationHandler(nullptr);
+        heard.push_back("call " + std::to_string(++calls));
+    });
+    launchAndEnd(made);
+    passTime(1000);
+    EXPECT_THAT(heard, ElementsAre("notification", "call 1"));
+    EXPECT_FALSE(made->terminationHandler());
+}
+
+TEST_F(WatchedTask, CountsAsEndedWhereItsChildCannotBePolled) {
+    const auto made = shell("exit 0");
+    watch(made);
+    ASSERT_EQ(made->launch(), 0);
+    ASSERT_EQ(waitpid(made->processIdentifier(), nullptr, 0), made->processIdentifier());
+    passTime(50);
+    EXPECT_FALSE(made->isRunning());
+    EXPECT_NE(made->terminationStatus(), 0);
+    EXPECT_THAT(heard, ElementsAre("notification", "handler"));
+}
+
+class WaitedForTask : public WatchedTask {};
+
+TEST_F(WaitedForTask, EndsSilently) {
+    const auto made = shell("exit 1");
+    watch(made);
+    ASSERT_EQ(made->launch(), 0);
+    made->waitUntilExit();
+    passTime(1000);
+    EXPECT_THAT(heard, ElementsAre());
+    EXPECT_FALSE(made->isRunning());
+    EXPECT_EQ(made->terminationStatus(), 1);
+    EXPECT_THAT(newLogLines(), ElementsAre());
+}
+
+TEST_F(WaitedForTask, EndsWithZeroWhereASignalKilledIt) {
+    const auto made = shell("kill -9 $$");
+    ASSERT_EQ(made->launch(), 0);
+    made->waitUntilExit();
+    EXPECT_EQ(made->terminationStatus(), 0);
+}
+
+TEST_F(WaitedForTask, EndsWithEachExitCode) {
+    for (const int code : {0, 1, 127, 255}) {
+        const auto made = shell("exit " + std::to_string(code));
+        ASSERT_EQ(made->launch(), 0);
+        made->waitUntilExit();
+        EXPECT_EQ(made->terminationStatus(), code);
+    }
+}
+
+TEST_F(WaitedForTask, ReturnsAtOnceWhereNothingRuns) {
+    const auto made = shell("exit 2");
+    made->waitUntilExit();
+    const auto lines = newLogLines();
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_THAT(lines[0],
+                AllOf(StartsWith("Task <KJPrivilegedTask: 0x"), EndsWith("> is not running")));
+    EXPECT_EQ(made->terminationStatus(), 0);
+    ASSERT_EQ(made->launch(), 0);
+    made->waitUntilExit();
+    made->waitUntilExit();
+    EXPECT_THAT(newLogLines(), ElementsAre(lines[0]));
+    EXPECT_EQ(made->terminationStatus(), 2);
+}
+
+TEST_F(WaitedForTask, GoesWithItsLastOwner) {
+    auto made = shell("exit 0");
+    const std::weak_ptr<KJPrivilegedTask> observer = made;
+    ASSERT_EQ(made->launch(), 0);
+    made->waitUntilExit();
+    made.reset();
+    EXPECT_TRUE(observer.expired());
+}
+
+TEST_F(WaitedForTask, MayBeOwnedByItsTimerAlone) {
+    auto made = shell("exit 1");
+    ASSERT_EQ(made->launch(), 0);
+    auto& task = *made;
+    const std::weak_ptr<KJPrivilegedTask> watched = made;
+    made.reset();
+    task.waitUntilExit();
+    EXPECT_TRUE(watched.expired());
+}
+
+TEST_F(WatchedTask, CannotBeTerminated) {
+    const auto made = waitingTool(6);
+    watch(made);
+    ASSERT_EQ(made->launch(), 0);
+    made->terminate();
+    passTime(100);
+    EXPECT_TRUE(made->isRunning());
+    EXPECT_EQ(kill(made->processIdentifier(), 0), 0);
+    tools.tell("\n");
+    made->waitUntilExit();
+    EXPECT_EQ(made->terminationStatus(), 6);
+}
+
+class TaskFactory : public WatchedTask {
+  protected:
+    static void expectEnded(const Task& made, int status, const std::string& output) {
+        EXPECT_FALSE(made->isRunning());
+        EXPECT_EQ(made->terminationStatus(), status);
+        EXPECT_EQ(made->outputFileHandle()->readDataToEndOfFile(), output);
+    }
+};
+
+TEST_F(TaskFactory, RunsALaunchPath) {
+    expectEnded(KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPath(withTools, "/bin/echo"), 0,
+                "\n");
+    EXPECT_THAT(heard, ElementsAre());
+}
+
+TEST_F(TaskFactory, RunsArguments) {
+    expectEnded(KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArguments(
+                    withTools, "/bin/sh", {"-c", "echo out; exit 7"}),
+                7, "out\n");
+}
+
+TEST_F(TaskFactory, RunsInADirectory) {
+    expectEnded(KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectory(
+                    withTools, "/bin/pwd", {}, "/"),
+                0, "/\n");
+}
+
+TEST_F(TaskFactory, RunsWithAnAuthorizationOfTheCaller) {
+    expectEnded(KJPrivilegedTask::
+                    launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectoryAuthorization(
+                        withTools, "/bin/pwd", {}, "/", tools.own()),
+                0, "/\n");
+    EXPECT_THAT(tools.calls, ElementsAre("execute"));
+}
+
+TEST_F(TaskFactory, ReturnsATaskAlsoWhereTheLaunchFailed) {
+    tools.executeStatus = -60031;
+    tools.copyStatus = -60006;
+    const std::vector<Task> made{
+        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPath(withTools, "/bin/true"),
+        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArguments(withTools, "/bin/true", {}),
+        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectory(
+            withTools, "/bin/true", {}, "/"),
+        KJPrivilegedTask::
+            launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectoryAuthorization(
+                withTools, "/bin/true", {}, "/", tools.own())};
+    for (const auto& one : made) {
+        EXPECT_FALSE(one->isRunning());
+        EXPECT_EQ(one->terminationStatus(), 0);
+    }
+    const auto lines = newLogLines();
+    EXPECT_EQ(lines.size(), 4U);
+    EXPECT_THAT(lines, testing::Each(EndsWith("> is not running")));
+}
+
+}  // namespace
+}  // namespace brisel::tests

@@ -1,0 +1,146 @@
+// The manager: its creation, its session and its delegate.
+// SPDX-License-Identifier: MIT
+#include "volumes/NTFSVolumeManager.h"
+
+#include "tests/support/PlatformWith.h"
+#include "tests/support/RunningProgram.h"
+
+namespace brisel::tests {
+namespace {
+
+using testing::ElementsAre;
+
+/// Notes the calls of the manager's initialiser in their order.
+class NotingServices final : public platform::DiskArbitration,
+                             public platform::UserNotificationCenter {
+  public:
+    std::vector<std::string> calls;
+
+    void createSession() override { calls.emplace_back("session"); }
+    platform::Subscription registerDiskAppearedCallback(DiskCallback /*callback*/) override {
+        calls.emplace_back("appeared");
+        return {};
+    }
+    platform::Subscription registerDiskDisappearedCallback(DiskCallback /*callback*/) override {
+        calls.emplace_back("disappeared");
+        return {};
+    }
+    void scheduleWithRunLoop() override { calls.emplace_back("schedule"); }
+    std::optional<platform::Disk> diskFromBSDName(
+        const std::optional<std::string>& /*name*/) override {
+        return std::nullopt;
+    }
+    std::optional<platform::Disk> diskFromVolumePath(
+        const std::optional<platform::FileURL>& /*path*/) override {
+        return std::nullopt;
+    }
+    platform::DiskDescription copyDescription(const platform::Disk& /*disk*/) override {
+        return {};
+    }
+    void unmount(const platform::Disk& /*disk*/, Completion /*completion*/) override {}
+    void mountWithArguments(const platform::Disk& /*disk*/,
+                            const std::vector<std::string>& /*arguments*/,
+                            Completion /*completion*/) override {}
+
+    platform::Subscription setDelegate(ResponseHandler /*handler*/) override {
+        calls.emplace_back("delegate");
+        return {};
+    }
+    void setNotificationCategories(
+        const std::vector<platform::NotificationCategory>& /*categories*/) override {
+        calls.emplace_back("categories");
+    }
+    void requestAuthorization(unsigned /*options*/, AuthorizationHandler /*handler*/) override {}
+    void addNotificationRequest(const platform::NotificationRequest& /*request*/,
+                                AddHandler /*handler*/) override {}
+};
+
+class Manager : public testing::Test, public SimulatedProgram {};
+
+TEST_F(Manager, StartsInOrder) {
+    NotingServices services;
+    const NTFSVolumeManager made(platformWith(
+        mac.platform, {.diskArbitration = &services, .userNotificationCenter = &services}));
+    EXPECT_THAT(services.calls, ElementsAre("session", "appeared", "disappeared", "schedule",
+                                            "delegate", "categories"));
+}
+
+TEST_F(Manager, StartsIdleWithAnEmptyList) {
+    const NTFSVolumeManager made(mac.platform);
+    EXPECT_TRUE(made.volumes().empty());
+    EXPECT_FALSE(made.inProgress());
+}
+
+TEST_F(Manager, HearsOfDisksThatWereThereBeforeTheStart) {
+    attachNTFS("disk5s1", "Late name, early disk");
+    attachNTFS("disk4s1", "Data");
+    start();
+    attachNTFS("disk3s1", "Third");
+    turn();
+    EXPECT_THAT(devices(), ElementsAre("disk5s1", "disk4s1", "disk3s1"));
+}
+
+TEST_F(Manager, HearsNothingBeforeTheMainLoopTurns) {
+    attachNTFS("disk4s1", "Data");
+    program.start();
+    EXPECT_TRUE(manager().volumes().empty());
+}
+
+TEST_F(Manager, NeverHearsOfADiskWithoutAMountableVolume) {
+    start();
+    auto disk = ntfsDisk("Whole");
+    disk.description.volumeMountable.reset();
+    mac.diskArbitration.attach("disk4", disk);
+    disk.description.volumeMountable = false;
+    mac.diskArbitration.attach("disk5", disk);
+    forgetLines();
+    mac.diskArbitration.detach("disk4");
+    mac.diskArbitration.detach("disk5");
+    turn();
+    EXPECT_THAT(newLines(), ElementsAre());
+}
+
+TEST_F(Manager, DoesNothingForADelegateThatIsGone) {
+    attachNTFS("disk4s1", "Data");
+    NTFSVolumeManager orphan(mac.platform);
+    orphan.setDelegate(std::weak_ptr<NTFSVolumeManagerDelegate>());
+    turn();
+    EXPECT_EQ(orphan.volumes().size(), 1U);
+    orphan.errorIcon();
+    orphan.remountVolumeNamed("disk4s1");
+    turn();
+    EXPECT_FALSE(orphan.inProgress());
+    EXPECT_THAT(newLines(), testing::Not(testing::Contains(testing::StartsWith("icon:"))));
+}
+
+TEST_F(Manager, DoesNotKeepItsDelegateAlive) {
+    struct Delegate final : NTFSVolumeManagerDelegate {
+        void refreshVolumes() override {}
+        void errorIcon() override {}
+    };
+    NTFSVolumeManager made(mac.platform);
+    auto delegate = std::make_shared<Delegate>();
+    const std::weak_ptr<Delegate> observer = delegate;
+    made.setDelegate(delegate);
+    delegate.reset();
+    EXPECT_TRUE(observer.expired());
+}
+
+TEST_F(Manager, StaysQuietWithoutASession) {
+    mac.faults.failCall(1);
+    attachNTFS("disk4s1", "Data");
+    start();
+    EXPECT_EQ(mac.faults.struck(), "createSession");
+    EXPECT_TRUE(manager().volumes().empty());
+    manager().remountVolumeNamed("disk4s1");
+    EXPECT_EQ(person.alertsSeen.size(), 1U);
+}
+
+TEST_F(Manager, TakesARecordFromAMenuItemThatCarriesOne) {
+    const auto record = NTFSVolume::initWithVolume({});
+    EXPECT_EQ(volumeOf(senderFor(record)), record);
+    EXPECT_EQ(volumeOf(platform::MenuItem()), nullptr);
+}
+
+}  // namespace
+}  // namespace brisel::tests

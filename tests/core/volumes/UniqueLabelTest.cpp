@@ -1,0 +1,106 @@
+// Labels that are unique in the list, and stale records of the same disk.
+// SPDX-License-Identifier: MIT
+#include "tests/support/RunningProgram.h"
+
+namespace brisel::tests {
+namespace {
+
+using testing::ElementsAre;
+
+class UniqueLabel : public RunningProgram {};
+
+TEST_F(UniqueLabel, GrowsByTheDeviceNode) {
+    attachQuietly("disk4s1", "Data");
+    attachQuietly("disk5s1", "Data");
+    EXPECT_THAT(labels(), ElementsAre("Data", "Data-disk5s1"));
+}
+
+TEST_F(UniqueLabel, IsComparedWithCase) {
+    attachQuietly("disk4s1", "Data");
+    attachQuietly("disk5s1", "data");
+    EXPECT_THAT(labels(), ElementsAre("Data", "data"));
+}
+
+TEST_F(UniqueLabel, GrowsTwiceInOneWalk) {
+    attachQuietly("disk4s1", "Data");
+    attachQuietly("disk5s1", "Data-disk6s1");
+    attachQuietly("disk6s1", "Data");
+    EXPECT_THAT(labels(), ElementsAre("Data", "Data-disk6s1", "Data-disk6s1-disk6s1"));
+}
+
+TEST_F(UniqueLabel, GrowsOnceWhereTheGrownLabelStandsEarlier) {
+    attachQuietly("disk5s1", "Data-disk6s1");
+    attachQuietly("disk4s1", "Data");
+    attachQuietly("disk6s1", "Data");
+    EXPECT_THAT(labels(), ElementsAre("Data-disk6s1", "Data", "Data-disk6s1"));
+}
+
+TEST_F(UniqueLabel, IsNotComparedWithTheStaleRecord) {
+    attachQuietly("disk4s1", "Data");
+    mac.diskArbitration.report("disk4s1");
+    turn();
+    EXPECT_THAT(labels(), ElementsAre("Data"));
+}
+
+TEST_F(UniqueLabel, GrowsBeforeTheStaleRecordAtTheEnd) {
+    attachQuietly("disk4s1", "Data");
+    attachQuietly("disk5s1", "Data");
+    mac.diskArbitration.report("disk5s1");
+    turn();
+    EXPECT_THAT(labels(), ElementsAre("Data", "Data-disk5s1"));
+}
+
+TEST_F(UniqueLabel, GrowsForNamelessVolumesToo) {
+    auto nameless = ntfsDisk("");
+    nameless.description.volumeName.reset();
+    mac.diskArbitration.attach("disk4s1", nameless);
+    mac.diskArbitration.attach("disk5s1", nameless);
+    turn();
+    EXPECT_THAT(labels(), ElementsAre("(null)", "(null)-disk5s1"));
+}
+
+class StaleRecord : public RunningProgram {};
+
+TEST_F(StaleRecord, IsReplacedAtTheEndOfTheList) {
+    attachQuietly("disk3s1", "Other");
+    attachQuietly("disk4s1", "Data");
+    const auto stale = volume(1);
+    mac.diskArbitration.report("disk4s1");
+    turn();
+    EXPECT_THAT(devices(), ElementsAre("disk3s1", "disk4s1"));
+    EXPECT_NE(volume(1), stale);
+    EXPECT_THAT(newLines(), testing::Contains(testing::StartsWith("menu:")));
+}
+
+TEST_F(StaleRecord, StopsTheHandlingWhereOthersFollow) {
+    attachQuietly("disk4s1", "Data");
+    attachQuietly("disk5s1", "Other");
+    mac.diskArbitration.report("disk4s1");
+    turn();
+    EXPECT_THAT(devices(), ElementsAre("disk5s1"));
+    EXPECT_THAT(newLines(), ElementsAre("log: disk disk4s1 appeared"));
+}
+
+TEST_F(StaleRecord, StopsTheHandlingOfAListedVolumeToo) {
+    attachQuietly("disk4s1", "Data", SomeUUID);
+    attachQuietly("disk5s1", "Other");
+    storeAutomountList({SomeUUID});
+    mac.diskArbitration.report("disk4s1");
+    turn();
+    EXPECT_THAT(newLines(), ElementsAre("log: disk disk4s1 appeared"));
+    EXPECT_FALSE(manager().inProgress());
+}
+
+TEST_F(StaleRecord, StopsTheWalkAtItsFirstRemoval) {
+    attachQuietly("disk4s1", "Data");
+    const auto twin = NTFSVolume::initWithVolume({});
+    twin->deviceNode = "disk4s1";
+    manager().volumes().push_back(twin);
+    mac.diskArbitration.report("disk4s1");
+    turn();
+    ASSERT_EQ(manager().volumes().size(), 1U);
+    EXPECT_EQ(volume(), twin);
+}
+
+}  // namespace
+}  // namespace brisel::tests

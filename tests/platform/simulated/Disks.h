@@ -1,0 +1,53 @@
+// The disks of the simulated Mac, without the program.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/SimulatedProgram.h"
+
+namespace brisel::tests {
+
+class Disks : public testing::Test, public SimulatedProgram {
+  protected:
+    platform::simulated::DiskArbitration& disks = mac.diskArbitration;
+    std::vector<std::string> heard;
+    std::vector<platform::Disk> reports;
+    platform::Subscription appeared;
+    platform::Subscription disappeared;
+
+    void listen() {
+        disks.createSession();
+        appeared = disks.registerDiskAppearedCallback([this](const platform::Disk& disk) {
+            heard.push_back("+" + disk.bsdName);
+            reports.push_back(disk);
+        });
+        disappeared = disks.registerDiskDisappearedCallback([this](const platform::Disk& disk) {
+            heard.push_back("-" + disk.bsdName);
+            reports.push_back(disk);
+        });
+        disks.scheduleWithRunLoop();
+    }
+    platform::Disk disk(const std::string& name) { return disks.diskFromBSDName(name).value(); }
+    /// The status of a request; 0 when it was granted, -1 as long as nothing came.
+    long long unmount(const std::string& name) {
+        long long status = -1;
+        disks.unmount(disk(name), [&](const auto&, const auto& dissenter) {
+            status = dissenter ? dissenter->status : 0;
+        });
+        turn();
+        return status;
+    }
+    long long mount(const std::string& name) {
+        long long status = -1;
+        disks.mountWithArguments(disk(name), {"rw", "x"}, [&](const auto&, const auto& dissenter) {
+            status = dissenter ? dissenter->status : 0;
+        });
+        turn();
+        return status;
+    }
+    const DiskProperties& properties(const std::string& name) { return disks.properties(name); }
+};
+
+}  // namespace brisel::tests

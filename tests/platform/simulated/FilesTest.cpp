@@ -1,0 +1,132 @@
+// The folders of the simulated Mac, and the file manager in front of them.
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/SimulatedProgram.h"
+
+namespace brisel::tests {
+namespace {
+
+using testing::ElementsAre;
+using Call = platform::simulated::FileManager::Call;
+
+class Folders : public testing::Test {
+  protected:
+    platform::simulated::FileSystem files;
+};
+
+TEST_F(Folders, AreMadeWithThoseAboveThem) {
+    files.makeFolder("/a/b/c");
+    EXPECT_TRUE(files.hasFolder("/a"));
+    EXPECT_TRUE(files.hasFolder("/a/b/c/"));
+    EXPECT_FALSE(files.hasFolder("/a/b/c/d"));
+}
+
+TEST_F(Folders, AreListedInAlphabeticalOrder) {
+    files.makeFolder("/h/b");
+    files.makeFolder("/h/a/x");
+    files.makeFolder("/hx");
+    EXPECT_THAT(files.foldersFrom("/h"), ElementsAre("/h", "/h/a", "/h/a/x", "/h/b"));
+    EXPECT_THAT(files.foldersFrom("/none"), ElementsAre());
+}
+
+TEST_F(Folders, CountWhatIsDirectlyInThem) {
+    files.makeFile("/h/one");
+    files.makeFile("/h/.hidden");
+    files.makeFile("/h/inner/deep");
+    files.makeFile("/h2/other");
+    EXPECT_EQ(files.entryCount("/h"), 3U);
+    EXPECT_EQ(files.entryCount("/h/inner"), 1U);
+    EXPECT_EQ(files.entryCount("/none"), 0U);
+}
+
+TEST_F(Folders, GoWithAllThatIsInThem) {
+    files.makeFile("/h/inner/deep");
+    files.makeFolder("/hx");
+    files.removeFolder("/h");
+    EXPECT_FALSE(files.hasFolder("/h"));
+    EXPECT_FALSE(files.hasFolder("/h/inner"));
+    EXPECT_TRUE(files.hasFolder("/hx"));
+    files.makeFolder("/h/inner");
+    EXPECT_EQ(files.entryCount("/h/inner"), 0U);
+}
+
+TEST_F(Folders, StayWhenTheyAreEmptied) {
+    files.makeFile("/h/inner/deep");
+    files.emptyFolder("/h");
+    EXPECT_TRUE(files.hasFolder("/h"));
+    EXPECT_EQ(files.entryCount("/h"), 0U);
+    files.emptyFolder("/none");
+    EXPECT_FALSE(files.hasFolder("/none"));
+}
+
+TEST_F(Folders, ResolveDotsByTheText) {
+    files.makeFolder("/h/.brisel/../x/./y//");
+    EXPECT_THAT(files.foldersFrom("/h"), ElementsAre("/h", "/h/x", "/h/x/y"));
+    files.makeFolder("/../..");
+    EXPECT_TRUE(files.hasFolder("/h/x/../x/y"));
+}
+
+class Files : public testing::Test, public SimulatedProgram {
+  protected:
+    platform::simulated::FileManager& manager = mac.fileManager;
+    static platform::Error error(const std::string& text) {
+        return {.localizedDescription = text, .localizedFailureReason = {}};
+    }
+};
+
+TEST_F(Files, TellEachRequestWhateverItsOutcome) {
+    manager.fail(Call::Create, error("x"));
+    EXPECT_TRUE(manager.createDirectory("/a"));
+    EXPECT_FALSE(manager.createDirectory("/a"));
+    EXPECT_FALSE(manager.createDirectory("/a"));
+    EXPECT_FALSE(manager.removeItem("/a"));
+    EXPECT_TRUE(manager.removeItem("/a"));
+    EXPECT_THAT(newLines(),
+                ElementsAre("mkdir: /a", "mkdir: /a", "mkdir: /a", "delete: /a", "delete: /a"));
+}
+
+TEST_F(Files, FailForAFolderThatIsNotThere) {
+    const auto listing = manager.contentsOfDirectory(platform::FileURL("/none"));
+    ASSERT_TRUE(listing.error);
+    EXPECT_EQ(listing.error->localizedDescription, "No such file or directory");
+    EXPECT_EQ(listing.error->localizedFailureReason, std::nullopt);
+    const auto removal = manager.removeItem("/none");
+    ASSERT_TRUE(removal);
+    EXPECT_EQ(removal->localizedDescription, "No such file or directory");
+    EXPECT_EQ(removal->localizedFailureReason, std::nullopt);
+}
+
+TEST_F(Files, FailAsToldInTheOrderTold) {
+    mac.fileSystem.makeFolder("/a");
+    manager.fail(Call::List, error("one"));
+    manager.fail(Call::List, error("two"));
+    const platform::FileURL folder("/a");
+    EXPECT_EQ(manager.contentsOfDirectory(folder).error->localizedDescription, "one");
+    EXPECT_EQ(manager.contentsOfDirectory(folder).error->localizedDescription, "two");
+    EXPECT_FALSE(manager.contentsOfDirectory(folder).error);
+}
+
+TEST_F(Files, FailForTheToldCallOnly) {
+    manager.fail(Call::Delete, error("busy"));
+    EXPECT_FALSE(manager.createDirectory("/a"));
+    EXPECT_FALSE(manager.contentsOfDirectory(platform::FileURL("/a")).error);
+    EXPECT_EQ(manager.removeItem("/a")->localizedDescription, "busy");
+    EXPECT_TRUE(mac.fileSystem.hasFolder("/a"));
+}
+
+TEST_F(Files, AreWritableAsTheirDiskSays) {
+    auto disk = ntfsDisk("Data");
+    disk.writable = true;
+    mac.diskArbitration.attach("disk4", disk);
+    EXPECT_TRUE(manager.isWritableFileAtPath("/Volumes/Data"));
+    EXPECT_FALSE(manager.isWritableFileAtPath("/Volumes/Data/inner"));
+    EXPECT_FALSE(manager.isWritableFileAtPath("/"));
+    EXPECT_FALSE(manager.isWritableFileAtPath(std::nullopt));
+    mac.diskArbitration.detach("disk4");
+    EXPECT_FALSE(manager.isWritableFileAtPath("/Volumes/Data"));
+}
+
+}  // namespace
+}  // namespace brisel::tests

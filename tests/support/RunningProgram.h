@@ -1,0 +1,45 @@
+// The fixture of most tests: the program, started, with no disk attached yet.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/SimulatedProgram.h"
+
+namespace brisel::tests {
+
+inline constexpr const char* SomeUUID = "0F1E2D3C-4B5A-6978-8796-A5B4C3D2E1F0";
+inline constexpr const char* OtherUUID = "11111111-2222-3333-4444-555555555555";
+
+/// What the program prints of itself begins after the start.
+class RunningProgram : public ::testing::Test, public SimulatedProgram {
+  protected:
+    void SetUp() override {
+        start();
+        forgetLines();
+    }
+
+    /// Stores the automount list behind the program's back.
+    void storeAutomountList(std::vector<std::string> uuids) {
+        mac.userDefaults.store("volumeList",
+                               std::make_shared<const std::vector<std::string>>(std::move(uuids)));
+    }
+
+    /// A `menu:` line whose generated items are these.
+    static std::string menuLine(const std::string& generated) {
+        return "menu: " + generated + " | " + FixedItems;
+    }
+};
+
+/// Matches the transcript lines that a rebuild of the menu prints while an operation runs.
+inline std::string busyMenuLine() {
+    return std::string("menu: Brisel is operating ... | --- | ") + FixedItems;
+}
+
+/// The same with no volume known.
+inline std::string emptyMenuLine() {
+    return std::string("menu: No NTFS Volumes to re-mount | --- | ") + FixedItems;
+}
+
+}  // namespace brisel::tests

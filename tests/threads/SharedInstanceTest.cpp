@@ -1,0 +1,76 @@
+// What may happen on several threads; a program of its own, as the shared manager never goes.
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <array>
+#include <atomic>
+#include <barrier>
+#include <set>
+#include <thread>
+
+#include "tests/support/PlatformWith.h"
+#include "tests/support/SimulatedProgram.h"
+
+namespace brisel::tests {
+namespace {
+
+constexpr std::size_t ThreadCount = 8;
+
+/// Counts how often a manager has registered its category.
+class CountingCenter final : public platform::UserNotificationCenter {
+  public:
+    std::atomic<int> registrations = 0;
+
+    platform::Subscription setDelegate(ResponseHandler /*handler*/) override { return {}; }
+    void setNotificationCategories(
+        const std::vector<platform::NotificationCategory>& /*categories*/) override {
+        ++registrations;
+        // Gives the other first calls time to arrive while the manager is being made.
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    void requestAuthorization(unsigned /*options*/, AuthorizationHandler /*handler*/) override {}
+    void addNotificationRequest(const platform::NotificationRequest& /*request*/,
+                                AddHandler /*handler*/) override {}
+};
+
+TEST(SharedInstance, IsOneAndMadeOnceWhereFirstCallsRace) {
+    static SimulatedProgram brisel;
+    static CountingCenter center;
+    static const auto services =
+        platformWith(brisel.mac.platform, {.userNotificationCenter = &center});
+    platform::install(services);
+
+    std::array<NTFSVolumeManager*, ThreadCount> managers{};
+    std::barrier start(ThreadCount);
+    std::vector<std::thread> threads;
+    for (auto& manager : managers) {
+        threads.emplace_back([&manager, &start] {
+            start.arrive_and_wait();
+            manager = &NTFSVolumeManager::sharedInstance();
+        });
+    }
+    for (auto& thread : threads)
+        thread.join();
+
+    EXPECT_EQ(std::set(managers.begin(), managers.end()).size(), 1U);
+    EXPECT_NE(managers.front(), nullptr);
+    EXPECT_EQ(managers.front(), &NTFSVolumeManager::sharedInstance());
+    EXPECT_EQ(center.registrations, 1);
+}
+
+TEST(NotificationSent, IsSetOnAnotherThreadWhileTheMainThreadReadsIt) {
+    const auto volume = NTFSVolume::initWithVolume({});
+    std::barrier start(2);
+    std::thread center([&] {
+        start.arrive_and_wait();
+        volume->notificationSent = true;
+    });
+    start.arrive_and_wait();
+    while (!volume->notificationSent)
+        std::this_thread::yield();
+    center.join();
+    EXPECT_TRUE(volume->notificationSent);
+}
+
+}  // namespace
+}  // namespace brisel::tests
