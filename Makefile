@@ -23,6 +23,7 @@ test:
 	cmake --preset tsan
 	cmake --build --preset tsan
 	ctest --preset tsan
+	@reason=$$(scripts/real-volumes-possible) || echo "Skipping the tests on real volumes: $$reason"
 	ctest --preset asan -j 2
 
 bench:

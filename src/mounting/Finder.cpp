@@ -15,7 +15,7 @@ namespace {
 
 // Where the read-write mount puts volumes on this system; a record's own path is not consulted.
 std::string mountFolder(const platform::Platform& platform) {
-    if (!platform.systemVersion.isMacOS12OrLater()) return "/Volumes";
+    if (!platform.systemVersion.isMacOS12OrLater()) return platform.fileManager.volumesDirectory();
     return platform::stringWithFormat("%@/.brisel", platform.fileManager.homeDirectory());
 }
 

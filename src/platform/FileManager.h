@@ -24,6 +24,8 @@ class FileManager {
 
     /// The user's home directory, without a slash at the end.
     [[nodiscard]] virtual std::string homeDirectory() const = 0;
+    /// Where the platform itself mounts volumes for the user: /Volumes on a Mac.
+    [[nodiscard]] virtual std::string volumesDirectory() const = 0;
     [[nodiscard]] virtual std::string currentDirectoryPath() const = 0;
     /// Whether the user may write at this path; no for none, and on a read-only volume.
     [[nodiscard]] virtual bool isWritableFileAtPath(const std::optional<std::string>& path) = 0;

@@ -35,6 +35,11 @@ TEST(MountInfo, ReadsEscapedBlanksAndBackslashes) {
     EXPECT_EQ(mountState(table, "/media/My Data\\x"), MountState::ReadWrite);
 }
 
+TEST(MountInfo, KeepsTheWhiteSpaceThatTheKernelLeavesAsItIs) {
+    const std::string table = "41 27 8:1 / /media/A\rB\vC\fD rw - fuseblk /dev/sda1 rw\n";
+    EXPECT_EQ(mountState(table, "/media/A\rB\vC\fD"), MountState::ReadWrite);
+}
+
 TEST(MountInfo, PassesOverLinesThatMakeNoSense) {
     const std::string table =
         "\n- - -\n41 27\n41 27 8:1 / /media/one rw -\n41 27 8:1 / /a\\0 rw - x y\n\\\n";
@@ -74,6 +79,12 @@ TEST(DiskDescription, LeavesOutWhatUDisks2LeavesEmpty) {
     EXPECT_EQ(description.volumePath, std::nullopt);
     EXPECT_EQ(description.mediaUUID, std::nullopt);
     EXPECT_EQ(description.volumeUUID, std::nullopt);
+}
+
+TEST(DiskDescription, OfADiskThatIsBeingPulledIsNotMountable) {
+    auto properties = stick();
+    properties.idType.clear();
+    EXPECT_EQ(describe(properties).volumeMountable, false);
 }
 
 TEST(DiskDescription, OfAnIgnoredDiskIsNotMountable) {

@@ -26,8 +26,9 @@ bool succeeds(const std::string& command) {
 }
 
 NTFSImage::NTFSImage(const std::string& folder, const std::string& label)
-    : path_(folder + "/" + label + ".img") {
-    shell("truncate -s 8M '" + path_ + "' && mkntfs -F -q -L '" + label + "' '" + path_ + "'");
+    : path_(folder + "/volume.img") {
+    setenv("LABEL", label.c_str(), 1);
+    shell("truncate -s 8M '" + path_ + "' && mkntfs -F -q -L \"$LABEL\" '" + path_ + "'");
 }
 
 NTFSImage::~NTFSImage() {

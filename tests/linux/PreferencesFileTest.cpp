@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <sstream>
@@ -72,6 +73,28 @@ TEST_F(PreferencesFile, ThatIsMalformedIsSetAsideAndLogged) {
     EXPECT_THAT(logged_[1], HasSubstr(path_ + ".malformed"));
     defaults.setBool("showDisclaimer", false);
     EXPECT_FALSE(open().boolForKey("showDisclaimer"));
+}
+
+TEST_F(PreferencesFile, OfNullBytesIsSetAsideToo) {
+    write(std::string(60, '\0'));
+    EXPECT_TRUE(open().boolForKey("showDisclaimer"));
+    EXPECT_EQ(read(path_ + ".malformed"), std::string(60, '\0'));
+    EXPECT_EQ(logged_.size(), 2U);
+}
+
+TEST_F(PreferencesFile, ThatIsAPipeHangsNothing) {
+    ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
+    EXPECT_TRUE(open().boolForKey("showDisclaimer"));
+    EXPECT_EQ(logged_.size(), 2U);
+}
+
+TEST_F(PreferencesFile, BehindALinkIsWrittenWhereItIs) {
+    const auto target = folder_.path() + "/elsewhere.conf";
+    std::ofstream(target) << "[Brisel]\nshowDisclaimer=true\n";
+    std::filesystem::create_symlink(target, path_);
+    open().setBool("showDisclaimer", false);
+    EXPECT_TRUE(std::filesystem::is_symlink(path_));
+    EXPECT_THAT(read(target), HasSubstr("showDisclaimer=false"));
 }
 
 TEST_F(PreferencesFile, NeverTakesTheNameOfOneSetAsideBefore) {

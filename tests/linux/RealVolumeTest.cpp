@@ -1,9 +1,12 @@
 // The program's main job on real NTFS volumes, through brisel-console.
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 
 #include "tests/linux/ConsoleSession.h"
 #include "tests/linux/NTFSImage.h"
@@ -18,24 +21,15 @@ const std::string Scripts = BRISEL_SCRIPTS;
 
 class RealVolume : public testing::Test {
   protected:
-    static void SetUpTestSuite() {
-        reasonAgainst = shell(Scripts + "/real-volumes-possible");
-        if (reasonAgainst.empty()) reasonAgainst = shell(Scripts + "/disk-services start");
-    }
-    static void TearDownTestSuite() { shell(Scripts + "/disk-services stop"); }
-
     void SetUp() override {
-        if (!reasonAgainst.empty()) {
-            GTEST_SKIP() << "No real volume can be tested here: " << reasonAgainst;
-        }
         folder_ = shell("mktemp -d");
-        image_ = std::make_unique<NTFSImage>(folder_, "Data");
+        image_ = std::make_unique<NTFSImage>(folder_, label_);
     }
 
     void TearDown() override {
         console_.reset();
         image_.reset();
-        if (!folder_.empty()) fs::remove_all(folder_);
+        fs::remove_all(folder_);
     }
 
     void startConsole() {
@@ -45,28 +39,34 @@ class RealVolume : public testing::Test {
         ASSERT_TRUE(console_->waitFor("User accepted the potential risk.")) << transcript();
     }
 
-    /// From a volume that is attached and listed to one that is mounted read-write.
+    void waitForPrompt() {
+        ASSERT_TRUE(console_->waitFor(label_ + " detected. Re-mount it read-write?"))
+            << transcript();
+    }
+
+    /// From a volume that is attached and listed to the folder it is mounted on read-write.
     std::string acceptPrompt() {
-        EXPECT_TRUE(console_->waitFor("Data detected. Re-mount it read-write?")) << transcript();
+        waitForPrompt();
         console_->type("y");
         return folderShown();
     }
 
+    /// The folder that the program shows, which must be one of this volume.
     std::string folderShown() {
         EXPECT_TRUE(console_->waitFor("The volume is at ")) << transcript();
-        return console_->restOfLine();
+        const auto folder = console_->restOfLine();
+        EXPECT_EQ(shell("findmnt --noheadings --output SOURCE '" + folder + "'"), image_->device());
+        return folder;
     }
 
     [[nodiscard]] const std::string& transcript() const { return console_->output(); }
 
-    static std::string reasonAgainst;
-
+    /// One that no other volume has: the program also sees what else is attached.
+    const std::string label_ = "Brisel" + std::to_string(getpid());
     std::string folder_;
     std::unique_ptr<NTFSImage> image_;
     std::unique_ptr<ConsoleSession> console_;
 };
-
-std::string RealVolume::reasonAgainst;
 
 TEST_F(RealVolume, MountedReadOnlyIsRemountedWrittenToAndUnmounted) {
     image_->attach();
@@ -100,16 +100,15 @@ TEST_F(RealVolume, OnTheAutomountListIsRemountedWithoutAQuestion) {
     image_->mountReadOnly();
     const auto folder = folderShown();
     EXPECT_TRUE(succeeds("touch '" + folder + "/allowed'"));
-    const auto firstPrompt = transcript().find("Data detected");
-    EXPECT_EQ(transcript().find("Data detected", firstPrompt + 1), std::string::npos)
-        << transcript();
+    const auto firstPrompt = transcript().find(" detected");
+    EXPECT_EQ(transcript().find(" detected", firstPrompt + 1), std::string::npos) << transcript();
 }
 
 TEST_F(RealVolume, KeptBusyByAnOpenFileStaysReadOnlyAndIsReported) {
     image_->attach();
     const auto mountPoint = image_->mountReadOnly();
     startConsole();
-    ASSERT_TRUE(console_->waitFor("Data detected")) << transcript();
+    waitForPrompt();
     {
         const std::ifstream open(mountPoint + "/$MFT");
         const fs::directory_iterator busy(mountPoint);
@@ -117,7 +116,7 @@ TEST_F(RealVolume, KeptBusyByAnOpenFileStaysReadOnlyAndIsReported) {
         ASSERT_TRUE(console_->waitFor("kDAReturnBusy for volume " + image_->name()))
             << transcript();
     }
-    ASSERT_TRUE(console_->waitFor("! Volume \"Data\" not unmountable")) << transcript();
+    ASSERT_TRUE(console_->waitFor("! Volume \"" + label_ + "\" not unmountable")) << transcript();
     console_->type("1");
     ASSERT_TRUE(console_->waitFor("[Brisel: a volume is read-only]")) << transcript();
     EXPECT_TRUE(image_->isMounted());
@@ -134,16 +133,18 @@ TEST_F(RealVolume, PulledWhileMountedLeavesTheMenuAndComesBack) {
     ASSERT_TRUE(console_->waitFor("log: disk " + name + " disappeared")) << transcript();
     ASSERT_TRUE(console_->waitFor("[Brisel: no NTFS volume]")) << transcript();
     image_->attach();
-    EXPECT_TRUE(console_->waitFor("Data detected")) << transcript();
+    waitForPrompt();
     EXPECT_EQ(console_->quit(), 0);
 }
 
 TEST_F(RealVolume, OutlivesTheDiskService) {
     image_->attach();
     startConsole();
-    ASSERT_TRUE(console_->waitFor("Data detected")) << transcript();
+    waitForPrompt();
 
-    shell("pkill -x udisksd");
+    const auto process = shell(Scripts + "/disk-services udisks-process");
+    if (process.empty()) GTEST_SKIP() << "UDisks2 was not started by this test";
+    shell("kill " + process);
     ASSERT_TRUE(console_->waitFor("The disk service UDisks2 has gone; waiting for it."))
         << transcript();
     ASSERT_TRUE(succeeds(Scripts + "/disk-services start"));
@@ -160,13 +161,69 @@ TEST_F(RealVolume, HibernatedIsNotLeftMountedReadOnlyAsIfItWereWritable) {
     shell("printf hibr > '" + folder + "/hiberfil.sys'; truncate -s 8192 '" + folder +
           "/hiberfil.sys'; udisksctl unmount --no-user-interaction -b " + image_->device());
     startConsole();
-    ASSERT_TRUE(console_->waitFor("Data detected")) << transcript();
+    waitForPrompt();
     console_->type("y");
     ASSERT_TRUE(console_->waitFor("kDAReturnNotWritable for volume")) << transcript();
-    ASSERT_TRUE(console_->waitFor("! Volume \"Data\" not re-mountable")) << transcript();
+    ASSERT_TRUE(console_->waitFor("! Volume \"" + label_ + "\" not re-mountable")) << transcript();
     EXPECT_FALSE(image_->isMounted());
+}
+
+TEST_F(RealVolume, MountedReadWriteBySomebodyElseIsShownSo) {
+    startConsole();
+    image_->attach();
+    waitForPrompt();
+    ASSERT_TRUE(console_->waitFor("[Brisel: a volume is read-only]")) << transcript();
+    shell("udisksctl mount --no-user-interaction -b " + image_->device());
+    EXPECT_TRUE(console_->waitFor("[Brisel: a volume is writable]")) << transcript();
+}
+
+TEST_F(RealVolume, UnmountedBySomebodyElseLeavesTheMenuAndIsNotMountedAgain) {
+    startConsole();
+    image_->attach();
+    acceptPrompt();
+    ASSERT_TRUE(console_->waitFor("[Brisel: a volume is writable]")) << transcript();
+    ASSERT_TRUE(console_->choose("mount automatically"));
+    ASSERT_TRUE(console_->waitFor("List count: 1")) << transcript();
+    shell("udisksctl unmount --no-user-interaction -b " + image_->device());
+    ASSERT_TRUE(console_->waitFor("log: disk " + image_->name() + " disappeared")) << transcript();
+    EXPECT_EQ(console_->quit(), 0);
+    EXPECT_FALSE(image_->isMounted());
+}
+
+TEST_F(RealVolume, WithAHostileLabelIsRemountedAllTheSame) {
+    const std::array<std::string, 3> labels{"$(reboot); '\"", "..", "\x1b[2J%@"};
+    startConsole();
+    for (const auto& label : labels) {
+        image_ = std::make_unique<NTFSImage>(folder_, label);
+        image_->attach();
+        ASSERT_TRUE(console_->waitFor("? ")) << transcript();
+        console_->type("y");
+        EXPECT_TRUE(console_->waitFor("[Brisel: a volume is writable]")) << transcript();
+        image_->pull();
+        ASSERT_TRUE(console_->waitFor("[Brisel: no NTFS volume]")) << transcript();
+    }
 }
 
 }  // namespace
 
 }  // namespace brisel::tests
+
+// Says in one line why nothing can be tested, with the exit status by which ctest knows a skip.
+int main(int argumentCount, char** arguments) {
+    constexpr int Skipped = 77;
+    using brisel::tests::shell;
+    testing::InitGoogleTest(&argumentCount, arguments);
+    const std::string scripts = BRISEL_SCRIPTS;
+    auto reason = shell(scripts + "/real-volumes-possible");
+    const bool lists = testing::GTEST_FLAG(list_tests);
+    if (reason.empty() && !lists && !brisel::tests::succeeds(scripts + "/disk-services start")) {
+        reason = "the disk services do not start";
+    }
+    if (!reason.empty()) {
+        std::cout << "Skipped, no real volume can be used here: " << reason << '\n';
+        return Skipped;
+    }
+    const int result = RUN_ALL_TESTS();
+    shell(scripts + "/disk-services stop");
+    return result;
+}

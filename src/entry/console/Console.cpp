@@ -4,8 +4,6 @@
 
 #include <glib-unix.h>
 
-#include <csignal>
-
 #include "app/MainMenu.h"
 #include "volumes/NTFSVolumeManager.h"
 
@@ -16,9 +14,9 @@ namespace {
 constexpr const char* Help =
     "A number chooses from the menu, y or n answers a prompt; also: menu, quit.";
 
-gboolean terminateOnSignal(gpointer application) {
+gboolean terminateNow(gint /*descriptor*/, GIOCondition /*condition*/, gpointer application) {
     static_cast<platform::Application*>(application)->terminate();
-    return G_SOURCE_CONTINUE;
+    return G_SOURCE_REMOVE;
 }
 
 // The language as the platform's tables name it: de from de_DE.UTF-8, zh-Hans from zh_CN.
@@ -36,7 +34,8 @@ void choose(const platform::MenuItem& item) {
 
 }  // namespace
 
-Console::Console(int input, std::ostream& output) : terminal_(input, output) {
+Console::Console(int input, std::ostream& output)
+    : terminal_(input, output, interruption_.descriptor()) {
     bundle_.setLanguage(userLanguage());
     application_.setEnd([this] { g_main_loop_quit(mainLoop_.get()); });
 }
@@ -49,19 +48,15 @@ void Console::run() {
     delegate_ = std::make_shared<AppDelegate>(platform_);
     statusMenu_.load(mainMenuItems(delegate_, platform_));
     application_.setTerminationStep([this] { delegate_->applicationWillTerminate(); });
-    const guint interrupt = g_unix_signal_add(SIGINT, &terminateOnSignal, &application_);
-    const guint termination = g_unix_signal_add(SIGTERM, &terminateOnSignal, &application_);
+    g_unix_fd_add(interruption_.descriptor(), G_IO_IN, &terminateNow, &application_);
     terminal_.print(Help);
     delegate_->awakeFromNib();
-    {
-        const auto lines = terminal_.handleLines([this](const auto& line) { carryOut(line); });
-        if (!application_.terminated()) g_main_loop_run(mainLoop_.get());
-    }
-    g_source_remove(termination);
-    g_source_remove(interrupt);
+    const auto lines = terminal_.handleLines([this](const auto& line) { carryOut(line); });
+    if (!application_.terminated()) g_main_loop_run(mainLoop_.get());
 }
 
 void Console::carryOut(const std::optional<std::string>& line) {
+    if (application_.terminated()) return;
     if (!line || *line == "quit") {
         application_.terminate();
     } else if (*line == "menu") {

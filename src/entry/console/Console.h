@@ -22,6 +22,7 @@
 #include "platform/linux/UserDefaults.h"
 #include "platform/Platform.h"
 #include "platform/terminal/Alert.h"
+#include "platform/terminal/Interruption.h"
 #include "platform/terminal/SmallServices.h"
 #include "platform/terminal/StatusDisplay.h"
 #include "platform/terminal/Terminal.h"
@@ -44,6 +45,7 @@ class Console {
   private:
     void carryOut(const std::optional<std::string>& line);
 
+    platform::terminal::Interruption interruption_;
     platform::terminal::Terminal terminal_;
     platform::linux::SystemLog systemLog_{
         [this](const std::string& text) { terminal_.print("log: " + text); }};

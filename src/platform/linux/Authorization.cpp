@@ -30,7 +30,15 @@ OSStatus statusOf(PolkitAuthorizationResult* result) {
     return dismissed ? errAuthorizationCanceled : errAuthorizationDenied;
 }
 
+// polkit's library uses the process's shared connection, and that ends the process with the bus
+// unless it is told not to.
+void outliveTheBus() {
+    const OwnedObject<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SYSTEM, nullptr, nullptr));
+    if (bus) g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
+}
+
 OSStatus askPolkit(platform::SystemLog& log) {
+    outliveTheBus();
     CallError error;
     const OwnedObject<PolkitAuthority> authority(
         polkit_authority_get_sync(nullptr, error.receive()));

@@ -75,7 +75,7 @@ void DiskArbitration::compare() {
         const bool stays = found != present.end() && isMountable(found->second) &&
                            isSameVolume(description, found->second);
         if (stays) {
-            reported_[name] = found->second;
+            compareMounts(name, description, found->second);
         } else {
             reported_.erase(name);
             disappeared_({.bsdName = name, .reported = description});
@@ -86,6 +86,27 @@ void DiskArbitration::compare() {
         reported_[name] = description;
         appeared_({.bsdName = name, .reported = description});
     }
+}
+
+void DiskArbitration::compareMounts(const std::string& name, const DiskDescription& before,
+                                    const DiskDescription& now) {
+    if (requests_[name] > 0) return;
+    reported_[name] = now;
+    if (before.volumePath == now.volumePath) return;
+    if (before.volumePath || now.volumePath) disappeared_({.bsdName = name, .reported = before});
+    if (now.volumePath) appeared_({.bsdName = name, .reported = now});
+}
+
+void DiskArbitration::finish(const Disk& disk, const std::optional<Dissenter>& dissenter,
+                             const std::optional<std::string>& mountPoint,
+                             const Completion& completion) {
+    --requests_[disk.bsdName];
+    const auto reported = reported_.find(disk.bsdName);
+    if (!dissenter && reported != reported_.end()) {
+        reported->second.volumePath.reset();
+        if (mountPoint) reported->second.volumePath.emplace(*mountPoint);
+    }
+    completion(disk, dissenter);
 }
 
 std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
@@ -119,20 +140,22 @@ void DiskArbitration::unmount(const Disk& disk, Completion completion) {
         completion(disk, std::nullopt);
         return;
     }
+    ++requests_[disk.bsdName];
     service_->unmount(disk.bsdName, [this, disk, completion = std::move(completion)](
                                         const auto& failure, const auto& /*result*/) {
-        completion(disk, dissenterFor(failure, disk));
+        finish(disk, dissenterFor(failure, disk), std::nullopt, completion);
     });
 }
 
 void DiskArbitration::mountWithArguments(const Disk& disk,
                                          const std::vector<std::string>& arguments,
                                          Completion completion) {
+    ++requests_[disk.bsdName];
     service_->mount(disk.bsdName, mountOptions(arguments),
                     [this, disk, completion = std::move(completion)](
                         const auto& failure, const std::string& mountPoint) {
                         if (failure) {
-                            completion(disk, dissenterFor(failure, disk));
+                            finish(disk, dissenterFor(failure, disk), std::nullopt, completion);
                         } else {
                             finishMount(disk, mountPoint, completion);
                         }
@@ -144,16 +167,18 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
 void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoint,
                                   const Completion& completion) {
     if (isWritableMount(mountPoint)) {
-        completion(disk, std::nullopt);
+        finish(disk, std::nullopt, mountPoint, completion);
         return;
     }
-    log_.log("%@ came up read-only and is unmounted again: the driver found it unsafe to write.",
-             disk.bsdName);
-    service_->unmount(disk.bsdName,
-                      [this, disk, completion](const auto& failure, const auto& /*result*/) {
-                          static_cast<void>(dissenterFor(failure, disk));
-                          completion(disk, Dissenter{.status = DAReturn::NotWritable});
-                      });
+    log_.log(
+        "%@ came up read-only and is unmounted again: the device is write-protected, or the driver "
+        "found it unsafe to write.",
+        disk.bsdName);
+    service_->unmount(
+        disk.bsdName, [this, disk, completion](const auto& failure, const auto& /*result*/) {
+            static_cast<void>(dissenterFor(failure, disk));
+            finish(disk, Dissenter{.status = DAReturn::NotWritable}, std::nullopt, completion);
+        });
 }
 
 std::optional<Dissenter> DiskArbitration::dissenterFor(

@@ -15,7 +15,9 @@ namespace brisel::platform::linux {
 
 /// A disk that carries a file system counts as one with a mountable volume, loop devices and
 /// system disks included, unless UDisks2 says to ignore it. A volume that nothing has mounted yet
-/// counts as unmounted when it is asked to be: here no system mounts every volume by itself.
+/// counts as unmounted when it is asked to be: here no system mounts every volume by itself. A
+/// volume that somebody else mounts is reported as gone and appeared, so that what the program
+/// knows of it is true again; one that somebody else unmounts is reported as gone.
 class DiskArbitration final : public platform::DiskArbitration {
   public:
     explicit DiskArbitration(platform::SystemLog& log) : log_(log) {}
@@ -40,6 +42,11 @@ class DiskArbitration final : public platform::DiskArbitration {
 
     /// Reports what has come and gone since the last time.
     void compare();
+    void compareMounts(const std::string& name, const DiskDescription& before,
+                       const DiskDescription& now);
+    /// Calls `completion` after what the request changed has been noted as the program's own doing.
+    void finish(const Disk& disk, const std::optional<Dissenter>& dissenter,
+                const std::optional<std::string>& mountPoint, const Completion& completion);
     void finishMount(const Disk& disk, const std::string& mountPoint, const Completion& completion);
     [[nodiscard]] std::optional<Dissenter> dissenterFor(
         const std::optional<DiskService::CallFailure>& failure, const Disk& disk) const;
@@ -48,6 +55,8 @@ class DiskArbitration final : public platform::DiskArbitration {
     std::unique_ptr<DiskService> service_;
     Subscription firstComparison_;
     bool scheduled_ = false;
+    /// How many of the program's own requests are under way, by BSD name.
+    std::map<std::string, int> requests_;
     /// What was reported as appeared, with the newest description of each.
     Disks reported_;
     common::Signal<const Disk&> appeared_;

@@ -107,7 +107,9 @@ std::string bsdName(std::string_view device) {
 
 DiskDescription describe(const BlockProperties& properties) {
     DiskDescription description;
-    description.volumeMountable = properties.filesystem && !properties.hintIgnore;
+    // A device that is going away loses its type before its file system.
+    description.volumeMountable =
+        properties.filesystem && !properties.hintIgnore && !properties.idType.empty();
     description.volumeKind = orAbsent(properties.idType);
     description.volumeName = orAbsent(properties.idLabel);
     description.mediaBSDName = bsdName(properties.device);

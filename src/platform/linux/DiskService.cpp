@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/linux/DiskDescriptions.h"
+#include "platform/linux/MainContext.h"
 
 namespace brisel::platform::linux {
 
@@ -68,21 +69,80 @@ DiskService::DiskService(platform::SystemLog& log, Changed changed)
           noteOwner();
           changed();
       }) {
+    connect();
+}
+
+// A connection of its own: the process's shared one ends the process when the bus goes.
+void DiskService::connect() {
     CallError error;
-    objects_.reset(udisks_object_manager_client_new_for_bus_sync(
-        G_BUS_TYPE_SYSTEM, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_NONE, BusName, ObjectPath, nullptr,
-        error.receive()));
-    if (!objects_) {
-        log_.log("No disk can be watched, UDisks2 cannot be reached: %@", error.message());
-        return;
+    const OwnedText address(
+        g_dbus_address_get_for_bus_sync(G_BUS_TYPE_SYSTEM, nullptr, error.receive()));
+    const OwnedObject<GDBusConnection> connection(
+        address
+            ? g_dbus_connection_new_for_address_sync(
+                  address.get(),
+                  static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+                                                    G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION),
+                  nullptr, nullptr, error.receive())
+            : nullptr);
+    if (connection) {
+        askForObjects(connection.get());
+    } else {
+        tryAgain(error.message());
     }
-    wasThere_ = isThere();
-    if (!wasThere_) log_.log("The disk service UDisks2 is not running; waiting for it.");
+}
+
+void DiskService::askForObjects(GDBusConnection* connection) {
+    udisks_object_manager_client_new(connection, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_NONE, BusName,
+                                     ObjectPath, cancellable_.get(), &DiskService::finishConnect,
+                                     this);
+}
+
+void DiskService::finishConnect(GObject* /*source*/, GAsyncResult* result, gpointer service) {
+    CallError error;
+    auto* const objects = udisks_object_manager_client_new_finish(result, error.receive());
+    if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE) return;
+    auto& self = *static_cast<DiskService*>(service);
+    if (objects != nullptr) {
+        self.watch(objects);
+    } else {
+        self.tryAgain(error.message());
+    }
+}
+
+void DiskService::watch(GDBusObjectManager* objects) {
+    objects_.reset(objects);
     for (const char* const signal :
          {"object-added", "object-removed", "interface-added", "interface-removed",
           "interface-proxy-properties-changed", "notify::name-owner"}) {
         connections_.emplace_back(objects_.get(), signal, anythingChanged, &changed_);
     }
+    auto* const connection =
+        g_dbus_object_manager_client_get_connection(G_DBUS_OBJECT_MANAGER_CLIENT(objects_.get()));
+    connections_.emplace_back(
+        connection, "closed",
+        [](gpointer service) { static_cast<DiskService*>(service)->disconnect(); }, this);
+    changed_();
+}
+
+void DiskService::disconnect() {
+    // Not at once: this is called by a signal of what is to go.
+    nextTry_ = whenMainLoopTurns([this] {
+        connections_.clear();
+        objects_.reset();
+        tryAgain("The system bus has closed the connection.");
+    });
+}
+
+void DiskService::tryAgain(const std::string& reason) {
+    constexpr std::chrono::seconds Pause{3};
+    if (std::exchange(toldThere_, false)) {
+        log_.log("No disk can be watched, UDisks2 cannot be reached: %@", reason);
+    }
+    nextTry_ = RunLoop().scheduledTimer(Pause, [this] {
+        const auto thisTry = std::move(nextTry_);
+        connect();
+    });
 }
 
 DiskService::~DiskService() {
@@ -97,9 +157,9 @@ bool DiskService::isThere() const {
 }
 
 void DiskService::noteOwner() {
-    if (wasThere_ == isThere()) return;
-    wasThere_ = !wasThere_;
-    if (wasThere_) {
+    if (toldThere_ == isThere()) return;
+    toldThere_ = !toldThere_;
+    if (toldThere_) {
         log_.log("The disk service UDisks2 is back.");
     } else {
         log_.log("The disk service UDisks2 has gone; waiting for it.");

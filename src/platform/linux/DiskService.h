@@ -13,6 +13,7 @@
 
 #include "platform/DiskDescription.h"
 #include "platform/linux/GLibOwners.h"
+#include "platform/Subscription.h"
 #include "platform/SystemLog.h"
 
 namespace brisel::platform::linux {
@@ -28,8 +29,9 @@ class DiskService {
     };
     using Done = std::function<void(const std::optional<CallFailure>&, const std::string& result)>;
 
-    /// Connects to the system bus and asks for UDisks2. `changed` is called whenever any object
-    /// may have changed, and when the service goes or comes back.
+    /// Starts to connect to UDisks2 on the system bus, and tries again as long as either cannot be
+    /// reached; the log tells when they go and come. `changed` is called whenever any object may
+    /// have changed, and when the service goes or comes back.
     DiskService(platform::SystemLog& log, Changed changed);
     DiskService(const DiskService&) = delete;
     DiskService& operator=(const DiskService&) = delete;
@@ -49,8 +51,14 @@ class DiskService {
   private:
     struct Call;
 
+    void connect();
+    void askForObjects(GDBusConnection* connection);
+    void watch(GDBusObjectManager* objects);
+    void disconnect();
+    void tryAgain(const std::string& reason);
     void noteOwner();
     void askForRestart() const;
+    static void finishConnect(GObject* source, GAsyncResult* result, gpointer service);
     [[nodiscard]] OwnedObject<UDisksFilesystem> filesystem(const std::string& device) const;
     static void finishUnmount(GObject* source, GAsyncResult* result, gpointer data);
     static void finishMount(GObject* source, GAsyncResult* result, gpointer data);
@@ -60,7 +68,9 @@ class DiskService {
     OwnedObject<GCancellable> cancellable_{g_cancellable_new()};
     OwnedObject<GDBusObjectManager> objects_;
     std::vector<SignalConnection> connections_;
-    bool wasThere_ = false;
+    Subscription nextTry_;
+    /// Whether the log's last word was that the service is there, which is taken for granted.
+    bool toldThere_ = true;
 };
 
 }  // namespace brisel::platform::linux

@@ -5,6 +5,7 @@
 #include <glib.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <iterator>
 #include <system_error>
@@ -24,6 +25,12 @@ std::optional<Error> errorFrom(const std::error_code& code) {
 
 std::string FileManager::homeDirectory() const {
     return FileURL(g_get_home_dir()).path();
+}
+
+std::string FileManager::volumesDirectory() const {
+    std::error_code code;
+    const auto runFolder = std::string("/run/media/") + g_get_user_name();
+    return fs::exists(runFolder, code) ? runFolder : std::string("/media/") + g_get_user_name();
 }
 
 std::string FileManager::currentDirectoryPath() const {

@@ -11,6 +11,8 @@ namespace brisel::platform::linux {
 class FileManager final : public platform::FileManager {
   public:
     [[nodiscard]] std::string homeDirectory() const override;
+    /// UDisks2's folder for the user, which is one of two by how it was built.
+    [[nodiscard]] std::string volumesDirectory() const override;
     [[nodiscard]] std::string currentDirectoryPath() const override;
     [[nodiscard]] bool isWritableFileAtPath(const std::optional<std::string>& path) override;
     [[nodiscard]] FolderListing contentsOfDirectory(const FileURL& folder) override;

@@ -44,10 +44,11 @@ bool hasOption(const std::string& options, std::string_view wanted) {
 }
 
 std::vector<std::string> fieldsOf(const std::string& line) {
+    // At blanks alone: the kernel leaves other white space as it is in a mount point.
     std::istringstream text(line);
     std::vector<std::string> fields;
     std::string field;
-    while (text >> field)
+    while (std::getline(text, field, ' '))
         fields.push_back(field);
     return fields;
 }

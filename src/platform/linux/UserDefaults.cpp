@@ -39,15 +39,33 @@ std::string UserDefaults::defaultPath() {
 }
 
 void UserDefaults::load() {
-    CallError error;
-    if (g_key_file_load_from_file(file_.get(), path_.c_str(), G_KEY_FILE_KEEP_COMMENTS,
-                                  error.receive()) != FALSE ||
-        g_error_matches(error.get(), G_FILE_ERROR, G_FILE_ERROR_NOENT) != FALSE) {
-        return;
-    }
-    log_.log("The preferences in %@ cannot be read: %@", path_, error.message());
+    std::error_code code;
+    if (!fs::exists(fs::symlink_status(path_, code))) return;
+    // What stands behind a link is the file to replace when it is written.
+    if (const auto target = fs::canonical(path_, code); !code) path_ = target;
+    const auto complaint = read();
+    if (complaint.empty()) return;
+    log_.log("The preferences in %@ cannot be read: %@", path_, complaint);
     file_.reset(g_key_file_new());
     setAside();
+}
+
+std::string UserDefaults::read() {
+    std::error_code code;
+    if (!fs::is_regular_file(path_, code)) return "It is no file.";
+    CallError error;
+    char* text = nullptr;
+    gsize length = 0;
+    if (g_file_get_contents(path_.c_str(), &text, &length, error.receive()) == FALSE) {
+        return error.message();
+    }
+    const OwnedText owned(text);
+    // GLib takes a null byte for the end of a line and would lose what follows.
+    if (std::string_view(text, length).find('\0') != std::string_view::npos) {
+        return "It holds null bytes.";
+    }
+    g_key_file_load_from_data(file_.get(), text, length, G_KEY_FILE_KEEP_COMMENTS, error.receive());
+    return error ? error.message() : "";
 }
 
 void UserDefaults::setAside() {

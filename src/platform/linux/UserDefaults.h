@@ -32,6 +32,8 @@ class UserDefaults final : public platform::UserDefaults {
 
   private:
     void load();
+    /// What is wrong with the file; empty when it was read.
+    [[nodiscard]] std::string read();
     void setAside();
 
     platform::SystemLog& log_;

@@ -19,6 +19,7 @@ class FileManager final : public platform::FileManager {
                 const DiskArbitration& disks);
 
     [[nodiscard]] std::string homeDirectory() const override { return home_; }
+    [[nodiscard]] std::string volumesDirectory() const override { return "/Volumes"; }
     [[nodiscard]] std::string currentDirectoryPath() const override { return "/"; }
     [[nodiscard]] bool isWritableFileAtPath(const std::optional<std::string>& path) override;
     [[nodiscard]] FolderListing contentsOfDirectory(const FileURL& folder) override;

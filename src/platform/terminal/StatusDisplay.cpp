@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/terminal/StatusDisplay.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -32,11 +34,9 @@ bool isChoosable(const MenuItem& item) {
     return !item.separator && !item.action.empty();
 }
 
-std::vector<const MenuItem*> choosableItems(const common::Menu& menu) {
-    std::vector<const MenuItem*> items;
-    for (const auto& item : menu.items()) {
-        if (isChoosable(item)) items.push_back(&item);
-    }
+std::vector<MenuItem> choosableItems(const common::Menu& menu) {
+    std::vector<MenuItem> items;
+    std::copy_if(menu.items().begin(), menu.items().end(), std::back_inserter(items), &isChoosable);
     return items;
 }
 
@@ -70,6 +70,7 @@ void StatusDisplay::showIfChanged() {
 
 void StatusDisplay::show() {
     shown_ = text();
+    shownItems_ = choosableItems(menu_);
     std::string_view rest = shown_;
     while (!rest.empty()) {
         const auto end = rest.find('\n');
@@ -79,9 +80,8 @@ void StatusDisplay::show() {
 }
 
 const MenuItem* StatusDisplay::itemWithNumber(const std::string& number) const {
-    const auto items = choosableItems(menu_);
-    const auto position = numberUpTo(number, items.size());
-    return position ? items[*position - 1] : nullptr;
+    const auto position = numberUpTo(number, shownItems_.size());
+    return position ? &shownItems_[*position - 1] : nullptr;
 }
 
 }  // namespace brisel::platform::terminal

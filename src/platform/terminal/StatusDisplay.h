@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/common/Menu.h"
 #include "platform/StatusItem.h"
@@ -37,7 +38,7 @@ class StatusDisplay final : public platform::StatusItem {
 
     /// Prints it now.
     void show();
-    /// The item behind a number as printed, or null.
+    /// The item behind a number as it was printed last, or null.
     [[nodiscard]] const MenuItem* itemWithNumber(const std::string& number) const;
 
   private:
@@ -48,6 +49,7 @@ class StatusDisplay final : public platform::StatusItem {
     const common::Menu& menu_;
     std::string state_;
     std::string shown_;
+    std::vector<MenuItem> shownItems_;
     Later later_;
     Subscription pending_;
 };

@@ -3,6 +3,7 @@
 #include "platform/terminal/Terminal.h"
 
 #include <glib-unix.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <array>
@@ -70,8 +71,18 @@ std::optional<std::string> Terminal::ask(std::string_view question) {
     output_.flush();
     while (true) {
         if (auto line = takeLine()) return line;
-        if (!readMore()) return std::nullopt;
+        if (ended_ || !wait()) return std::nullopt;
+        readMore();
     }
+}
+
+bool Terminal::wait() const {
+    constexpr int NoLimit = -1;
+    std::array<pollfd, 2> awaited{pollfd{.fd = input_, .events = POLLIN, .revents = 0},
+                                  pollfd{.fd = interruption_, .events = POLLIN, .revents = 0}};
+    while (poll(awaited.data(), awaited.size(), NoLimit) < 0 && errno == EINTR) {
+    }
+    return awaited[1].revents == 0;
 }
 
 Subscription Terminal::handleLines(LineHandler handler) {
@@ -100,21 +111,25 @@ void Terminal::handOutLines() {
     }
 }
 
-bool Terminal::readMore() {
+void Terminal::readMore() {
     constexpr std::size_t ChunkSize = 1024;
     std::array<char, ChunkSize> chunk{};
-    ssize_t count = 0;
-    do {
-        count = read(input_, chunk.data(), chunk.size());
-    } while (count < 0 && errno == EINTR);
-    if (count > 0) typed_.append(chunk.data(), static_cast<std::size_t>(count));
-    ended_ = count <= 0;
-    return !ended_;
+    const auto count = read(input_, chunk.data(), chunk.size());
+    if (count > 0) {
+        typed_.append(chunk.data(), static_cast<std::size_t>(count));
+    } else {
+        // A descriptor shared with another program may have nothing to read after all.
+        ended_ = count == 0 || (errno != EINTR && errno != EAGAIN);
+    }
 }
 
+// The last line may come without an end.
 std::optional<std::string> Terminal::takeLine() {
     const auto end = typed_.find('\n');
-    if (end == std::string::npos) return std::nullopt;
+    if (end == std::string::npos) {
+        if (!ended_ || typed_.empty()) return std::nullopt;
+        return std::exchange(typed_, {});
+    }
     auto line = typed_.substr(0, end);
     typed_.erase(0, end + 1);
     return line;

@@ -19,23 +19,28 @@ class Terminal {
     /// A line without its end; none at the end of input.
     using LineHandler = std::function<void(const std::optional<std::string>& line)>;
 
-    /// `input` is a descriptor, which stays the caller's.
-    Terminal(int input, std::ostream& output) : input_(input), output_(output) {}
+    /// `input` is a descriptor, which stays the caller's. So is `interruption`, or -1 for none:
+    /// once it can be read from, every question counts as unanswered.
+    Terminal(int input, std::ostream& output, int interruption = -1)
+        : input_(input), interruption_(interruption), output_(output) {}
 
     /// Prints the text and a line end. Control characters, which a volume's label may hold, are
     /// made visible, so that nothing but the program's own lines steers the terminal.
     void print(std::string_view text);
-    /// Blocks until a line was typed; none at the end of input.
+    /// Blocks until a line was typed; none at the end of input or once interrupted.
     [[nodiscard]] std::optional<std::string> ask(std::string_view question);
     [[nodiscard]] Subscription handleLines(LineHandler handler);
 
   private:
-    /// False at the end of input.
-    bool readMore();
+    /// Waits for something to read; false once interrupted.
+    [[nodiscard]] bool wait() const;
+    /// Takes in what can be read.
+    void readMore();
     [[nodiscard]] std::optional<std::string> takeLine();
     void handOutLines();
 
     int input_;
+    int interruption_;
     std::ostream& output_;
     std::string typed_;
     bool ended_ = false;

@@ -1,0 +1,48 @@
+// The signals by which a terminal program is asked to end.
+// SPDX-License-Identifier: MIT
+#include "platform/terminal/Interruption.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+
+namespace brisel::platform::terminal {
+
+namespace {
+
+constexpr std::array EndingSignals{SIGINT, SIGTERM, SIGHUP};
+
+// Global, because a signal handler reaches nothing else.
+volatile std::sig_atomic_t writeEnd = -1;
+
+extern "C" void noteSignal(int /*signal*/) {
+    const int saved = errno;
+    const char anything = 0;
+    static_cast<void>(write(writeEnd, &anything, sizeof anything) > 0);
+    errno = saved;
+}
+
+}  // namespace
+
+Interruption::Interruption() {
+    std::array<int, 2> ends{-1, -1};
+    static_cast<void>(pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) == 0);
+    readEnd_ = ends[0];
+    writeEnd = ends[1];
+    struct sigaction action = {};
+    action.sa_handler = &noteSignal;
+    for (const int signal : EndingSignals)
+        sigaction(signal, &action, nullptr);
+}
+
+Interruption::~Interruption() {
+    for (const int signal : EndingSignals)
+        std::signal(signal, SIG_DFL);
+    close(readEnd_);
+    close(writeEnd);
+}
+
+}  // namespace brisel::platform::terminal

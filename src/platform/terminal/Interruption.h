@@ -1,0 +1,24 @@
+// The signals by which a terminal program is asked to end, as a descriptor to wait for.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace brisel::platform::terminal {
+
+/// One per process, as signal handlers are. From its making on SIGINT, SIGTERM and SIGHUP end
+/// nothing by themselves.
+class Interruption {
+  public:
+    Interruption();
+    Interruption(const Interruption&) = delete;
+    Interruption& operator=(const Interruption&) = delete;
+    /// The signals have their usual effect again.
+    ~Interruption();
+
+    /// Readable, for good, once one of the signals has come.
+    [[nodiscard]] int descriptor() const { return readEnd_; }
+
+  private:
+    int readEnd_ = -1;
+};
+
+}  // namespace brisel::platform::terminal
