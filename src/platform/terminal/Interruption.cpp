@@ -16,6 +16,7 @@ namespace {
 constexpr std::array EndingSignals{SIGINT, SIGTERM, SIGHUP};
 
 // Global, because a signal handler reaches nothing else.
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
 volatile std::sig_atomic_t writeEnd = -1;
 
 extern "C" void noteSignal(int /*signal*/) {
