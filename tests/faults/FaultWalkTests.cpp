@@ -65,13 +65,6 @@ class FaultyRun {
     [[nodiscard]] const platform::Bundle& bundle() { return scenario_.mac().bundle; }
     [[nodiscard]] bool loopTurned() const { return loopTurned_; }
 
-    [[nodiscard]] std::size_t transcriptSize() const {
-        std::size_t size = 0;
-        for (const auto& line : transcript_)
-            size += line.size();
-        return size;
-    }
-
     /// Whether the program, or the simulation before it was started, has ended.
     [[nodiscard]] bool hasEnded() {
         const bool terminated =
@@ -139,20 +132,6 @@ void checkThatTheFaultWasTold(FaultyRun& run) {
         << ::testing::PrintToString(Lines(lines.begin(), lines.end()));
 }
 
-// Each call there is; of a scenario that rebuilds large menus over and over an even choice of them,
-// the first and the last among it.
-std::vector<std::size_t> callsToFail(FaultyRun& plain) {
-    constexpr std::size_t MostText = 4'000'000;
-    constexpr std::size_t FewestRuns = 8;
-    const auto calls = plain.faults().calls();
-    const auto affordable = std::max(FewestRuns, MostText / (plain.transcriptSize() + 1));
-    const auto runs = std::min(calls, affordable);
-    std::vector<std::size_t> chosen;
-    for (std::size_t run = 0; run < runs; ++run)
-        chosen.push_back(runs == 1 ? 1 : 1 + run * (calls - 1) / (runs - 1));
-    return chosen;
-}
-
 class FaultWalk : public ::testing::TestWithParam<std::string> {
   protected:
     [[nodiscard]] static Lines commands() {
@@ -175,7 +154,8 @@ TEST_P(FaultWalk, LeavesTheProgramAliveAndTellsOfEachFault) {
     const auto lines = commands();
     FaultyRun plain(lines, 0);
     checkThatTheProgramLives(plain);
-    for (const auto failing : callsToFail(plain)) {
+    const auto calls = plain.faults().calls();
+    for (std::size_t failing = 1; failing <= calls; ++failing) {
         FaultyRun run(lines, failing);
         SCOPED_TRACE("call " + std::to_string(failing) + ", " + run.faults().struck());
         checkThatTheProgramLives(run);
