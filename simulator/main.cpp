@@ -30,6 +30,8 @@ int runScript(std::istream& stream) {
         std::cout.flush();
         std::cerr << "line " << bad.line << ": " << bad.complaint << '\n';
     };
+    // Whoever writes commands into a pipe may want to read what came of each before the next.
+    manner.afterCommand = [] { std::cout.flush(); };
     return Scenario(source, printLine, manner).run() ? 0 : BadUse;
 }
 

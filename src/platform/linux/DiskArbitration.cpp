@@ -28,6 +28,11 @@ bool isSameVolume(const DiskDescription& one, const DiskDescription& other) {
            one.mediaUUID == other.mediaUUID;
 }
 
+// What is mounted there was mounted for the program, by the mount tool behind UDisks2's back.
+bool isInMountFolder(const std::optional<FileURL>& path) {
+    return path && path->path().starts_with(std::string(g_get_home_dir()) + "/.brisel/");
+}
+
 bool isWritableMount(const std::string& mountPoint) {
     return currentMountState(mountPoint) == MountState::ReadWrite &&
            access(mountPoint.c_str(), W_OK) == 0;
@@ -92,8 +97,8 @@ void DiskArbitration::compareMounts(const std::string& name, const DiskDescripti
                                     const DiskDescription& now) {
     if (requests_[name] > 0) return;
     reported_[name] = now;
-    if (before.volumePath == now.volumePath) return;
-    if (before.volumePath || now.volumePath) disappeared_({.bsdName = name, .reported = before});
+    if (before.volumePath == now.volumePath || isInMountFolder(now.volumePath)) return;
+    disappeared_({.bsdName = name, .reported = before});
     if (now.volumePath) appeared_({.bsdName = name, .reported = now});
 }
 
