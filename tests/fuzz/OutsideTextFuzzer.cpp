@@ -1,0 +1,75 @@
+// Fuzz target: texts that other programs and people write, through all that reads them.
+// SPDX-License-Identifier: MIT
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "platform/common/StringsTable.h"
+#include "platform/linux/DiskDescriptions.h"
+#include "platform/linux/MountInfo.h"
+#include "platform/linux/ScriptRunner.h"
+#include "platform/terminal/Terminal.h"
+#include "simulator/Words.h"
+
+namespace {
+
+using namespace brisel;
+
+void must(bool held) {
+    if (!held) std::abort();
+}
+
+void readTable(const std::string& text) {
+    const auto table = platform::common::StringsTable::parse(text);
+    if (!table) return;
+    for (const auto& [key, value] : table->texts())
+        must(table->localizedString(key) == value);
+}
+
+void readMountInfo(const std::string& text) {
+    using platform::linux::MountState;
+    must(platform::linux::mountState(text, "no such folder/") == MountState::NotMounted);
+    static_cast<void>(platform::linux::mountState(text, "/media/user/Data"));
+}
+
+void readScript(const std::string& text) {
+    const auto command = platform::linux::shellCommandOf("do shell script \"" + text);
+    must(!command || command->size() < text.size());
+}
+
+void readUUID(const std::string& text) {
+    const auto uuid = platform::linux::uuidText(text);
+    must(uuid.has_value() == !text.empty());
+    // What is a UUID already stays what it is.
+    if (uuid) must(uuid->size() == 36 && platform::linux::uuidText(*uuid) == uuid);
+}
+
+void showOnTerminal(const std::string& text) {
+    for (const char character : platform::terminal::visible(text)) {
+        const auto byte = static_cast<unsigned char>(character);
+        must(byte >= ' ' && byte != 0x7F);
+    }
+}
+
+void readWords(const std::string& text) {
+    if (const auto words = simulator::splitIntoWords(text)) {
+        for (const auto& word : *words)
+            must(word.size() <= text.size());
+    }
+    if (const auto status = simulator::parseStatus(text)) {
+        must(simulator::parseNumber(text).has_value());
+    }
+}
+
+constexpr std::array Readers{&readTable, &readMountInfo,  &readScript,
+                             &readUUID,  &showOnTerminal, &readWords};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    if (size == 0) return 0;
+    const std::string text(reinterpret_cast<const char*>(bytes) + 1, size - 1);
+    Readers.at(bytes[0] % Readers.size())(text);
+    return 0;
+}
