@@ -16,6 +16,9 @@ struct Way {
     Busy afterwards;
 };
 
+// How the test framework shows one.
+void PrintTo(const Way& way, std::ostream* stream) { *stream << way.name; }
+
 using Call = platform::simulated::FileManager::Call;
 
 void makeUnmountable(SimulatedProgram& program) {
