@@ -1,13 +1,17 @@
 // The terminal as a screen: what is typed, what is shown, and what must not get through.
 // SPDX-License-Identifier: MIT
+#include <glib.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
 #include <sstream>
 
 #include "platform/terminal/Alert.h"
+#include "platform/terminal/Interruption.h"
 #include "platform/terminal/StatusDisplay.h"
 #include "platform/terminal/Terminal.h"
 #include "platform/terminal/UserNotificationCenter.h"
@@ -67,6 +71,43 @@ TEST_F(Screen, AnswersQuestionsLineByLine) {
     EXPECT_EQ(terminal_->ask("?"), "two");
     endInput();
     EXPECT_EQ(terminal_->ask("?"), std::nullopt);
+}
+
+TEST_F(Screen, HandsOutWhatWasTypedTogetherWithAnAnswer) {
+    std::vector<std::string> lines;
+    const auto subscription =
+        terminal_->handleLines([&](const auto& line) { lines.push_back(line.value_or("end")); });
+    type("answer\nfirst\nsecond\nthi");
+    EXPECT_EQ(terminal_->ask("?"), "answer");
+    EXPECT_TRUE(lines.empty());
+    while (g_main_context_iteration(nullptr, FALSE) != FALSE) {
+    }
+    EXPECT_THAT(lines, testing::ElementsAre("first", "second"));
+    type("rd\nlast");
+    endInput();
+    while (lines.size() < 5 && g_main_context_iteration(nullptr, TRUE) != FALSE) {
+    }
+    EXPECT_THAT(lines, testing::ElementsAre("first", "second", "third", "last", "end"));
+}
+
+TEST_F(Screen, LeavesAQuestionUnansweredOnceInterrupted) {
+    std::array<int, 2> interruption{};
+    ASSERT_EQ(pipe(interruption.data()), 0);
+    Terminal terminal(ends_[0], output_, interruption[0]);
+    ASSERT_EQ(write(interruption[1], "x", 1), 1);
+    EXPECT_EQ(terminal.ask("?"), std::nullopt);
+    for (const int end : interruption)
+        close(end);
+}
+
+TEST(Interruption, ComesWithEachSignalThatAsksForTheEnd) {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        const Interruption interruption;
+        pollfd ready{.fd = interruption.descriptor(), .events = POLLIN, .revents = 0};
+        EXPECT_EQ(poll(&ready, 1, 0), 0);
+        ASSERT_EQ(raise(signal), 0);
+        EXPECT_EQ(poll(&ready, 1, 0), 1);
+    }
 }
 
 TEST_F(Screen, AsksAnAlertUntilAButtonIsPressed) {

@@ -70,7 +70,10 @@ std::optional<std::string> Terminal::ask(std::string_view question) {
     output_ << visible(question) << ' ';
     output_.flush();
     while (true) {
-        if (auto line = takeLine()) return line;
+        if (auto line = takeLine()) {
+            handOutSoon();
+            return line;
+        }
         if (ended_ || !wait()) return std::nullopt;
         readMore();
     }
@@ -87,6 +90,7 @@ bool Terminal::wait() const {
 
 Subscription Terminal::handleLines(LineHandler handler) {
     handler_ = std::move(handler);
+    handOutSoon();
     auto* const readable = new Handler([this] {
         readMore();
         handOutLines();
@@ -98,7 +102,20 @@ Subscription Terminal::handleLines(LineHandler handler) {
     return Subscription([this, source] {
         handler_ = nullptr;
         if (!ended_) g_source_remove(source);
+        while (g_source_remove_by_user_data(this) != FALSE) {
+        }
     });
+}
+
+// More lines may have come with the one that was asked for, and nothing else would look at them.
+void Terminal::handOutSoon() {
+    if (!handler_ || typed_.empty()) return;
+    g_idle_add(
+        [](gpointer terminal) -> gboolean {
+            static_cast<Terminal*>(terminal)->handOutLines();
+            return G_SOURCE_REMOVE;
+        },
+        this);
 }
 
 void Terminal::handOutLines() {

@@ -38,6 +38,7 @@ class Terminal {
     void readMore();
     [[nodiscard]] std::optional<std::string> takeLine();
     void handOutLines();
+    void handOutSoon();
 
     int input_;
     int interruption_;
