@@ -17,7 +17,9 @@ struct Way {
 };
 
 // How the test framework shows one.
-void PrintTo(const Way& way, std::ostream* stream) { *stream << way.name; }
+void PrintTo(const Way& way, std::ostream* stream) {
+    *stream << way.name;
+}
 
 using Call = platform::simulated::FileManager::Call;
 
