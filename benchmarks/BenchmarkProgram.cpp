@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/MainMenu.h"
+#include "tests/support/PlatformWith.h"
 
 namespace brisel::benchmarks {
 
@@ -38,24 +39,7 @@ platform::Platform prepared(platform::simulated::Mac& mac, platform::StatusItem&
     mac.transcript.keepNothing();
     mac.userDefaults.store("showDisclaimer", false);
     mac.userDefaults.store("volumeList", fullAutomountList());
-    const auto& own = mac.platform;
-    return {.alert = own.alert,
-            .application = own.application,
-            .authorization = own.authorization,
-            .bundle = own.bundle,
-            .diskArbitration = own.diskArbitration,
-            .fileManager = own.fileManager,
-            .loginItems = own.loginItems,
-            .statusMenu = own.statusMenu,
-            .notificationCenter = own.notificationCenter,
-            .runLoop = own.runLoop,
-            .scriptRunner = own.scriptRunner,
-            .statusItem = statusItem,
-            .systemLog = own.systemLog,
-            .systemVersion = own.systemVersion,
-            .userDefaults = own.userDefaults,
-            .userNotificationCenter = own.userNotificationCenter,
-            .workspace = own.workspace};
+    return tests::platformWith(mac.platform, {.statusItem = &statusItem});
 }
 
 }  // namespace
@@ -108,9 +92,7 @@ void BenchmarkProgram::choose(std::string_view action) {
     const auto found = std::find_if(items.begin(), items.end(),
                                     [action](const auto& item) { return item.action == action; });
     if (found == items.end()) std::abort();
-    // The menu may be rebuilt by what the item does.
-    const auto sender = *found;
-    sender.target(sender);
+    platform::common::choose(*found);
     turn();
 }
 

@@ -10,8 +10,6 @@ namespace brisel::simulator {
 
 namespace {
 
-using platform::MenuItem;
-
 Complaint chooseSystem(Stage& stage, const Words& arguments) {
     const bool known = arguments.size() == 1 && (arguments[0] == "11" || arguments[0] == "12");
     if (!known) return misused("system");
@@ -59,9 +57,7 @@ Complaint choose(Stage& stage, const Words& arguments) {
     for (const auto& item : stage.mac.statusMenu.items()) {
         if (item.separator || item.title != arguments[0] || --left > 0) continue;
         if (item.action.empty()) return "that menu item has no action";
-        // The menu may be rebuilt by what the item does.
-        const MenuItem sender = item;
-        sender.target(sender);
+        platform::common::choose(item);
         return std::nullopt;
     }
     return "there is no such menu item";

@@ -145,10 +145,7 @@ class Session {
     }
 
     // An item of a menu that was rebuilt meanwhile, for a record that may be gone.
-    void chooseAgain() {
-        const auto sender = lastChosen_;
-        if (sender.target) sender.target(sender);
-    }
+    void chooseAgain() { platform::common::choose(lastChosen_); }
 
     void refresh() { manager().refreshVolumes(); }
 

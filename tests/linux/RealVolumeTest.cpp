@@ -186,7 +186,10 @@ TEST_F(RealVolume, UnmountedBySomebodyElseLeavesTheMenuAndIsNotMountedAgain) {
     ASSERT_TRUE(console_->waitFor("List count: 1")) << transcript();
     shell("udisksctl unmount --no-user-interaction -b " + image_->device());
     ASSERT_TRUE(console_->waitFor("log: disk " + image_->name() + " disappeared")) << transcript();
+    ASSERT_TRUE(console_->waitFor("[Brisel: no NTFS volume]")) << transcript();
     EXPECT_EQ(console_->quit(), 0);
+    const auto shownOnce = transcript().find("The volume is at ");
+    EXPECT_EQ(transcript().rfind("The volume is at "), shownOnce) << transcript();
     EXPECT_FALSE(image_->isMounted());
 }
 

@@ -28,7 +28,7 @@ BEGIN {
     may["tools"] = may["helper"] = "platform"
     # What may include the platforms: `src` stands for any part of src/.
     may["entry"] = may["simulator"] = "src"
-    may["benchmarks"] = "src simulator"
+    may["benchmarks"] = "src simulator tests"
     may["tests"] = "src simulator benchmarks tools helper"
 }
 

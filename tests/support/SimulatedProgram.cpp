@@ -63,9 +63,7 @@ void SimulatedProgram::choose(const std::string& title) {
         ADD_FAILURE() << "no menu item \"" << title << "\" in " << menuTitles();
         return;
     }
-    // The menu may be rebuilt by what the item does.
-    const auto sender = *found;
-    sender.target(sender);
+    platform::common::choose(*found);
     turn();
 }
 

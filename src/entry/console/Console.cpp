@@ -26,12 +26,6 @@ std::string userLanguage() {
     return locale.substr(0, locale.find_first_of("_.@"));
 }
 
-void choose(const platform::MenuItem& item) {
-    // The menu may be rebuilt by what the item does.
-    const auto sender = item;
-    sender.target(sender);
-}
-
 }  // namespace
 
 Console::Console(int input, std::ostream& output)
@@ -62,7 +56,7 @@ void Console::carryOut(const std::optional<std::string>& line) {
     } else if (*line == "menu") {
         statusItem_.show();
     } else if (const auto* const item = statusItem_.itemWithNumber(*line)) {
-        choose(*item);
+        platform::common::choose(*item);
     } else if (!userNotificationCenter_.answer(*line) && !line->empty()) {
         terminal_.print(Help);
     }

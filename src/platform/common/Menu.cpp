@@ -36,4 +36,8 @@ bool Menu::takeRebuilt() {
     return std::exchange(rebuilt_, false);
 }
 
+void choose(MenuItem item) {
+    if (item.target) item.target(item);
+}
+
 }  // namespace brisel::platform::common

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <deque>
-#include <string>
 #include <vector>
 
 #include "platform/Menu.h"
@@ -28,5 +27,8 @@ class Menu final : public platform::Menu {
     std::deque<MenuItem> items_;
     bool rebuilt_ = false;
 };
+
+/// Does what choosing the item does. Takes the item by value: the menu may be rebuilt meanwhile.
+void choose(MenuItem item);
 
 }  // namespace brisel::platform::common
