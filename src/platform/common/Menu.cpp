@@ -36,8 +36,10 @@ bool Menu::takeRebuilt() {
     return std::exchange(rebuilt_, false);
 }
 
-void choose(MenuItem item) {
-    if (item.target) item.target(item);
+void choose(const MenuItem& item) {
+    // A copy: the menu may be rebuilt by what the item does.
+    const auto sender = item;
+    if (sender.target) sender.target(sender);
 }
 
 }  // namespace brisel::platform::common

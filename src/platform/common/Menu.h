@@ -28,7 +28,7 @@ class Menu final : public platform::Menu {
     bool rebuilt_ = false;
 };
 
-/// Does what choosing the item does. Takes the item by value: the menu may be rebuilt meanwhile.
-void choose(MenuItem item);
+/// Does what choosing the item does; the item may leave its menu meanwhile.
+void choose(const MenuItem& item);
 
 }  // namespace brisel::platform::common
