@@ -6,10 +6,10 @@
 #include <string>
 
 #include "platform/common/StringsTable.h"
+#include "platform/common/VisibleText.h"
 #include "platform/linux/DiskDescriptions.h"
 #include "platform/linux/MountInfo.h"
 #include "platform/linux/ScriptRunner.h"
-#include "platform/terminal/Terminal.h"
 #include "simulator/Words.h"
 
 namespace {
@@ -46,7 +46,7 @@ void readUUID(const std::string& text) {
 }
 
 void showOnTerminal(const std::string& text) {
-    for (const char character : platform::terminal::visible(text)) {
+    for (const char character : platform::common::visible(text)) {
         const auto byte = static_cast<unsigned char>(character);
         must(byte >= ' ' && byte != 0x7F);
     }

@@ -84,11 +84,12 @@ std::set<std::string> keysAskedForDirectlyIn(const std::string& source) {
     return keys;
 }
 
-/// What `collect` finds in the sources of the core.
+/// What `collect` finds in the sources of the core and of what the platforms share.
 template <typename Collect>
 std::set<std::string> collectFromTheCore(Collect collect) {
     std::set<std::string> found;
-    for (const auto* const folder : {"app", "mounting", "privileged", "volumes"}) {
+    for (const auto* const folder :
+         {"app", "mounting", "privileged", "volumes", "platform/common"}) {
         for (const auto& entry : fs::directory_iterator(Sources / "src" / folder)) {
             const auto extension = entry.path().extension();
             if (extension != ".cpp" && extension != ".h") continue;
@@ -114,9 +115,11 @@ TEST(EnglishTable, HoldsNoKeyThatIsNotInTheSources) {
 // The texts that reach the lookup through a variable are listed here, so that none is forgotten.
 TEST(EnglishTable, HoldsTheTextsThatAreLookedUpByAVariable) {
     for (const auto* const key :
-         {"Brisel is operating ...", "No NTFS Volumes to re-mount", "show %@ in Finder",
-          "re-mount %@", "unmount", "remove all extended attributes", "mount automatically",
-          "mount manually", "Volume \"%@\" not unmountable", "Volume \"%@\" not re-mountable",
+         {"no NTFS volume", "a volume is read-only", "a volume is writable", "working",
+          "something went wrong", "Brisel is operating ...", "No NTFS Volumes to re-mount",
+          "show %@ in Finder", "re-mount %@", "unmount", "remove all extended attributes",
+          "mount automatically", "mount manually", "Volume \"%@\" not unmountable",
+          "Volume \"%@\" not re-mountable",
           "The volume is not unmountable. Probably it is still used by another application.",
           "The volume is not re-mountable in read/write mode. Probably it was not clean unmounted "
           "before."}) {

@@ -5,6 +5,7 @@
 #include <glib-unix.h>
 
 #include "app/MainMenu.h"
+#include "platform/linux/Process.h"
 #include "volumes/NTFSVolumeManager.h"
 
 namespace brisel::console {
@@ -19,18 +20,11 @@ gboolean terminateNow(gint /*descriptor*/, GIOCondition /*condition*/, gpointer 
     return G_SOURCE_REMOVE;
 }
 
-// The language as the platform's tables name it: de from de_DE.UTF-8, zh-Hans from zh_CN.
-std::string userLanguage() {
-    const std::string locale = *g_get_language_names();
-    if (locale.starts_with("zh")) return "zh-Hans";
-    return locale.substr(0, locale.find_first_of("_.@"));
-}
-
 }  // namespace
 
 Console::Console(int input, std::ostream& output)
     : terminal_(input, output, interruption_.descriptor()) {
-    bundle_.setLanguage(userLanguage());
+    bundle_.setLanguage(platform::linux::userLanguage());
     application_.setEnd([this] { g_main_loop_quit(mainLoop_.get()); });
 }
 

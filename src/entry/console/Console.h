@@ -15,6 +15,7 @@
 #include "platform/linux/Authorization.h"
 #include "platform/linux/DiskArbitration.h"
 #include "platform/linux/FileManager.h"
+#include "platform/linux/Interruption.h"
 #include "platform/linux/MainContext.h"
 #include "platform/linux/ScriptRunner.h"
 #include "platform/linux/SystemLog.h"
@@ -22,7 +23,6 @@
 #include "platform/linux/UserDefaults.h"
 #include "platform/Platform.h"
 #include "platform/terminal/Alert.h"
-#include "platform/terminal/Interruption.h"
 #include "platform/terminal/SmallServices.h"
 #include "platform/terminal/StatusDisplay.h"
 #include "platform/terminal/Terminal.h"
@@ -45,7 +45,7 @@ class Console {
   private:
     void carryOut(const std::optional<std::string>& line);
 
-    platform::terminal::Interruption interruption_;
+    platform::linux::Interruption interruption_;
     platform::terminal::Terminal terminal_;
     platform::linux::SystemLog systemLog_{
         [this](const std::string& text) { terminal_.print("log: " + text); }};

@@ -1,14 +1,13 @@
 // brisel-console: Brisel for machines without a desktop, in a terminal.
 // SPDX-License-Identifier: MIT
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <clocale>
-#include <csignal>
 #include <iostream>
 #include <string_view>
 
 #include "entry/console/Console.h"
+#include "platform/linux/Process.h"
 
 namespace {
 
@@ -16,19 +15,10 @@ constexpr std::string_view Usage =
     "usage: brisel-console\n"
     "Watches for NTFS volumes and re-mounts them read-write, in this terminal.\n";
 
-// A standard descriptor that was closed would be taken by the next thing that is opened.
-void openStandardDescriptors() {
-    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (fcntl(descriptor, F_GETFD) < 0) static_cast<void>(open("/dev/null", O_RDWR) >= 0);
-    }
-}
-
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    openStandardDescriptors();
-    // Whoever started this may ignore ended children; the program must hear of its own.
-    std::signal(SIGCHLD, SIG_DFL);
+    brisel::platform::linux::prepareProcess();
     if (argumentCount > 1) {
         const std::string_view argument = arguments[1];
         const bool asked = argumentCount == 2 && (argument == "--help" || argument == "-h");

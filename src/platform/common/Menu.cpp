@@ -14,22 +14,26 @@ void Menu::removeItemsWithTags(std::span<const int> tags) {
         return std::find(tags.begin(), tags.end(), item.tag) != tags.end();
     });
     rebuilt_ = true;
+    tellChanged();
 }
 
 void Menu::insertItem(MenuItem item, std::size_t index) {
     assert(index <= items_.size());
     items_.insert(std::next(items_.begin(), static_cast<std::ptrdiff_t>(index)), std::move(item));
     rebuilt_ = true;
+    tellChanged();
 }
 
 void Menu::setChecked(std::string_view action, bool checked) {
     for (auto& item : items_) {
         if (item.action == action) item.checked = checked;
     }
+    tellChanged();
 }
 
 void Menu::load(std::vector<MenuItem> items) {
     items_.assign(std::make_move_iterator(items.begin()), std::make_move_iterator(items.end()));
+    tellChanged();
 }
 
 bool Menu::takeRebuilt() {

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <deque>
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "platform/Menu.h"
@@ -20,11 +22,18 @@ class Menu final : public platform::Menu {
     /// Puts the fixed items in, as a nib does on a Mac.
     void load(std::vector<MenuItem> items);
     [[nodiscard]] const std::deque<MenuItem>& items() const { return items_; }
+    /// `changed` is called after every change of an item; none takes the last one away.
+    void setChanged(std::function<void()> changed) { changed_ = std::move(changed); }
     /// Whether items came or went since this was asked last.
     [[nodiscard]] bool takeRebuilt();
 
   private:
+    void tellChanged() const {
+        if (changed_) changed_();
+    }
+
     std::deque<MenuItem> items_;
+    std::function<void()> changed_;
     bool rebuilt_ = false;
 };
 

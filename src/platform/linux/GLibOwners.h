@@ -18,14 +18,25 @@ struct GFree {
     void operator()(gpointer memory) const { g_free(memory); }
 };
 
+struct TextsFree {
+    void operator()(char** texts) const { g_strfreev(texts); }
+};
+
 struct ObjectListFree {
     void operator()(GList* list) const { g_list_free_full(list, g_object_unref); }
+};
+
+struct VariantUnref {
+    void operator()(GVariant* variant) const { g_variant_unref(variant); }
 };
 
 template <typename Type>
 using OwnedObject = std::unique_ptr<Type, ObjectUnref>;
 
 using OwnedText = std::unique_ptr<char, GFree>;
+/// Texts in a vector that ends with a null.
+using OwnedTexts = std::unique_ptr<char*, TextsFree>;
+using OwnedVariant = std::unique_ptr<GVariant, VariantUnref>;
 using OwnedObjectList = std::unique_ptr<GList, ObjectListFree>;
 
 /// The error of one call, to be given as `receive()` and asked afterwards.

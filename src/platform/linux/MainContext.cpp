@@ -1,6 +1,8 @@
-// Work and timers on GLib's main context.
+// Work and timers on GLib's main contexts.
 // SPDX-License-Identifier: MIT
 #include "platform/linux/MainContext.h"
+
+#include <glib-unix.h>
 
 #include <utility>
 
@@ -23,13 +25,17 @@ gboolean runAgain(gpointer data) {
     return G_SOURCE_CONTINUE;
 }
 
+gboolean runReadable(gint /*descriptor*/, GIOCondition /*condition*/, gpointer data) {
+    return runAgain(data);
+}
+
 void destroyWork(gpointer data) {
     delete static_cast<Work*>(data);
 }
 
 Subscription attach(GSource* source, GSourceFunc function, Work work) {
     g_source_set_callback(source, function, new Work(std::move(work)), &destroyWork);
-    g_source_attach(source, nullptr);
+    g_source_attach(source, g_main_context_get_thread_default());
     return Subscription([source] {
         g_source_destroy(source);
         g_source_unref(source);
@@ -42,10 +48,37 @@ Subscription whenMainLoopTurns(std::function<void()> work) {
     return attach(g_idle_source_new(), &runOnce, std::move(work));
 }
 
+Subscription whenReadable(int descriptor, std::function<void()> work) {
+    constexpr auto Awaited = static_cast<GIOCondition>(G_IO_IN | G_IO_HUP | G_IO_ERR);
+    // GLib's sources of descriptors call back by this other signature.
+    return attach(g_unix_fd_source_new(descriptor, Awaited),
+                  reinterpret_cast<GSourceFunc>(reinterpret_cast<void (*)()>(&runReadable)),
+                  std::move(work));
+}
+
+void handTo(GMainContext* context, std::function<void()> work) {
+    auto* const source = g_idle_source_new();
+    g_source_set_priority(source, G_PRIORITY_DEFAULT);
+    g_source_set_callback(source, &runOnce, new Work(std::move(work)), &destroyWork);
+    g_source_attach(source, context);
+    g_source_unref(source);
+}
+
 Subscription RunLoop::scheduledTimer(std::chrono::milliseconds interval,
                                      std::function<void()> fire) {
     return attach(g_timeout_source_new(static_cast<guint>(interval.count())), &runAgain,
                   std::move(fire));
+}
+
+OwnMainLoop::OwnMainLoop()
+    : context_(g_main_context_new()), loop_(g_main_loop_new(context_, FALSE)) {
+    g_main_context_push_thread_default(context_);
+}
+
+OwnMainLoop::~OwnMainLoop() {
+    g_main_context_pop_thread_default(context_);
+    g_main_loop_unref(loop_);
+    g_main_context_unref(context_);
 }
 
 }  // namespace brisel::platform::linux

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/linux/GLibOwners.h"
+#include "platform/linux/Installation.h"
 
 namespace brisel::platform::linux {
 
@@ -24,6 +25,14 @@ ScriptResult failed(std::string message, std::string number) {
     while (message.ends_with('\n'))
         message.pop_back();
     return {.error = {{{MessageKey, std::move(message)}, {NumberKey, std::move(number)}}}};
+}
+
+// The commands that scripts use and Linux lacks are ours, so that each line does its work.
+OwnedTexts environmentWithOurTools() {
+    const OwnedTexts inherited(g_get_environ());
+    const char* const path = g_environ_getenv(inherited.get(), "PATH");
+    const auto folders = toolFolder() + ":" + (path != nullptr ? path : "/usr/bin:/bin");
+    return OwnedTexts(g_environ_setenv(g_strdupv(inherited.get()), "PATH", folders.c_str(), TRUE));
 }
 
 int exitCode(int waitStatus) {
@@ -55,8 +64,9 @@ ScriptResult ScriptRunner::execute(const std::string& source) {
     char* output = nullptr;
     int waitStatus = 0;
     CallError error;
-    g_spawn_sync(nullptr, arguments.data(), nullptr, G_SPAWN_STDOUT_TO_DEV_NULL, nullptr, nullptr,
-                 nullptr, &output, &waitStatus, error.receive());
+    const auto environment = environmentWithOurTools();
+    g_spawn_sync(nullptr, arguments.data(), environment.get(), G_SPAWN_STDOUT_TO_DEV_NULL, nullptr,
+                 nullptr, nullptr, &output, &waitStatus, error.receive());
     const OwnedText ownedOutput(output);
     if (error) return failed(error.message(), SystemError);
     if (exitCode(waitStatus) == 0) return {.error = std::nullopt};

@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <string>
 #include <utility>
 
-#include "platform/Application.h"
+#include "platform/common/Application.h"
 #include "platform/LoginItems.h"
 #include "platform/terminal/Terminal.h"
 #include "platform/Workspace.h"
@@ -34,27 +33,16 @@ class LoginItems final : public platform::LoginItems {
     }
 };
 
-class Application final : public platform::Application {
+class Application final : public common::Application {
   public:
     Application(Terminal& terminal, std::string about)
         : terminal_(terminal), about_(std::move(about)) {}
 
-    /// Runs the termination step and lets the main loop end; returns.
-    void terminate() override;
-    void activateIgnoringOtherApps() override {}
     void orderFrontStandardAboutPanel() override { terminal_.print(about_); }
-
-    void setTerminationStep(std::function<void()> step) { terminationStep_ = std::move(step); }
-    /// Called at the end of `terminate`.
-    void setEnd(std::function<void()> end) { end_ = std::move(end); }
-    [[nodiscard]] bool terminated() const { return terminated_; }
 
   private:
     Terminal& terminal_;
     std::string about_;
-    std::function<void()> terminationStep_;
-    std::function<void()> end_;
-    bool terminated_ = false;
 };
 
 }  // namespace brisel::platform::terminal

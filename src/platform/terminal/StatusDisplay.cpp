@@ -3,32 +3,17 @@
 #include "platform/terminal/StatusDisplay.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "platform/common/StatusWords.h"
+#include "platform/common/VisibleText.h"
+
 namespace brisel::platform::terminal {
 
 namespace {
-
-struct State {
-    std::string_view colour;
-    std::string_view words;
-};
-
-constexpr std::array States{State{"grey", "no NTFS volume"},
-                            State{"green", "a volume is read-only"},
-                            State{"blue", "a volume is writable"}, State{"orange", "working"},
-                            State{"red", "something went wrong"}};
-
-std::string_view wordsFor(const std::string& imageName) {
-    for (const auto& state : States) {
-        if (imageName.find(state.colour) != std::string::npos) return state.words;
-    }
-    return "";
-}
 
 bool isChoosable(const MenuItem& item) {
     return !item.separator && !item.action.empty();
@@ -43,7 +28,7 @@ std::vector<MenuItem> choosableItems(const common::Menu& menu) {
 }  // namespace
 
 void StatusDisplay::setImage(const std::optional<std::string>& name) {
-    state_ = wordsFor(name.value_or(""));
+    state_ = common::statusWords(name.value_or(""));
     pending_ = later_([this] { showIfChanged(); });
 }
 
@@ -56,9 +41,9 @@ std::string StatusDisplay::text() const {
         } else if (isChoosable(item)) {
             const auto digits = std::to_string(++number);
             text += std::string(digits.size() < 2 ? "   " : "  ") + digits + "  " +
-                    visible(item.title) + (item.checked ? " [x]" : "") + "\n";
+                    common::visible(item.title) + (item.checked ? " [x]" : "") + "\n";
         } else {
-            text += "      " + visible(item.title) + "\n";
+            text += "      " + common::visible(item.title) + "\n";
         }
     }
     return text;

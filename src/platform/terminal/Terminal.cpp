@@ -11,16 +11,11 @@
 #include <charconv>
 #include <utility>
 
+#include "platform/common/VisibleText.h"
+
 namespace brisel::platform::terminal {
 
 namespace {
-
-constexpr unsigned char Delete = 0x7F;
-constexpr unsigned char FirstPrintable = 0x20;
-constexpr unsigned char CaretOffset = 0x40;
-// In UTF-8 the control characters U+0080 to U+009F are this byte and one from 0x80 to 0x9F.
-constexpr unsigned char C1Lead = 0xC2;
-constexpr unsigned char C1Last = 0x9F;
 
 using Handler = std::function<bool()>;
 
@@ -34,25 +29,6 @@ void deleteHandler(gpointer data) {
 
 }  // namespace
 
-std::string visible(std::string_view text) {
-    std::string shown;
-    for (std::size_t index = 0; index < text.size(); ++index) {
-        const auto byte = static_cast<unsigned char>(text[index]);
-        const auto next =
-            index + 1 < text.size() ? static_cast<unsigned char>(text[index + 1]) : Delete;
-        if (byte < FirstPrintable || byte == Delete) {
-            shown += '^';
-            shown += static_cast<char>(byte ^ CaretOffset);
-        } else if (byte == C1Lead && next > Delete && next <= C1Last) {
-            shown += '?';
-            ++index;
-        } else {
-            shown += text[index];
-        }
-    }
-    return shown;
-}
-
 std::optional<std::size_t> numberUpTo(const std::string& text, std::size_t most) {
     std::size_t number = 0;
     const auto* const end = text.data() + text.size();
@@ -62,12 +38,12 @@ std::optional<std::size_t> numberUpTo(const std::string& text, std::size_t most)
 }
 
 void Terminal::print(std::string_view text) {
-    output_ << visible(text) << '\n';
+    output_ << common::visible(text) << '\n';
     output_.flush();
 }
 
 std::optional<std::string> Terminal::ask(std::string_view question) {
-    output_ << visible(question) << ' ';
+    output_ << common::visible(question) << ' ';
     output_.flush();
     while (true) {
         if (auto line = takeLine()) {

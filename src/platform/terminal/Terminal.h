@@ -48,9 +48,6 @@ class Terminal {
     LineHandler handler_;
 };
 
-/// The text with its control characters made visible: `^[` for escape, and so on.
-std::string visible(std::string_view text);
-
 /// The number if the text is one from 1 to `most`.
 std::optional<std::size_t> numberUpTo(const std::string& text, std::size_t most);
 

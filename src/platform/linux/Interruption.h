@@ -1,8 +1,8 @@
-// The signals by which a terminal program is asked to end, as a descriptor to wait for.
+// The signals by which a program is asked to end, as a descriptor to wait for.
 // SPDX-License-Identifier: MIT
 #pragma once
 
-namespace brisel::platform::terminal {
+namespace brisel::platform::linux {
 
 /// One per process, as signal handlers are. From its making on SIGINT, SIGTERM and SIGHUP end
 /// nothing by themselves.
@@ -21,4 +21,4 @@ class Interruption {
     int readEnd_ = -1;
 };
 
-}  // namespace brisel::platform::terminal
+}  // namespace brisel::platform::linux

@@ -1,6 +1,6 @@
-// The signals by which a terminal program is asked to end.
+// The signals by which a program is asked to end.
 // SPDX-License-Identifier: MIT
-#include "platform/terminal/Interruption.h"
+#include "platform/linux/Interruption.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <csignal>
 
-namespace brisel::platform::terminal {
+namespace brisel::platform::linux {
 
 namespace {
 
@@ -46,4 +46,4 @@ Interruption::~Interruption() {
     close(writeEnd);
 }
 
-}  // namespace brisel::platform::terminal
+}  // namespace brisel::platform::linux

@@ -1,8 +1,8 @@
-// What is left of a desktop when there is only a terminal.
+// The end of the application.
 // SPDX-License-Identifier: MIT
-#include "platform/terminal/SmallServices.h"
+#include "platform/common/Application.h"
 
-namespace brisel::platform::terminal {
+namespace brisel::platform::common {
 
 void Application::terminate() {
     if (std::exchange(terminated_, true)) return;
@@ -10,4 +10,4 @@ void Application::terminate() {
     if (end_) end_();
 }
 
-}  // namespace brisel::platform::terminal
+}  // namespace brisel::platform::common

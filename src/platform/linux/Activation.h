@@ -1,0 +1,40 @@
+// One program a session: a second start turns to the first.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gio/gio.h>
+
+#include <functional>
+
+#include "platform/linux/GLibOwners.h"
+#include "platform/SystemLog.h"
+
+namespace brisel::platform::linux {
+
+/// The well-known name of the program on the session bus, with the interface
+/// org.freedesktop.Application (Desktop Entry Specification) of which it answers `Activate`.
+class Activation {
+  public:
+    enum class Place { First, Second, Unknown };
+
+    /// Takes the name, if nobody has it. `bus` must outlive this.
+    explicit Activation(GDBusConnection* bus);
+    Activation(const Activation&) = delete;
+    Activation& operator=(const Activation&) = delete;
+    ~Activation();
+
+    /// Whether this program has the name, or another one, or the bus would not say.
+    [[nodiscard]] Place place() const { return place_; }
+    /// Tells the program that has the name that it was started again; false if it does not answer.
+    [[nodiscard]] bool activateFirst() const;
+    /// From now on calls `activated`, on the calling thread's loop, when there was another start.
+    void listen(std::function<void()> activated);
+
+  private:
+    GDBusConnection* bus_;
+    Place place_;
+    std::function<void()> activated_;
+    guint object_ = 0;
+};
+
+}  // namespace brisel::platform::linux

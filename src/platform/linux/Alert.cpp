@@ -1,0 +1,69 @@
+// Modal alerts in windows of the dialog program.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/Alert.h"
+
+#include <poll.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+
+namespace brisel::platform::linux {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+constexpr int NothingPressed = -1;
+constexpr std::chrono::seconds TimeToShow{10};
+constexpr const char* DefaultButton = "OK";
+
+bool isWaiting(const DialogProcess& window) {
+    return window.state() == DialogProcess::State::Starting ||
+           window.state() == DialogProcess::State::Shown;
+}
+
+/// How long to wait for the next word of the window, in milliseconds; -1 for ever.
+int patienceWith(const DialogProcess& window, Clock::time_point latestShown) {
+    if (window.state() == DialogProcess::State::Shown) return -1;
+    const auto left = std::chrono::ceil<milliseconds>(latestShown - Clock::now());
+    return static_cast<int>(std::max(left, milliseconds(0)).count());
+}
+
+}  // namespace
+
+int Alert::runModal(const AlertContent& content) {
+    std::vector<std::string> arguments{"alert", content.messageText, content.informativeText};
+    if (content.buttons.empty()) arguments.emplace_back(DefaultButton);
+    arguments.insert(arguments.end(), content.buttons.begin(), content.buttons.end());
+    DialogProcess window(arguments);
+    waitFor(window);
+    if (const auto pressed = window.pressed()) return AlertFirstButtonReturn + *pressed;
+    if (!window.wasShown()) tellOtherwise(content);
+    return content.buttons.size() > 1 ? NothingPressed : AlertFirstButtonReturn;
+}
+
+void Alert::waitFor(DialogProcess& window) const {
+    const auto latestShown = Clock::now() + TimeToShow;
+    while (isWaiting(window)) {
+        std::array<pollfd, 3> awaited{
+            pollfd{.fd = window.descriptor(), .events = POLLIN, .revents = 0},
+            pollfd{.fd = surroundings_.mainThread.descriptor(), .events = POLLIN, .revents = 0},
+            pollfd{.fd = surroundings_.interruption, .events = POLLIN, .revents = 0}};
+        const int ready = poll(awaited.data(), awaited.size(), patienceWith(window, latestShown));
+        if (ready < 0 && errno == EINTR) continue;
+        if (ready <= 0 || awaited[2].revents != 0) return;
+        if (awaited[1].revents != 0) surroundings_.mainThread.work();
+        if (awaited[0].revents != 0) window.takeIn();
+    }
+}
+
+void Alert::tellOtherwise(const AlertContent& content) const {
+    surroundings_.log.log("An alert could not be shown: %@ %@", content.messageText,
+                          content.informativeText);
+    surroundings_.notifications.showCritical(content.messageText, content.informativeText);
+}
+
+}  // namespace brisel::platform::linux

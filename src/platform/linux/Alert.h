@@ -1,0 +1,42 @@
+// Modal alerts in windows of the dialog program.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Alert.h"
+#include "platform/linux/DialogProcess.h"
+#include "platform/linux/EveryModeQueue.h"
+#include "platform/linux/NotificationServer.h"
+#include "platform/SystemLog.h"
+
+namespace brisel::platform::linux {
+
+/// A window that does not come up, or goes without an answer, holds nothing up: the text goes to
+/// the log and to a critical notification, and an alert with one button counts as answered by it.
+/// Of several buttons none counts as pressed then.
+class Alert final : public platform::Alert {
+  public:
+    /// All of them must outlive the alert. Whatever is asked once `interruption` is readable counts
+    /// as unanswered.
+    struct Surroundings {
+        platform::SystemLog& log;
+        EveryModeQueue& mainThread;
+        NotificationServer& notifications;
+        int interruption;
+    };
+
+    explicit Alert(const Surroundings& surroundings) : surroundings_(surroundings) {}
+
+    int runModal(const AlertContent& content) override;
+
+  private:
+    /// Waits for an answer, for the window only so long.
+    void waitFor(DialogProcess& window) const;
+    void tellOtherwise(const AlertContent& content) const;
+
+    Surroundings surroundings_;
+};
+
+}  // namespace brisel::platform::linux

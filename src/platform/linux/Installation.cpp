@@ -1,0 +1,48 @@
+// Where the files lie that came with the program.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/Installation.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace brisel::platform::linux {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// It never moves while it runs.
+const fs::path& program() {
+    static const fs::path path = [] {
+        std::error_code code;
+        return fs::read_symlink("/proc/self/exe", code);
+    }();
+    return path;
+}
+
+}  // namespace
+
+std::string ownPath() {
+    return program().string();
+}
+
+std::string toolFolder() {
+    const auto folder = program().parent_path();
+    std::error_code code;
+    const bool inBuild = fs::exists(folder / "brisel-dialog", code);
+    return inBuild ? folder.string() : (folder.parent_path() / "libexec/brisel").string();
+}
+
+std::string toolPath(const std::string& name) {
+    return toolFolder() + "/" + name;
+}
+
+std::string iconThemePath() {
+    constexpr const char* AnIcon = "hicolor/scalable/status/brisel-status-grey-dark.svg";
+    const auto prefix = program().parent_path().parent_path();
+    const auto icons = prefix / "share/icons";
+    std::error_code code;
+    return prefix != "/usr" && fs::exists(icons / AnIcon, code) ? icons.string() : std::string();
+}
+
+}  // namespace brisel::platform::linux

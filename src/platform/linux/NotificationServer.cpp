@@ -1,0 +1,120 @@
+// The desktop's notification server.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/NotificationServer.h"
+
+#include <utility>
+
+#include "platform/linux/BusText.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+constexpr const char* Name = "org.freedesktop.Notifications";
+constexpr const char* Path = "/org/freedesktop/Notifications";
+constexpr const char* ProgramName = "Brisel";
+constexpr const char* IconName = "org.brisel.Brisel";
+constexpr gint32 ServersOwnTime = -1;
+
+void addHint(GVariantBuilder& hints, const char* name, GVariant* value) {
+    g_variant_builder_add(&hints, "{sv}", name, value);
+}
+
+GVariant* actionList(const std::vector<std::pair<std::string, std::string>>& actions) {
+    GVariantBuilder list;
+    g_variant_builder_init(&list, G_VARIANT_TYPE("as"));
+    for (const auto& [key, label] : actions) {
+        g_variant_builder_add(&list, "s", key.c_str());
+        g_variant_builder_add(&list, "s", busText(label).c_str());
+    }
+    return g_variant_builder_end(&list);
+}
+
+std::string escaped(const std::string& text) {
+    const OwnedText markup(g_markup_escape_text(text.c_str(), -1));
+    return markup.get();
+}
+
+}  // namespace
+
+NotificationServer::NotificationServer(GDBusConnection* bus) : server_(bus, Name, Path, Name) {
+    watching_ = server_.watch([this] { askForCapabilities(); }, [this] { capabilities_.clear(); });
+}
+
+void NotificationServer::askForCapabilities() {
+    server_.call("GetCapabilities", nullptr, [this](const auto& answer, const auto& /*error*/) {
+        if (!answer || g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(as)")) == FALSE) return;
+        GVariantIter* words = nullptr;
+        g_variant_get(answer.get(), "(as)", &words);
+        const char* word = nullptr;
+        while (g_variant_iter_next(words, "&s", &word) != FALSE)
+            capabilities_.insert(word);
+        g_variant_iter_free(words);
+    });
+}
+
+GVariant* NotificationServer::hintsFor(const Notification& notification) const {
+    GVariantBuilder hints;
+    g_variant_builder_init(&hints, G_VARIANT_TYPE_VARDICT);
+    addHint(hints, "urgency", g_variant_new_byte(static_cast<guchar>(notification.urgency)));
+    addHint(hints, "desktop-entry", g_variant_new_string(IconName));
+    if (!notification.soundName.empty() && can("sound")) {
+        addHint(hints, "sound-name", g_variant_new_string(notification.soundName.c_str()));
+    }
+    return g_variant_builder_end(&hints);
+}
+
+GVariant* NotificationServer::argumentsFor(const Notification& notification) const {
+    const auto body = busText(notification.body);
+    return g_variant_new("(susss@as@a{sv}i)", ProgramName, notification.replaces, IconName,
+                         busText(notification.summary).c_str(),
+                         (can("body-markup") ? escaped(body) : body).c_str(),
+                         actionList(notification.actions), hintsFor(notification), ServersOwnTime);
+}
+
+void NotificationServer::show(const Notification& notification, Shown shown) {
+    server_.call("Notify", argumentsFor(notification),
+                 [shown = std::move(shown)](const OwnedVariant& answer, const CallError& error) {
+                     const bool understood =
+                         answer &&
+                         g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(u)")) != FALSE;
+                     std::uint32_t number = 0;
+                     if (understood) g_variant_get(answer.get(), "(u)", &number);
+                     const Error failure{.localizedDescription = error.message(),
+                                         .localizedFailureReason = std::nullopt};
+                     shown(number, understood ? std::nullopt : std::optional(failure));
+                 });
+}
+
+void NotificationServer::showCritical(const std::string& summary, const std::string& body) {
+    Notification notification{.summary = summary, .body = body};
+    notification.urgency = Notification::Urgency::Critical;
+    show(notification, [](auto /*number*/, const auto& /*error*/) {});
+}
+
+Subscription NotificationServer::onActionInvoked(ActionInvoked invoked) {
+    return server_.onSignal("ActionInvoked", [invoked = std::move(invoked)](GVariant* arguments) {
+        if (g_variant_is_of_type(arguments, G_VARIANT_TYPE("(us)")) == FALSE) return;
+        std::uint32_t number = 0;
+        const char* key = nullptr;
+        g_variant_get(arguments, "(u&s)", &number, &key);
+        invoked(number, key);
+    });
+}
+
+Subscription NotificationServer::onClosed(Closed closed) {
+    return server_.onSignal(
+        "NotificationClosed", [closed = std::move(closed)](GVariant* arguments) {
+            if (g_variant_is_of_type(arguments, G_VARIANT_TYPE("(uu)")) == FALSE) return;
+            std::uint32_t number = 0;
+            std::uint32_t reason = 0;
+            g_variant_get(arguments, "(uu)", &number, &reason);
+            closed(number, reason);
+        });
+}
+
+Subscription NotificationServer::onVanished(std::function<void()> vanished) {
+    return server_.watch([] {}, std::move(vanished));
+}
+
+}  // namespace brisel::platform::linux

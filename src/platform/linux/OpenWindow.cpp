@@ -1,0 +1,31 @@
+// A window of the dialog program that nobody waits for.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/OpenWindow.h"
+
+#include <utility>
+
+#include "platform/linux/MainContext.h"
+
+namespace brisel::platform::linux {
+
+void OpenWindow::show(const std::vector<std::string>& arguments, const std::string& input,
+                      Pressed pressed) {
+    reading_.reset();
+    window_ = std::make_unique<DialogProcess>(arguments, input);
+    pressed_ = std::move(pressed);
+    if (window_->descriptor() >= 0) {
+        reading_ = whenReadable(window_->descriptor(), [this] { takeIn(); });
+    }
+}
+
+void OpenWindow::takeIn() {
+    window_->takeIn();
+    const auto number = window_->pressed();
+    if (!number && window_->descriptor() >= 0) return;
+    reading_.reset();
+    window_.reset();
+    const auto pressed = std::exchange(pressed_, nullptr);
+    if (number && pressed) pressed(*number);
+}
+
+}  // namespace brisel::platform::linux

@@ -1,0 +1,32 @@
+// A window of the dialog program that nobody waits for.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/linux/DialogProcess.h"
+#include "platform/Subscription.h"
+
+namespace brisel::platform::linux {
+
+/// Main thread only.
+class OpenWindow {
+  public:
+    using Pressed = std::function<void(int number)>;
+
+    /// Opens the window (see DialogProcess), instead of one that is still open. `pressed` gets what
+    /// is pressed in it, if anything.
+    void show(const std::vector<std::string>& arguments, const std::string& input, Pressed pressed);
+
+  private:
+    void takeIn();
+
+    std::unique_ptr<DialogProcess> window_;
+    Subscription reading_;
+    Pressed pressed_;
+};
+
+}  // namespace brisel::platform::linux

@@ -1,0 +1,87 @@
+// The status item in the desktop's tray.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/StatusItem.h"
+
+#include <utility>
+
+#include "platform/common/StatusWords.h"
+#include "platform/linux/MainContext.h"
+#include "platform/linux/TrayIcon.h"
+#include "platform/linux/TrayMenu.h"
+
+namespace brisel::platform::linux {
+
+/// What lives on the desk's thread.
+struct StatusItem::Tray {
+    TrayMenu menu;
+    TrayIcon icon;
+    ColourScheme colourScheme;
+};
+
+StatusItem::StatusItem(const Surroundings& surroundings) : surroundings_(surroundings) {
+    surroundings_.menu.setChanged([this] { showMenuSoon(); });
+}
+
+StatusItem::~StatusItem() {
+    surroundings_.menu.setChanged({});
+    desk_.post([this] { tray_.reset(); });
+}
+
+StatusItem::Tray& StatusItem::tray() {
+    if (!tray_) {
+        const auto chosen = [this](int number) {
+            handTo(mainContext_, [this, number] { choose(number); });
+        };
+        auto* const bus = surroundings_.bus;
+        tray_.reset(new Tray{TrayMenu(chosen),
+                             TrayIcon(bus, surroundings_.log, TrayMenu::ObjectPath),
+                             ColourScheme(bus, [this](auto scheme) { noteScheme(scheme); })});
+    }
+    return *tray_;
+}
+
+void StatusItem::setImage(const std::optional<std::string>& name) {
+    showMenu();
+    const auto key = common::statusWords(name.value_or(""));
+    TrayLook look{.iconName = name.value_or(""),
+                  .words = surroundings_.bundle.localizedString(key)};
+    desk_.post([this, look = std::move(look)] { tray().icon.show(look); });
+}
+
+std::string StatusItem::effectiveAppearanceName() const {
+    return dark_ ? "NSAppearanceNameDarkAqua" : "NSAppearanceNameAqua";
+}
+
+Subscription StatusItem::observeEffectiveAppearance(std::function<void()> changed) {
+    return appearanceChanged_.subscribe(std::move(changed));
+}
+
+void StatusItem::noteScheme(ColourScheme::Scheme scheme) {
+    dark_ = scheme == ColourScheme::Scheme::Dark;
+    surroundings_.mainThread.post([this] { appearanceChanged_(); });
+}
+
+void StatusItem::showMenuSoon() {
+    if (std::exchange(menuChanged_, true)) return;
+    pending_ = whenMainLoopTurns([this] { showMenu(); });
+}
+
+void StatusItem::showMenu() {
+    if (!std::exchange(menuChanged_, false)) return;
+    pending_.reset();
+    auto entries = numbered_.update(surroundings_.menu.items());
+    if (entries == entries_) return;
+    entries_ = std::move(entries);
+    desk_.post([this, shown = entries_] { tray().menu.show(shown); });
+}
+
+const std::vector<MenuEntry>& StatusItem::menuEntries() {
+    showMenu();
+    return entries_;
+}
+
+void StatusItem::choose(int number) {
+    if (const auto* const item = numbered_.itemWithNumber(number)) common::choose(*item);
+}
+
+}  // namespace brisel::platform::linux

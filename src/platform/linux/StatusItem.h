@@ -1,0 +1,76 @@
+// The status item in the desktop's tray: the icon and the menu behind it.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gio/gio.h>
+
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Bundle.h"
+#include "platform/common/Menu.h"
+#include "platform/common/Signal.h"
+#include "platform/linux/ColourScheme.h"
+#include "platform/linux/DeskThread.h"
+#include "platform/linux/EveryModeQueue.h"
+#include "platform/linux/NumberedMenu.h"
+#include "platform/StatusItem.h"
+#include "platform/SystemLog.h"
+
+namespace brisel::platform::linux {
+
+/// Main thread. What the tray needs of it is handed to the desk's thread at once, so that the state
+/// shows also while the main thread is busy.
+class StatusItem final : public platform::StatusItem {
+  public:
+    /// All of them must outlive the item. `menu` is the one to show.
+    struct Surroundings {
+        GDBusConnection* bus;
+        platform::SystemLog& log;
+        const platform::Bundle& bundle;
+        common::Menu& menu;
+        EveryModeQueue& mainThread;
+    };
+
+    explicit StatusItem(const Surroundings& surroundings);
+    StatusItem(const StatusItem&) = delete;
+    StatusItem& operator=(const StatusItem&) = delete;
+    ~StatusItem() override;
+
+    /// The tray takes no icon without an image; it gets this one with the first.
+    void create(double /*length*/) override {}
+    void showStatusMenu() override {}
+    void setImage(const std::optional<std::string>& name) override;
+    [[nodiscard]] std::string effectiveAppearanceName() const override;
+    [[nodiscard]] Subscription observeEffectiveAppearance(std::function<void()> changed) override;
+
+    /// What the menu holds now.
+    [[nodiscard]] const std::vector<MenuEntry>& menuEntries();
+    /// Does what choosing the entry does; nothing if it has left the menu.
+    void choose(int number);
+
+  private:
+    struct Tray;
+
+    void showMenu();
+    void showMenuSoon();
+    void noteScheme(ColourScheme::Scheme scheme);
+    /// On the desk's thread.
+    [[nodiscard]] Tray& tray();
+
+    Surroundings surroundings_;
+    NumberedMenu numbered_;
+    std::vector<MenuEntry> entries_;
+    bool menuChanged_ = true;
+    Subscription pending_;
+    common::Signal<> appearanceChanged_;
+    std::atomic<bool> dark_ = false;
+    GMainContext* mainContext_ = g_main_context_get_thread_default();
+    std::unique_ptr<Tray> tray_;
+    DeskThread desk_;
+};
+
+}  // namespace brisel::platform::linux

@@ -1,0 +1,62 @@
+// The icon in the desktop's tray, as org.kde.StatusNotifierItem.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gio/gio.h>
+
+#include <string>
+
+#include "platform/linux/BusClient.h"
+#include "platform/linux/GLibOwners.h"
+#include "platform/linux/MainContext.h"
+#include "platform/SystemLog.h"
+
+namespace brisel::platform::linux {
+
+/// What the icon shows: an icon name of the theme, and the same state in words.
+struct TrayLook {
+    std::string iconName;
+    std::string words;
+
+    bool operator==(const TrayLook&) const = default;
+};
+
+/// Registers with whatever watches for such icons, now, later and again; a tray that starts after
+/// the program, or anew, shows the icon too. To be used on the thread that turns GLib's default
+/// context.
+class TrayIcon {
+  public:
+    static constexpr const char* ObjectPath = "/StatusNotifierItem";
+
+    /// `menuPath` is the object on the same connection that holds the menu.
+    TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string menuPath);
+    TrayIcon(const TrayIcon&) = delete;
+    TrayIcon& operator=(const TrayIcon&) = delete;
+    ~TrayIcon();
+
+    void show(TrayLook look);
+
+    /// The value of a property of the interface, floating; null for one that it lacks.
+    [[nodiscard]] GVariant* property(const std::string& name) const;
+
+  private:
+    void exportObject();
+    void registerWithWatcher();
+    void waitForHost();
+    [[nodiscard]] GVariant* toolTip() const;
+
+    OwnedObject<GDBusConnection> bus_;
+    platform::SystemLog& log_;
+    std::string menuPath_;
+    std::string themePath_;
+    std::string busName_;
+    TrayLook look_;
+    guint object_ = 0;
+    guint ownName_ = 0;
+    BusClient watcher_;
+    Subscription watching_;
+    Subscription hostComing_;
+    Subscription patience_;
+};
+
+}  // namespace brisel::platform::linux

@@ -1,0 +1,92 @@
+// Notifications with buttons, shown by the desktop's notification server.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/UserNotificationCenter.h"
+
+#include <utility>
+
+namespace brisel::platform::linux {
+
+namespace {
+
+// The Mac's sounds have no namesakes in the freedesktop sound theme; this one says what happened.
+constexpr const char* AnySound = "device-added";
+
+}  // namespace
+
+UserNotificationCenter::UserNotificationCenter(NotificationServer& server) : server_(server) {
+    actions_ = server_.onActionInvoked(
+        [this](std::uint32_t number, const std::string& key) { respond(number, key); });
+    closings_ = server_.onClosed([this](std::uint32_t number, std::uint32_t reason) {
+        if (reason == NotificationServer::Dismissed) {
+            respond(number, NotificationDismissActionIdentifier);
+        }
+    });
+    // Another server numbers its pop-ups anew.
+    vanishing_ = server_.onVanished([this] {
+        for (auto& [identifier, popUp] : popUps_)
+            popUp.number = 0;
+    });
+}
+
+Subscription UserNotificationCenter::setDelegate(ResponseHandler handler) {
+    return responses_.subscribe(std::move(handler));
+}
+
+void UserNotificationCenter::setNotificationCategories(
+    const std::vector<NotificationCategory>& categories) {
+    categories_ = categories;
+}
+
+void UserNotificationCenter::requestAuthorization(unsigned /*options*/,
+                                                  AuthorizationHandler handler) {
+    handler(true, std::nullopt);
+}
+
+void UserNotificationCenter::addNotificationRequest(const NotificationRequest& request,
+                                                    AddHandler handler) {
+    waiting_.push_back({.request = request, .handler = std::move(handler)});
+    if (waiting_.size() == 1) showNext();
+}
+
+void UserNotificationCenter::showNext() {
+    if (waiting_.empty()) return;
+    server_.show(notificationFor(waiting_.front().request),
+                 [this](auto number, const auto& error) { finishShow(number, error); });
+}
+
+void UserNotificationCenter::finishShow(std::uint32_t number, const std::optional<Error>& error) {
+    const auto shown = std::move(waiting_.front());
+    waiting_.pop_front();
+    if (!error) {
+        popUps_[shown.request.identifier] = {.number = number, .userInfo = shown.request.userInfo};
+    }
+    shown.handler(error);
+    showNext();
+}
+
+Notification UserNotificationCenter::notificationFor(const NotificationRequest& request) const {
+    Notification notification{.summary = request.title, .body = request.body};
+    for (const auto& category : categories_) {
+        if (category.identifier != request.categoryIdentifier) continue;
+        for (const auto& [identifier, title] : category.actions)
+            notification.actions.emplace_back(identifier, title);
+    }
+    if (!request.soundName.empty()) notification.soundName = AnySound;
+    const auto before = popUps_.find(request.identifier);
+    if (before != popUps_.end()) notification.replaces = before->second.number;
+    return notification;
+}
+
+void UserNotificationCenter::respond(std::uint32_t number, const std::string& action) {
+    for (const auto& [identifier, popUp] : popUps_) {
+        if (number == 0 || popUp.number != number) continue;
+        // A copy: what the response leads to may show another pop-up in its place.
+        const NotificationResponse response{.requestIdentifier = identifier,
+                                            .actionIdentifier = action,
+                                            .userInfo = popUp.userInfo};
+        responses_(response, [] {});
+        return;
+    }
+}
+
+}  // namespace brisel::platform::linux

@@ -1,0 +1,21 @@
+// The user's file manager.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/SystemLog.h"
+#include "platform/Workspace.h"
+
+namespace brisel::platform::linux {
+
+class Workspace final : public platform::Workspace {
+  public:
+    explicit Workspace(platform::SystemLog& log) : log_(log) {}
+
+    /// Opens the folder in whatever the desktop has set for folders; waits for nothing.
+    void openURL(const std::optional<FileURL>& url) override;
+
+  private:
+    platform::SystemLog& log_;
+};
+
+}  // namespace brisel::platform::linux
