@@ -54,7 +54,7 @@ class Console {
     platform::common::NotificationCenter notificationCenter_;
     platform::terminal::Alert alert_{terminal_};
     platform::terminal::Application application_{terminal_, "Brisel " BRISEL_VERSION};
-    platform::linux::Authorization authorization_{systemLog_};
+    platform::linux::Authorization authorization_{systemLog_, interruption_.descriptor()};
     platform::linux::DiskArbitration diskArbitration_{systemLog_};
     platform::linux::FileManager fileManager_;
     platform::terminal::LoginItems loginItems_;

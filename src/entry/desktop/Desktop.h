@@ -18,6 +18,7 @@
 #include "platform/linux/DiskArbitration.h"
 #include "platform/linux/EveryModeQueue.h"
 #include "platform/linux/FileManager.h"
+#include "platform/linux/Installation.h"
 #include "platform/linux/Interruption.h"
 #include "platform/linux/LoginItems.h"
 #include "platform/linux/MainContext.h"
@@ -49,6 +50,7 @@ class Desktop {
   private:
     void runFirst();
 
+    const std::string dialog_ = platform::linux::toolPath("brisel-dialog");
     platform::linux::OwnMainLoop mainLoop_;
     platform::linux::Interruption interruption_;
     platform::linux::SystemLog systemLog_;
@@ -61,9 +63,10 @@ class Desktop {
     platform::linux::Alert alert_{{.log = systemLog_,
                                    .mainThread = mainThread_,
                                    .notifications = notifications_,
-                                   .interruption = interruption_.descriptor()}};
-    platform::linux::Application application_;
-    platform::linux::Authorization authorization_{systemLog_};
+                                   .interruption = interruption_.descriptor(),
+                                   .dialog = dialog_}};
+    platform::linux::Application application_{dialog_};
+    platform::linux::Authorization authorization_{systemLog_, interruption_.descriptor()};
     platform::linux::DiskArbitration diskArbitration_{systemLog_};
     platform::linux::FileManager fileManager_;
     platform::linux::LoginItems loginItems_{systemLog_};
@@ -75,7 +78,7 @@ class Desktop {
                                                 platform::linux::UserDefaults::defaultPath()};
     platform::linux::UserNotificationCenter userNotificationCenter_{notifications_};
     platform::linux::Workspace workspace_{systemLog_};
-    platform::linux::MenuWindow menuWindow_{statusItem_};
+    platform::linux::MenuWindow menuWindow_{statusItem_, dialog_};
     const platform::Platform platform_{.alert = alert_,
                                        .application = application_,
                                        .authorization = authorization_,

@@ -38,7 +38,7 @@ int Alert::runModal(const AlertContent& content) {
     std::vector<std::string> arguments{"alert", content.messageText, content.informativeText};
     if (content.buttons.empty()) arguments.emplace_back(DefaultButton);
     arguments.insert(arguments.end(), content.buttons.begin(), content.buttons.end());
-    DialogProcess window(arguments);
+    DialogProcess window(surroundings_.dialog, arguments);
     waitFor(window);
     if (const auto pressed = window.pressed()) return AlertFirstButtonReturn + *pressed;
     if (!window.wasShown()) tellOtherwise(content);

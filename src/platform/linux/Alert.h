@@ -3,7 +3,7 @@
 #pragma once
 
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "platform/Alert.h"
 #include "platform/linux/DialogProcess.h"
@@ -25,9 +25,11 @@ class Alert final : public platform::Alert {
         EveryModeQueue& mainThread;
         NotificationServer& notifications;
         int interruption;
+        /// The path of the dialog program.
+        std::string dialog;
     };
 
-    explicit Alert(const Surroundings& surroundings) : surroundings_(surroundings) {}
+    explicit Alert(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
 
     int runModal(const AlertContent& content) override;
 

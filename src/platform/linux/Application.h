@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "platform/common/Application.h"
 #include "platform/linux/OpenWindow.h"
 
@@ -9,6 +12,9 @@ namespace brisel::platform::linux {
 
 class Application final : public common::Application {
   public:
+    /// `dialog` is the path of the dialog program.
+    explicit Application(std::string dialog) : aboutPanel_(std::move(dialog)) {}
+
     void orderFrontStandardAboutPanel() override { aboutPanel_.show({"about"}, {}, {}); }
 
   private:

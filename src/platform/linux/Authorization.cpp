@@ -6,10 +6,12 @@
 #include <unistd.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/common/ToolProcess.h"
 #include "platform/linux/GLibOwners.h"
+#include "platform/linux/MainContext.h"
 
 namespace brisel::platform::linux {
 
@@ -37,28 +39,61 @@ void outliveTheBus() {
     if (bus) g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
 }
 
-OSStatus askPolkit(platform::SystemLog& log) {
+/// A question to polkit, and a loop of its own to wait in for the answer.
+class PolkitQuestion {
+  public:
+    /// Null when the question could not be asked or was taken back.
+    using Answer = OwnedObject<PolkitAuthorizationResult>;
+
+    Answer ask(PolkitAuthority* authority, int interruption, CallError& error) {
+        error_ = &error;
+        Subscription ending;
+        if (interruption >= 0) {
+            ending =
+                whenReadable(interruption, [this] { g_cancellable_cancel(cancellable_.get()); });
+        }
+        const OwnedObject<PolkitSubject> subject(
+            polkit_unix_process_new_for_owner(getpid(), 0, static_cast<gint>(getuid())));
+        polkit_authority_check_authorization(
+            authority, subject.get(), ActionIdentifier, nullptr,
+            POLKIT_CHECK_AUTHORIZATION_FLAGS_ALLOW_USER_INTERACTION, cancellable_.get(), &finish,
+            this);
+        loop_.run();
+        return std::move(answer_);
+    }
+
+  private:
+    static void finish(GObject* authority, GAsyncResult* result, gpointer self) {
+        auto& question = *static_cast<PolkitQuestion*>(self);
+        question.answer_.reset(polkit_authority_check_authorization_finish(
+            POLKIT_AUTHORITY(authority), result, question.error_->receive()));
+        question.loop_.quit();
+    }
+
+    OwnMainLoop loop_;
+    OwnedObject<GCancellable> cancellable_{g_cancellable_new()};
+    CallError* error_ = nullptr;
+    Answer answer_;
+};
+
+}  // namespace
+
+OSStatus Authorization::askPolkit() const {
     outliveTheBus();
     CallError error;
     const OwnedObject<PolkitAuthority> authority(
         polkit_authority_get_sync(nullptr, error.receive()));
     if (!authority) {
-        log.log("polkit cannot be reached: %@", error.message());
+        log_.log("polkit cannot be reached: %@", error.message());
         return errAuthorizationInternal;
     }
-    const OwnedObject<PolkitSubject> subject(
-        polkit_unix_process_new_for_owner(getpid(), 0, static_cast<gint>(getuid())));
-    const OwnedObject<PolkitAuthorizationResult> result(polkit_authority_check_authorization_sync(
-        authority.get(), subject.get(), ActionIdentifier, nullptr,
-        POLKIT_CHECK_AUTHORIZATION_FLAGS_ALLOW_USER_INTERACTION, nullptr, error.receive()));
-    if (!result) {
-        log.log("polkit did not answer: %@", error.message());
+    const auto answer = PolkitQuestion().ask(authority.get(), interruption_, error);
+    if (!answer) {
+        log_.log("polkit did not answer: %@", error.message());
         return errAuthorizationInternal;
     }
-    return statusOf(result.get());
+    return statusOf(answer.get());
 }
-
-}  // namespace
 
 // polkit keeps what was granted by process, so there is nothing for a reference to hold.
 CreatedAuthorization Authorization::create(std::uint32_t /*flags*/) {
@@ -67,7 +102,7 @@ CreatedAuthorization Authorization::create(std::uint32_t /*flags*/) {
 
 OSStatus Authorization::copyRights(AuthorizationRef /*authorization*/,
                                    const AuthorizationItem& /*right*/, std::uint32_t /*flags*/) {
-    return isRoot() ? errAuthorizationSuccess : askPolkit(log_);
+    return isRoot() ? errAuthorizationSuccess : askPolkit();
 }
 
 void Authorization::free(AuthorizationRef /*authorization*/, std::uint32_t /*flags*/) {}

@@ -11,7 +11,10 @@ namespace brisel::platform::linux {
 /// dialog and a refusal are told apart; the tool is then started by pkexec. Root needs neither.
 class Authorization final : public platform::Authorization {
   public:
-    explicit Authorization(platform::SystemLog& log) : log_(log) {}
+    /// Once `interruption` can be read, a password prompt that is still up is taken away and counts
+    /// as refused; -1 for none.
+    explicit Authorization(platform::SystemLog& log, int interruption = -1)
+        : log_(log), interruption_(interruption) {}
 
     [[nodiscard]] CreatedAuthorization create(std::uint32_t flags) override;
     [[nodiscard]] OSStatus copyRights(AuthorizationRef authorization,
@@ -23,7 +26,10 @@ class Authorization final : public platform::Authorization {
                                                     char* const* arguments) override;
 
   private:
+    [[nodiscard]] OSStatus askPolkit() const;
+
     platform::SystemLog& log_;
+    int interruption_;
 };
 
 }  // namespace brisel::platform::linux

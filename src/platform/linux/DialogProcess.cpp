@@ -12,8 +12,7 @@
 #include <charconv>
 #include <csignal>
 #include <string_view>
-
-#include "platform/linux/Installation.h"
+#include <utility>
 
 namespace brisel::platform::linux {
 
@@ -56,9 +55,12 @@ class Streams {
 
 }  // namespace
 
-DialogProcess::DialogProcess(const std::vector<std::string>& arguments, const std::string& input) {
+DialogProcess::DialogProcess(const std::string& program, const std::vector<std::string>& arguments,
+                             const std::string& input) {
+    std::vector<std::string> words{program};
+    words.insert(words.end(), arguments.begin(), arguments.end());
     const int file = fileWith(input);
-    start(arguments, file);
+    start(std::move(words), file);
     close(file);
     if (child_ == 0) state_ = State::Ended;
 }
@@ -67,9 +69,7 @@ DialogProcess::~DialogProcess() {
     end();
 }
 
-void DialogProcess::start(const std::vector<std::string>& arguments, int input) {
-    std::vector<std::string> words{toolPath("brisel-dialog")};
-    words.insert(words.end(), arguments.begin(), arguments.end());
+void DialogProcess::start(std::vector<std::string> words, int input) {
     std::vector<char*> vector;
     vector.reserve(words.size() + 1);
     for (auto& word : words)

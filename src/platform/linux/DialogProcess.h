@@ -15,10 +15,10 @@ class DialogProcess {
   public:
     enum class State { Starting, Shown, Pressed, Ended };
 
-    /// Starts the program with these arguments and `input` to read. One that cannot be started has
-    /// ended.
-    explicit DialogProcess(const std::vector<std::string>& arguments,
-                           const std::string& input = {});
+    /// Starts the program at this path with these arguments and `input` to read. One that cannot be
+    /// started has ended.
+    DialogProcess(const std::string& program, const std::vector<std::string>& arguments,
+                  const std::string& input = {});
     DialogProcess(const DialogProcess&) = delete;
     DialogProcess& operator=(const DialogProcess&) = delete;
     /// Takes the window away, if it is still there.
@@ -37,7 +37,7 @@ class DialogProcess {
     [[nodiscard]] std::optional<int> pressed() const { return pressed_; }
 
   private:
-    void start(const std::vector<std::string>& arguments, int input);
+    void start(std::vector<std::string> words, int input);
     void understand(const std::string& line);
     void end();
 

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/DiskArbitration.h"
 
-#include <unistd.h>
-
 #include <array>
+#include <fstream>
 #include <utility>
 
 #include "platform/linux/MainContext.h"
-#include "platform/linux/MountInfo.h"
 #include "platform/linux/UDisksErrors.h"
+#include "platform/linux/VolumeProbe.h"
 
 namespace brisel::platform::linux {
 
@@ -17,6 +16,11 @@ namespace {
 
 constexpr std::array<std::pair<std::string_view, std::string_view>, 3> KnownArguments{
     {{"rw", "rw"}, {"noatime", "noatime"}, {"nobrowse", "x-gvfs-hide"}}};
+
+// Keeps ntfs-3g from clearing the log of a volume that was not unmounted cleanly. The kernel's
+// driver refuses such a volume by itself, and does not know the word.
+constexpr const char* NoRecovery = ",norecover";
+constexpr const char* KernelDriver = "ntfs3";
 
 bool isMountable(const DiskDescription& description) {
     return description.volumeMountable.value_or(false);
@@ -33,9 +37,28 @@ bool isInMountFolder(const std::optional<FileURL>& path) {
     return path && path->path().starts_with(std::string(g_get_home_dir()) + "/.brisel/");
 }
 
-bool isWritableMount(const std::string& mountPoint) {
-    return currentMountState(mountPoint) == MountState::ReadWrite &&
-           access(mountPoint.c_str(), W_OK) == 0;
+// The kernel's own driver, once it has been loaded.
+bool hasKernelDriver() {
+    std::ifstream names("/proc/filesystems");
+    std::string word;
+    while (names >> word) {
+        if (word == KernelDriver) return true;
+    }
+    return false;
+}
+
+bool mayHaveMinded(const DiskService::CallFailure& failure) {
+    return failure.errorName == "org.freedesktop.UDisks2.Error.OptionNotPermitted" ||
+           failure.errorName == "org.freedesktop.UDisks2.Error.Failed";
+}
+
+std::string reasonForReadOnly(const std::string& mountPoint) {
+    if (isHibernated(mountPoint)) {
+        return "Windows is hibernated on it, or was shut down with its fast start-up. Start "
+               "Windows "
+               "and shut it down fully";
+    }
+    return "the device is write-protected, or the driver found the volume unsafe to write";
 }
 
 }  // namespace
@@ -156,13 +179,23 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
                                          const std::vector<std::string>& arguments,
                                          Completion completion) {
     ++requests_[disk.bsdName];
-    service_->mount(disk.bsdName, mountOptions(arguments),
-                    [this, disk, completion = std::move(completion)](
-                        const auto& failure, const std::string& mountPoint) {
-                        if (failure) {
-                            finish(disk, dissenterFor(failure, disk), std::nullopt, completion);
+    const auto options = mountOptions(arguments);
+    auto done = [this, disk, completion = std::move(completion)](const auto& failure,
+                                                                 const std::string& mountPoint) {
+        if (failure) {
+            finish(disk, dissenterFor(failure, disk), std::nullopt, completion);
+        } else {
+            finishMount(disk, mountPoint, completion);
+        }
+    };
+    service_->mount(disk.bsdName, {.options = options + NoRecovery, .driver = {}},
+                    [this, disk, options, done = std::move(done)](const auto& failure,
+                                                                  const std::string& mountPoint) {
+                        if (failure && mayHaveMinded(*failure) && hasKernelDriver()) {
+                            service_->mount(disk.bsdName,
+                                            {.options = options, .driver = KernelDriver}, done);
                         } else {
-                            finishMount(disk, mountPoint, completion);
+                            done(failure, mountPoint);
                         }
                     });
 }
@@ -171,14 +204,12 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
 // otherwise unsafe to write.
 void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoint,
                                   const Completion& completion) {
-    if (isWritableMount(mountPoint)) {
+    if (takesWriting(mountPoint)) {
         finish(disk, std::nullopt, mountPoint, completion);
         return;
     }
-    log_.log(
-        "%@ came up read-only and is unmounted again: the device is write-protected, or the driver "
-        "found it unsafe to write.",
-        disk.bsdName);
+    log_.log("%@ came up read-only and is unmounted again: %@.", disk.bsdName,
+             reasonForReadOnly(mountPoint));
     service_->unmount(
         disk.bsdName, [this, disk, completion](const auto& failure, const auto& /*result*/) {
             static_cast<void>(dissenterFor(failure, disk));

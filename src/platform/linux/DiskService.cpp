@@ -94,7 +94,7 @@ void DiskService::unmount(const std::string& device, Done done) {
                                    new Call{std::move(done)});
 }
 
-void DiskService::mount(const std::string& device, const std::string& options, Done done) {
+void DiskService::mount(const std::string& device, const Mounting& mounting, Done done) {
     const auto target = filesystem(device);
     if (!target) {
         done(noSuchDisk(), {});
@@ -102,7 +102,12 @@ void DiskService::mount(const std::string& device, const std::string& options, D
     }
     GVariantBuilder builder;
     g_variant_builder_init(&builder, G_VARIANT_TYPE_VARDICT);
-    g_variant_builder_add(&builder, "{sv}", "options", g_variant_new_string(options.c_str()));
+    g_variant_builder_add(&builder, "{sv}", "options",
+                          g_variant_new_string(mounting.options.c_str()));
+    if (!mounting.driver.empty()) {
+        g_variant_builder_add(&builder, "{sv}", "fstype",
+                              g_variant_new_string(mounting.driver.c_str()));
+    }
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(target.get()), G_MAXINT);
     udisks_filesystem_call_mount(target.get(), g_variant_builder_end(&builder), cancellable_.get(),
                                  &DiskService::finishMount, new Call{std::move(done)});

@@ -25,6 +25,11 @@ class DiskService {
         std::string errorName;
         std::string message;
     };
+    /// Mount options, and the driver to take; an empty one leaves that to UDisks2.
+    struct Mounting {
+        std::string options;
+        std::string driver;
+    };
     using Done = std::function<void(const std::optional<CallFailure>&, const std::string& result)>;
 
     /// `changed` is called as UDisksObjects says.
@@ -41,8 +46,8 @@ class DiskService {
 
     /// Unmounts the file system of a device.
     void unmount(const std::string& device, Done done);
-    /// Mounts it with the options; the result is the mount point.
-    void mount(const std::string& device, const std::string& options, Done done);
+    /// Mounts it; the result is the mount point.
+    void mount(const std::string& device, const Mounting& mounting, Done done);
 
   private:
     struct Call;

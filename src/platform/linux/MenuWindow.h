@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "platform/linux/OpenWindow.h"
 #include "platform/linux/StatusItem.h"
 
@@ -10,7 +13,9 @@ namespace brisel::platform::linux {
 /// Main thread only.
 class MenuWindow {
   public:
-    explicit MenuWindow(StatusItem& statusItem) : statusItem_(statusItem) {}
+    /// `dialog` is the path of the dialog program.
+    MenuWindow(StatusItem& statusItem, std::string dialog)
+        : statusItem_(statusItem), window_(std::move(dialog)) {}
 
     /// Shows the menu as it is now, instead of a window that is still open.
     void show();

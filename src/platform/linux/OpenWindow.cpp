@@ -11,7 +11,7 @@ namespace brisel::platform::linux {
 void OpenWindow::show(const std::vector<std::string>& arguments, const std::string& input,
                       Pressed pressed) {
     reading_.reset();
-    window_ = std::make_unique<DialogProcess>(arguments, input);
+    window_ = std::make_unique<DialogProcess>(program_, arguments, input);
     pressed_ = std::move(pressed);
     if (window_->descriptor() >= 0) {
         reading_ = whenReadable(window_->descriptor(), [this] { takeIn(); });

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/linux/DialogProcess.h"
@@ -15,6 +16,9 @@ namespace brisel::platform::linux {
 /// Main thread only.
 class OpenWindow {
   public:
+    /// `program` is the path of the dialog program.
+    explicit OpenWindow(std::string program) : program_(std::move(program)) {}
+
     using Pressed = std::function<void(int number)>;
 
     /// Opens the window (see DialogProcess), instead of one that is still open. `pressed` gets what
@@ -24,6 +28,7 @@ class OpenWindow {
   private:
     void takeIn();
 
+    std::string program_;
     std::unique_ptr<DialogProcess> window_;
     Subscription reading_;
     Pressed pressed_;

@@ -1,0 +1,40 @@
+// What a mounted NTFS volume is really like.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/VolumeProbe.h"
+
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <array>
+#include <fstream>
+
+#include "platform/Format.h"
+#include "platform/linux/MountInfo.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+bool takesAFile(const std::string& folder) {
+    auto path = folder + "/.brisel-XXXXXX";
+    const int file = mkstemp(path.data());
+    if (file < 0) return false;
+    close(file);
+    return unlink(path.c_str()) == 0;
+}
+
+}  // namespace
+
+bool takesWriting(const std::string& mountPoint) {
+    return currentMountState(mountPoint) == MountState::ReadWrite && takesAFile(mountPoint);
+}
+
+bool isHibernated(const std::string& mountPoint) {
+    constexpr std::string_view SleepWord = "hibr";
+    std::array<char, SleepWord.size()> start{};
+    std::ifstream file(mountPoint + "/hiberfil.sys", std::ios::binary);
+    file.read(start.data(), start.size());
+    return file && lowercased(std::string(start.data(), start.size())) == SleepWord;
+}
+
+}  // namespace brisel::platform::linux
