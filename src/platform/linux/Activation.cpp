@@ -23,6 +23,9 @@ constexpr guint32 DoNotQueue = 4;
 constexpr guint32 PrimaryOwner = 1;
 constexpr guint32 Exists = 3;
 
+// The first one may be held up by an alert; it gets the call all the same.
+constexpr int MillisecondsToAnswer = 5000;
+
 Activation::Place takeName(GDBusConnection* bus) {
     const OwnedVariant answer(g_dbus_connection_call_sync(
         bus, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
@@ -52,7 +55,7 @@ Activation::~Activation() {
 bool Activation::activateFirst() const {
     const OwnedVariant answer(g_dbus_connection_call_sync(
         bus_, Name, Path, Interface, "Activate", g_variant_new("(a{sv})", nullptr), nullptr,
-        G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, nullptr, nullptr));
+        G_DBUS_CALL_FLAGS_NO_AUTO_START, MillisecondsToAnswer, nullptr, nullptr));
     return answer != nullptr;
 }
 

@@ -28,9 +28,9 @@ std::string ownPath() {
 
 std::string toolFolder() {
     const auto folder = program().parent_path();
+    const auto installed = folder.parent_path() / "libexec/brisel";
     std::error_code code;
-    const bool inBuild = fs::exists(folder / "brisel-dialog", code);
-    return inBuild ? folder.string() : (folder.parent_path() / "libexec/brisel").string();
+    return (fs::is_directory(installed, code) ? installed : folder).string();
 }
 
 std::string toolPath(const std::string& name) {

@@ -9,12 +9,12 @@ namespace brisel::platform::linux {
 /// The path of the running program.
 std::string ownPath();
 
-/// The path of a tool of ours: beside the program, as in a build, else in `../libexec/brisel`.
-/// Whether it is there is not looked at.
-std::string toolPath(const std::string& name);
-
-/// The folder of our tools.
+/// The folder of our tools: `../libexec/brisel` as installed, else that of the program, as in a
+/// build.
 std::string toolFolder();
+
+/// The path of one of them. Whether it is there is not looked at.
+std::string toolPath(const std::string& name);
 
 /// The icons' base folder, `../share/icons`; empty for that of the system, into which every desktop
 /// looks anyway.
