@@ -64,7 +64,7 @@ class BareCaller:
     def __init__(self, stage):
         script = os.path.join(os.path.dirname(os.path.abspath(__file__)), "bare_calls.py")
         self._process = subprocess.Popen(
-            stage.account.command("/usr/bin/python3", script), env=stage.session.environment,
+            stage.account.command(["/usr/bin/python3", script]), env=stage.session.environment,
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
 
     def remount(self, stick, _prompt):
