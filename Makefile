@@ -1,5 +1,5 @@
 # What there is to do with the sources; CMakePresets.json says how each build is made.
-.PHONY: all run test bench coverage tidy format clean
+.PHONY: all run test bench package coverage tidy format clean
 
 all:
 	scripts/install-needs build
@@ -32,6 +32,16 @@ bench:
 	cmake --build --preset bench
 	build/bin/brisel-benchmarks
 	build/bin/brisel-benchmarks --check-growth
+
+# The times in the packages are those of the last change, so that the same sources make the same bytes.
+package: export SOURCE_DATE_EPOCH ?= $(shell git log -1 --format=%ct)
+package:
+	scripts/install-needs package
+	cmake --preset release
+	cmake --build --preset release
+	rm -rf build/packages
+	cpack --config build/release/CPackConfig.cmake -B build/packages
+	rm -rf build/packages/_CPack_Packages
 
 coverage:
 	scripts/install-needs test
