@@ -15,8 +15,10 @@ set(ACCENT_orange_light "#a85200")
 set(ACCENT_red_dark "#ff7a70")
 set(ACCENT_red_light "#c3201c")
 
-# make_status_icons(FOLDER): brisel-status-COLOUR-BAR.svg for each colour and bar.
+# make_status_icons(FOLDER): brisel-status-COLOUR-BAR.svg for each colour and bar, and nothing else
+# in the folder.
 function(make_status_icons folder)
+  file(REMOVE_RECURSE ${folder})
   foreach(colour IN LISTS BRISEL_STATUS_COLOURS)
     foreach(bar dark light)
       set(INK ${INK_${bar}})
