@@ -10,8 +10,10 @@ namespace brisel::tests {
 
 class TemporaryFolder {
   public:
-    TemporaryFolder() {
-        std::string name = std::filesystem::temp_directory_path() / "brisel-XXXXXX";
+    /// Makes it within another folder, by default the one for temporary files.
+    explicit TemporaryFolder(
+        const std::filesystem::path& within = std::filesystem::temp_directory_path()) {
+        std::string name = within / "brisel-XXXXXX";
         path_ = mkdtemp(name.data());
     }
     TemporaryFolder(const TemporaryFolder&) = delete;

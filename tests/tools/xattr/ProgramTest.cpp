@@ -1,0 +1,115 @@
+// The program `xattr` as a process of an ordinary user.
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "tests/linux/NTFSImage.h"
+#include "tests/linux/TemporaryFolder.h"
+#include "tests/tools/xattr/UserAttributes.h"
+
+namespace brisel::tests {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class Program : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (setAttribute(folder_.path(), "user.probe") != 0) {
+            GTEST_SKIP() << folder_.path() << " holds no user attributes";
+        }
+        // Where another user can start it.
+        fs::copy_file(BRISEL_XATTR, program_);
+        fs::permissions(folder_.path(), fs::perms(0755));
+    }
+
+    /// What it prints, and the status that it ends with.
+    [[nodiscard]] std::string run(const std::string& arguments) const {
+        return shell("cd " + folder_.path() + " && " + program_ + " " + arguments + "; echo $?");
+    }
+
+    /// The same as somebody without privileges, who owns the folder from now on.
+    [[nodiscard]] std::string runAsUser(const std::string& arguments) const {
+        const bool isRoot = geteuid() == 0;
+        if (isRoot) shell("chown -R 65534:65534 " + folder_.path());
+        const std::string become = "setpriv --reuid 65534 --regid 65534 --clear-groups ";
+        return shell("cd " + folder_.path() + " && " + (isRoot ? become : "") + program_ + " " +
+                     arguments + "; echo $?");
+    }
+
+    [[nodiscard]] std::string at(const std::string& name) const {
+        return folder_.path() + '/' + name;
+    }
+
+    TemporaryFolder folder_;
+    const std::string program_ = folder_.path() + "/xattr";
+};
+
+TEST_F(Program, StripsEachOfItsPaths) {
+    makeTaggedFolder(at("My"));
+    makeTaggedFile(at("My/file"));
+    makeTaggedFolder(at("Disk"));
+    EXPECT_EQ(run("-cr My Disk"), "0");
+    for (const char* name : {"My", "My/file", "Disk"})
+        EXPECT_FALSE(isTagged(at(name))) << name;
+}
+
+TEST_F(Program, GoesOnAfterAFailureAndEndsWithOne) {
+    makeTaggedFile(at("file"));
+    EXPECT_EQ(run("-cr absent file"), "xattr: absent: No such file or directory\n1");
+    EXPECT_FALSE(isTagged(at("file")));
+}
+
+TEST_F(Program, ToldToDoSomethingElseSaysHowItIsUsed) {
+    makeTaggedFile(at("file"));
+    EXPECT_THAT(run("-d user.tag file"),
+                testing::AllOf(testing::StartsWith("usage: xattr -c"), testing::EndsWith("\n2")));
+    EXPECT_TRUE(isTagged(at("file")));
+    EXPECT_THAT(run("--help 2>/dev/null"),
+                testing::AllOf(testing::StartsWith("usage: xattr -c"), testing::EndsWith("\n0")));
+}
+
+TEST_F(Program, NeedsNoPermissionToReadAFile) {
+    makeTaggedFile(at("unreadable"));
+    fs::permissions(at("unreadable"), fs::perms(0200));
+    EXPECT_EQ(runAsUser("-cr unreadable"), "0");
+    EXPECT_FALSE(isTagged(at("unreadable")));
+}
+
+TEST_F(Program, ReportsWhatItMayNotChangeOrReadAndGoesOn) {
+    makeTaggedFolder(at("tree"));
+    makeTaggedFile(at("tree/file"));
+    makeTaggedFile(at("tree/fixed"));
+    fs::permissions(at("tree/fixed"), fs::perms(0400));
+    makeTaggedFolder(at("tree/closed"));
+    fs::permissions(at("tree/closed"), fs::perms(0200));
+    const auto said = runAsUser("-cr tree");
+    EXPECT_THAT(said, testing::HasSubstr("xattr: tree/fixed: Permission denied\n"));
+    EXPECT_THAT(said, testing::HasSubstr("xattr: tree/closed: Permission denied\n"));
+    EXPECT_THAT(said, testing::EndsWith("\n1"));
+    EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 2) << said;
+    EXPECT_FALSE(isTagged(at("tree/file")));
+    fs::permissions(at("tree/closed"), fs::perms(0700));
+    EXPECT_FALSE(isTagged(at("tree/closed")));
+}
+
+TEST_F(Program, EntersNoOtherFileSystem) {
+    makeTaggedFolder(at("tree"));
+    makeTaggedFolder(at("tree/mounted"));
+    const auto inside = at("tree/mounted/file");
+    // The mount goes with the namespace.
+    const auto said = shell("unshare --mount sh -c 'mount -t tmpfs none " + at("tree/mounted") +
+                            " && touch " + inside + " && setfattr -n user.tag -v x " + inside +
+                            " " + at("tree/mounted") + " && " + program_ + " -cr " + at("tree") +
+                            " && getfattr -n user.tag --only-values --absolute-names " + inside +
+                            " " + at("tree/mounted") + "'");
+    if (said.find("ermi") != std::string::npos) GTEST_SKIP() << "nothing can be mounted: " << said;
+    EXPECT_EQ(said, "xx");
+    EXPECT_FALSE(isTagged(at("tree")));
+}
+
+}  // namespace
+
+}  // namespace brisel::tests

@@ -1,0 +1,99 @@
+// The walk through a tree that changes under it.
+// SPDX-License-Identifier: MIT
+#include "tools/xattr/TreeWalk.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "tests/linux/TemporaryFolder.h"
+
+namespace brisel::xattr {
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+using testing::UnorderedElementsAre;
+
+class AWalk : public testing::Test {
+  protected:
+    void SetUp() override {
+        fs::create_directories(tree_ + "/above/folder/below");
+        std::ofstream(tree_ + "/above/folder/below/file") << "content";
+        fs::create_directories(elsewhere_ + "/below");
+        std::ofstream(elsewhere_ + "/file") << "not to be touched";
+    }
+
+    /// Walks, and calls `meddle` when it is at the path `where` below the tree.
+    void walk(const std::string& where, const std::function<void()>& meddle) {
+        const auto visit = [&](const Descriptor& /*file*/, const std::string& path) {
+            visited_.push_back(path.substr(tree_.size()));
+            if (visited_.back() == where) meddle();
+        };
+        const auto complain = [&](const std::string& path, const std::string& reason) {
+            complaints_.emplace_back(path.substr(tree_.size()), reason);
+        };
+        TreeWalk(visit, complain).run(Descriptor(AT_FDCWD, tree_, O_PATH), tree_);
+    }
+
+    tests::TemporaryFolder place_;
+    const std::string tree_ = place_.path() + "/tree";
+    const std::string elsewhere_ = place_.path() + "/elsewhere";
+    std::vector<std::string> visited_;
+    std::vector<std::pair<std::string, std::string>> complaints_;
+};
+
+TEST_F(AWalk, VisitsATreeFromItsTop) {
+    walk("", [] {});
+    EXPECT_THAT(visited_, ElementsAre("", "/above", "/above/folder", "/above/folder/below",
+                                      "/above/folder/below/file"));
+}
+
+TEST_F(AWalk, IsNotLedElsewhereByALinkInPlaceOfAFolder) {
+    walk("/above/folder", [&] {
+        fs::rename(tree_ + "/above/folder", place_.path() + "/aside");
+        fs::create_directory_symlink(elsewhere_, tree_ + "/above/folder");
+    });
+    EXPECT_THAT(visited_, ElementsAre("", "/above", "/above/folder"));
+    EXPECT_THAT(complaints_, IsEmpty());
+}
+
+TEST_F(AWalk, LeavesOutAFolderThatIsGone) {
+    walk("/above/folder", [&] { fs::remove_all(tree_ + "/above/folder"); });
+    EXPECT_THAT(visited_, ElementsAre("", "/above", "/above/folder"));
+    EXPECT_THAT(complaints_, IsEmpty());
+}
+
+TEST_F(AWalk, LeavesOutAFileThatIsGone) {
+    const auto file = [this](const char* name) { return tree_ + "/above/folder/below/" + name; };
+    std::ofstream(file("other")) << "content";
+    // Whichever is visited first, the other is gone by then.
+    walk("/above/folder/below/file", [&] { fs::remove(file("other")); });
+    fs::remove(file("other"));
+    std::ofstream(file("other")) << "content";
+    walk("/above/folder/below/other", [&] { fs::remove(file("file")); });
+    EXPECT_THAT(complaints_, IsEmpty());
+}
+
+TEST_F(AWalk, EndsWithAComplaintWhenAFolderIsMovedAwayWithIt) {
+    fs::create_directory(tree_ + "/above/folder/below/deep");
+    std::ofstream(tree_ + "/above/folder/below/deep/end") << "content";
+    walk("/above/folder/below/deep/end",
+         [&] { fs::rename(tree_ + "/above/folder", elsewhere_ + "/folder"); });
+    EXPECT_THAT(visited_,
+                UnorderedElementsAre("", "/above", "/above/folder", "/above/folder/below",
+                                     "/above/folder/below/file", "/above/folder/below/deep",
+                                     "/above/folder/below/deep/end"));
+    EXPECT_THAT(complaints_,
+                ElementsAre(Pair("/above/folder", testing::HasSubstr("moved meanwhile"))));
+}
+
+}  // namespace
+
+}  // namespace brisel::xattr

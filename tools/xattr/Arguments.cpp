@@ -1,0 +1,57 @@
+// The command line of `xattr`.
+// SPDX-License-Identifier: MIT
+#include "tools/xattr/Arguments.h"
+
+#include <string_view>
+
+namespace brisel::xattr {
+
+const char* const Usage =
+    "usage: xattr -c [-r] [--] PATH...\n"
+    "Removes the extended attributes of each PATH.\n"
+    "\n"
+    "  -c      clear: remove every attribute (needed; there is nothing else to be done)\n"
+    "  -r      recursively: of everything below each PATH, too\n"
+    "  --help  show this\n"
+    "\n"
+    "Only attributes of the namespace `user.` are removed, which on NTFS are the alternate data\n"
+    "streams. Those of the system (access lists, security labels, capabilities) are left alone.\n"
+    "Symbolic links are not followed, and other file systems below a PATH are not entered.\n";
+
+namespace {
+
+/// Takes a word such as `-cr`; says whether each of its letters is an option.
+bool takeOptions(std::string_view letters, Arguments& arguments) {
+    for (const char letter : letters) {
+        if (letter == 'c') {
+            arguments.request = Request::Clear;
+        } else if (letter == 'r') {
+            arguments.depth = Depth::EverythingBelow;
+        } else {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+Arguments argumentsFrom(std::span<const char* const> words) {
+    Arguments arguments;
+    auto word = words.begin();
+    for (; word != words.end(); ++word) {
+        const std::string_view option = *word;
+        if (option == "--help") return {.request = Request::ShowUsage, .paths = {}};
+        if (option.size() < 2 || option.front() != '-') break;
+        if (option == "--") {
+            ++word;
+            break;
+        }
+        if (!takeOptions(option.substr(1), arguments)) return {};
+    }
+    arguments.paths.assign(word, words.end());
+    if (arguments.paths.empty()) arguments.request = Request::NotUnderstood;
+    return arguments;
+}
+
+}  // namespace brisel::xattr

@@ -1,0 +1,149 @@
+// Visits the files and folders of a tree.
+// SPDX-License-Identifier: MIT
+#include "tools/xattr/TreeWalk.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+
+#include <cerrno>
+#include <memory>
+#include <string_view>
+#include <system_error>
+
+namespace brisel::xattr {
+
+namespace {
+
+constexpr int OpenFolder = O_PATH | O_DIRECTORY | O_NOFOLLOW;
+
+struct CloseFolder {
+    void operator()(DIR* folder) const { closedir(folder); }
+};
+
+using OpenDirectory = std::unique_ptr<DIR, CloseFolder>;
+
+/// For readdir(3); null, with errno, if the folder cannot be read.
+OpenDirectory openForReading(const Descriptor& folder) {
+    Descriptor readable(folder.number(), ".", O_RDONLY | O_DIRECTORY);
+    OpenDirectory directory(readable ? fdopendir(readable.number()) : nullptr);
+    // The descriptor belongs to the directory now.
+    if (directory) static_cast<void>(readable.release());
+    return directory;
+}
+
+std::optional<struct stat> statusOf(const Descriptor& file) {
+    struct stat status {};
+    if (fstat(file.number(), &status) != 0) return std::nullopt;
+    return status;
+}
+
+bool isFileOrFolder(const struct stat& status) {
+    return S_ISREG(status.st_mode) || S_ISDIR(status.st_mode);
+}
+
+/// Whether opening failed with `error` since the folder is gone, or something else stands there.
+bool isGone(int error) {
+    return error == ENOENT || error == ENOTDIR || error == ELOOP;
+}
+
+}  // namespace
+
+bool canHoldUserAttributes(const Descriptor& file) {
+    const auto status = statusOf(file);
+    return status && isFileOrFolder(*status);
+}
+
+void TreeWalk::run(Descriptor start, const std::string& path) {
+    path_ = path;
+    const auto status = statusOf(start);
+    if (!status) return complain(path, errno);
+    if (!isFileOrFolder(*status)) return;
+    device_ = status->st_dev;
+    visit_(start, path);
+    if (S_ISDIR(status->st_mode)) enter(std::move(start));
+    while (!levels_.empty()) {
+        if (levels_.back().subfolders.empty()) {
+            ascend();
+        } else {
+            descend();
+        }
+    }
+}
+
+void TreeWalk::enter(Descriptor folder) {
+    const auto status = statusIfHere(folder);
+    if (!status) return;
+    Level level{.node = status->st_ino, .pathLength = path_.size(), .subfolders = {}};
+    visitEntries(folder, level);
+    if (level.subfolders.empty()) return;
+    levels_.push_back(std::move(level));
+    current_ = std::move(folder);
+}
+
+void TreeWalk::visitEntries(const Descriptor& folder, Level& level) {
+    const auto directory = openForReading(folder);
+    if (!directory) return complain(path_, errno);
+    errno = 0;
+    while (const auto* entry = readdir(directory.get())) {
+        const std::string name = entry->d_name;
+        if (name != "." && name != "..") visitEntry(folder, name, level);
+        errno = 0;
+    }
+    if (errno != 0) complain(path_, errno);
+}
+
+void TreeWalk::visitEntry(const Descriptor& folder, const std::string& name, Level& level) {
+    const Descriptor entry(folder.number(), name, O_PATH | O_NOFOLLOW);
+    if (!entry) {
+        if (!isGone(errno)) complain(pathOf(name), errno);
+        return;
+    }
+    const auto status = statusIfHere(entry);
+    if (!status || !isFileOrFolder(*status)) return;
+    visit_(entry, pathOf(name));
+    if (S_ISDIR(status->st_mode)) level.subfolders.push_back(name);
+}
+
+void TreeWalk::descend() {
+    auto& level = levels_.back();
+    const auto name = std::move(level.subfolders.back());
+    level.subfolders.pop_back();
+    path_.resize(level.pathLength);
+    path_ = pathOf(name);
+    Descriptor folder(current_.number(), name, OpenFolder);
+    if (folder) {
+        enter(std::move(folder));
+    } else if (!isGone(errno)) {
+        complain(path_, errno);
+    }
+}
+
+void TreeWalk::ascend() {
+    path_.resize(levels_.back().pathLength);
+    levels_.pop_back();
+    if (levels_.empty()) return;
+    Descriptor above(current_.number(), "..", OpenFolder);
+    const auto status = above ? statusIfHere(above) : std::nullopt;
+    if (status && status->st_ino == levels_.back().node) {
+        current_ = std::move(above);
+        return;
+    }
+    // Someone has moved the folder, and what is above it now is none of ours.
+    complain_(path_, "it was moved meanwhile, and what was to follow has been left out");
+    levels_.clear();
+}
+
+void TreeWalk::complain(const std::string& path, int error) {
+    complain_(path, std::generic_category().message(error));
+}
+
+std::optional<struct stat> TreeWalk::statusIfHere(const Descriptor& file) const {
+    const auto status = statusOf(file);
+    return status && status->st_dev == device_ ? status : std::nullopt;
+}
+
+std::string TreeWalk::pathOf(const std::string& name) const {
+    return path_.ends_with('/') ? path_ + name : path_ + '/' + name;
+}
+
+}  // namespace brisel::xattr
