@@ -1,0 +1,69 @@
+// The lines of a menu, and what is told about its window.
+// SPDX-License-Identifier: MIT
+#include "tools/dialog/MenuLines.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "tools/dialog/Protocol.h"
+
+namespace brisel::dialog {
+
+namespace {
+
+using testing::ElementsAre;
+
+class AMenuLine : public testing::Test {};
+
+TEST_F(AMenuLine, HoldsIDKindAndTitle) {
+    const auto entry = entryFrom("7\titem\tre-mount Data");
+    ASSERT_TRUE(entry.has_value());
+    EXPECT_EQ(entry->id, "7");
+    EXPECT_EQ(entry->kind, EntryKind::Item);
+    EXPECT_EQ(entry->title, "re-mount Data");
+}
+
+TEST_F(AMenuLine, MayBeOfAnyKind) {
+    EXPECT_EQ(entryFrom("1\tchecked\ta")->kind, EntryKind::CheckedItem);
+    EXPECT_EQ(entryFrom("1\ttext\ta")->kind, EntryKind::Text);
+    EXPECT_EQ(entryFrom("1\tseparator\t")->kind, EntryKind::Separator);
+    EXPECT_EQ(entryFrom("\tseparator\t")->kind, EntryKind::Separator);
+}
+
+TEST_F(AMenuLine, KeepsItsIDAndMakesItsTitleFitToBeShown) {
+    const auto entry = entryFrom("\x1b\xff\titem\tA\tB\x1b\xff");
+    ASSERT_TRUE(entry.has_value());
+    EXPECT_EQ(entry->id, "\x1b\xff");
+    EXPECT_EQ(entry->title, "A B\xef\xbf\xbd\xef\xbf\xbd");
+}
+
+class OtherLines : public testing::TestWithParam<const char*> {};
+
+TEST_P(OtherLines, AreNoEntries) {
+    EXPECT_FALSE(entryFrom(GetParam()).has_value());
+}
+
+INSTANTIATE_TEST_SUITE_P(Such, OtherLines,
+                         testing::Values("", "item", "1\titem", "1\tseparator", "1\tItem\ta",
+                                         "1\t\ta", "\titem\ta", "\tchecked\ta", "1\titem\t",
+                                         "1 item a"));
+
+TEST(AMenu, LeavesOutLinesThatAreNoEntries) {
+    std::istringstream lines("1\titem\tone\nnonsense\n\n2\tchecked\ttwo");
+    std::vector<std::string> titles;
+    for (const auto& entry : readEntries(lines))
+        titles.push_back(entry.title);
+    EXPECT_THAT(titles, ElementsAre("one", "two"));
+}
+
+TEST(ALineToTheStarter, TellsWhatHappened) {
+    EXPECT_EQ(shownLine(), "shown\n");
+    EXPECT_EQ(answerLine("12"), "pressed 12\n");
+    EXPECT_EQ(answerLine(std::nullopt), "closed\n");
+}
+
+}  // namespace
+
+}  // namespace brisel::dialog

@@ -1,0 +1,48 @@
+// Texts of others, made fit to be shown.
+// SPDX-License-Identifier: MIT
+#include "tools/dialog/Text.h"
+
+#include <gtest/gtest.h>
+
+namespace brisel::dialog {
+
+namespace {
+
+const std::string Replacement = "\xef\xbf\xbd";
+
+TEST(AText, StaysAsItIsWhenItCanBeShown) {
+    const std::string text = "<b>M\xc3\xa4rz</b> &amp;\n\n\xe6\x97\xa5\xe6\x9c\xac \xd7\xa9 _x%s";
+    EXPECT_EQ(textOf(text), text);
+}
+
+TEST(AText, LosesBytesThatAreNoLetters) {
+    EXPECT_EQ(textOf("a\xff\xc3z"), "a" + Replacement + Replacement + "z");
+    EXPECT_EQ(textOf("cut \xe2\x82"), "cut " + Replacement + Replacement);
+}
+
+TEST(AText, LosesControlCharacters) {
+    EXPECT_EQ(textOf("\x1b[31m\x7f\xc2\x9b"), Replacement + "[31m" + Replacement + Replacement);
+    EXPECT_EQ(textOf(std::string_view("a\0b", 3)), "a" + Replacement + "b");
+    EXPECT_EQ(textOf("a\tb\r\nc"), "a b \nc");
+}
+
+TEST(AText, CannotTurnTheDirectionOfTheTextAroundIt) {
+    EXPECT_EQ(textOf("\xe2\x80\xaa\xe2\x80\xae\xe2\x81\xa6\xe2\x81\xa9"),
+              Replacement + Replacement + Replacement + Replacement);
+    EXPECT_EQ(textOf("\xe2\x80\xa9\xe2\x80\xaf\xe2\x81\xa5\xe2\x81\xaa"),
+              "\xe2\x80\xa9\xe2\x80\xaf\xe2\x81\xa5\xe2\x81\xaa");
+}
+
+TEST(ALine, HasNoLineEnds) {
+    EXPECT_EQ(lineOf("one\ntwo\n"), "one two ");
+}
+
+TEST(AShortenedText, EndsWithAnEllipsisIfSomethingIsMissing) {
+    EXPECT_EQ(shortened("\xc3\xa4\xc3\xb6\xc3\xbc", 3), "\xc3\xa4\xc3\xb6\xc3\xbc");
+    EXPECT_EQ(shortened("\xc3\xa4\xc3\xb6\xc3\xbc.", 3), "\xc3\xa4\xc3\xb6\xe2\x80\xa6");
+    EXPECT_EQ(shortened("", 3), "");
+}
+
+}  // namespace
+
+}  // namespace brisel::dialog

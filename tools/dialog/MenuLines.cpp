@@ -1,0 +1,54 @@
+// The menu that `brisel-dialog` reads from its standard input.
+// SPDX-License-Identifier: MIT
+#include "tools/dialog/MenuLines.h"
+
+#include <algorithm>
+#include <array>
+
+#include "tools/dialog/Text.h"
+
+namespace brisel::dialog {
+
+namespace {
+
+struct NamedKind {
+    std::string_view name;
+    EntryKind kind;
+};
+
+constexpr std::array<NamedKind, 4> Kinds{{{"item", EntryKind::Item},
+                                          {"checked", EntryKind::CheckedItem},
+                                          {"text", EntryKind::Text},
+                                          {"separator", EntryKind::Separator}}};
+
+bool canBeChosen(EntryKind kind) {
+    return kind == EntryKind::Item || kind == EntryKind::CheckedItem;
+}
+
+}  // namespace
+
+std::optional<MenuEntry> entryFrom(std::string_view line) {
+    const auto first = line.find('\t');
+    if (first == std::string_view::npos) return std::nullopt;
+    const auto second = line.find('\t', first + 1);
+    if (second == std::string_view::npos) return std::nullopt;
+    const auto name = line.substr(first + 1, second - first - 1);
+    const auto* kind = std::find_if(Kinds.begin(), Kinds.end(),
+                                    [name](const auto& each) { return each.name == name; });
+    if (kind == Kinds.end()) return std::nullopt;
+    MenuEntry entry{.id = std::string(line.substr(0, first)),
+                    .kind = kind->kind,
+                    .title = lineOf(line.substr(second + 1))};
+    if (canBeChosen(entry.kind) && (entry.id.empty() || entry.title.empty())) return std::nullopt;
+    return entry;
+}
+
+std::vector<MenuEntry> readEntries(std::istream& lines) {
+    std::vector<MenuEntry> entries;
+    for (std::string line; std::getline(lines, line);) {
+        if (auto entry = entryFrom(line)) entries.push_back(std::move(*entry));
+    }
+    return entries;
+}
+
+}  // namespace brisel::dialog

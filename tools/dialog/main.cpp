@@ -1,0 +1,53 @@
+// `brisel-dialog`: shows a window for Brisel, and tells what was chosen.
+// SPDX-License-Identifier: MIT
+#include <gtk/gtk.h>
+
+#include <algorithm>
+#include <iostream>
+#include <span>
+
+#include "tools/dialog/Faces.h"
+#include "tools/dialog/Widgets.h"
+
+namespace {
+
+using namespace brisel::dialog;
+
+enum ExitStatus { Succeeded = 0, Misused = 2, NoDisplay = 3 };
+
+bool openDisplay() {
+    // Nothing here opens files, and GTK would start a service for those of the network.
+    g_setenv("GIO_USE_VFS", "local", TRUE);
+    // By this name a desktop finds the program's entry, and its icon.
+    g_set_prgname(IconName);
+    g_set_application_name("Brisel");
+    // The arguments are ours alone: a text that looks like an option of GTK is a text.
+    if (!gtk_init_check(nullptr, nullptr)) return false;
+    gtk_window_set_default_icon_name(IconName);
+    return true;
+}
+
+struct Showing {
+    Answer operator()(const AlertRequest& request) const { return showAlert(request); }
+    Answer operator()(const AboutRequest& /*request*/) const { return showAbout(); }
+    Answer operator()(const MenuRequest& request) const {
+        return showMenu(request, readEntries(std::cin));
+    }
+};
+
+}  // namespace
+
+int main(int argumentCount, char** words) {
+    const auto request =
+        requestFrom({words + 1, static_cast<std::size_t>(std::max(argumentCount - 1, 0))});
+    if (!request) {
+        std::cerr << Usage;
+        return Misused;
+    }
+    if (!openDisplay()) {
+        std::cerr << "brisel-dialog: there is no display to show a window on.\n";
+        return NoDisplay;
+    }
+    tell(answerLine(std::visit(Showing{}, *request)));
+    return Succeeded;
+}
