@@ -1,0 +1,30 @@
+// A file descriptor that closes itself.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <unistd.h>
+
+#include <utility>
+
+namespace brisel::mounttool {
+
+class Descriptor {
+  public:
+    /// Takes over what open and its like returned, -1 included.
+    explicit Descriptor(int number) : number_(number) {}
+    Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+    Descriptor& operator=(Descriptor&&) = delete;
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (number_ >= 0) close(number_);
+    }
+
+    [[nodiscard]] bool isOpen() const { return number_ >= 0; }
+    [[nodiscard]] int number() const { return number_; }
+
+  private:
+    int number_;
+};
+
+}  // namespace brisel::mounttool

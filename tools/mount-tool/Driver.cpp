@@ -1,0 +1,86 @@
+// The NTFS driver: ntfs-3g and the probe that comes with it.
+// SPDX-License-Identifier: MIT
+#include "tools/mount-tool/Driver.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <vector>
+
+#include "tools/mount-tool/Program.h"
+
+namespace brisel::mounttool {
+
+namespace {
+
+struct Meaning {
+    int status;
+    const char* sentence;
+};
+
+constexpr std::array Meanings{
+    Meaning{SyntaxError, "The NTFS driver did not understand what it was asked."},
+    Meaning{NotNTFS, "The NTFS driver finds no valid NTFS volume on the device."},
+    Meaning{Inconsistent,
+            "The volume is damaged, or the disk is failing: let Windows check it (chkdsk /f), "
+            "then try again."},
+    Meaning{Hibernated,
+            "Windows is hibernated on this volume (or fast start-up left it so): shut Windows down "
+            "fully, then try again."},
+    Meaning{NotCleanlyUnmounted,
+            "The volume was not cleanly unmounted: attach it to Windows and eject it there, then "
+            "try again."},
+    Meaning{InUse, "The volume is in use by another program or already mounted."},
+    Meaning{RAID, "The volume is part of a RAID that is not set up."},
+    Meaning{Unknown, "The NTFS driver failed without saying why."},
+    Meaning{NoPrivilege, "The NTFS driver lacks the rights to mount the volume."},
+    Meaning{OutOfMemory, "There is not enough memory to mount the volume."},
+    Meaning{FUSEError, "FUSE, which the NTFS driver needs, does not work here."},
+};
+
+constexpr std::array ProbePaths{"/usr/bin/ntfs-3g.probe", "/bin/ntfs-3g.probe"};
+constexpr std::array DriverPaths{"/usr/bin/ntfs-3g", "/bin/ntfs-3g"};
+
+// The first of the paths that can be started; none, with `errno`, if none can.
+template <typename Paths>
+std::optional<Ended> runFirst(const Paths& paths, const std::vector<std::string>& arguments) {
+    for (const char* const path : paths) {
+        const auto ended = run(path, arguments);
+        if (!ended) continue;
+        std::fputs(ended->output.c_str(), stdout);
+        if (!ended->output.empty() && !ended->output.ends_with('\n')) std::putchar('\n');
+        return ended;
+    }
+    return std::nullopt;
+}
+
+std::string optionsFor(const Person& person) {
+    return "rw,noatime,nosuid,nodev,norecover,windows_names,uid=" + std::to_string(person.uid) +
+           ",gid=" + std::to_string(person.gid) + ",umask=077";
+}
+
+}  // namespace
+
+std::optional<Refusal> probe(const std::string& device) {
+    const auto ended = runFirst(ProbePaths, {"--readwrite", device});
+    if (!ended || ended->status == 0) return std::nullopt;
+    return refusalFor(ended->status);
+}
+
+std::optional<Refusal> mountWithDriver(const std::string& device, const std::string& folder,
+                                       const Person& person) {
+    const auto ended = runFirst(DriverPaths, {"-o", optionsFor(person), device, folder});
+    if (!ended) return refuseByError("The NTFS driver ntfs-3g cannot be started");
+    if (ended->status == 0) return std::nullopt;
+    return refusalFor(ended->status);
+}
+
+Refusal refusalFor(int driverStatus) {
+    const auto found = std::find_if(Meanings.begin(), Meanings.end(), [&](const Meaning& meaning) {
+        return meaning.status == driverStatus;
+    });
+    return found != Meanings.end() ? Refusal{found->status, found->sentence} : refusalFor(Unknown);
+}
+
+}  // namespace brisel::mounttool

@@ -1,0 +1,109 @@
+// A mount on its way.
+// SPDX-License-Identifier: MIT
+#include "tools/mount-tool/Mount.h"
+
+#include <fcntl.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/statfs.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "tools/mount-tool/Driver.h"
+#include "tools/mount-tool/MountCalls.h"
+
+namespace brisel::mounttool {
+
+namespace {
+
+// Root's alone; goes with whatever is mounted on it. A mount cloned from there stays.
+class StagingFolder {
+  public:
+    StagingFolder() {
+        if (mkdtemp(path_.data()) == nullptr) path_.clear();
+    }
+    StagingFolder(const StagingFolder&) = delete;
+    StagingFolder& operator=(const StagingFolder&) = delete;
+    ~StagingFolder() {
+        if (path_.empty()) return;
+        umount2(path_.c_str(), MNT_DETACH | UMOUNT_NOFOLLOW);
+        rmdir(path_.c_str());
+    }
+
+    /// Empty where there is none.
+    [[nodiscard]] const std::string& path() const { return path_; }
+
+  private:
+    std::string path_ = "/run/brisel-XXXXXX";
+};
+
+Refusal refuseByMountCall(const std::string& sentence) {
+    if (errno == ENOSYS)
+        return refuse("This kernel is too old: the tool needs Linux 5.9 or later.");
+    return refuseByError(sentence);
+}
+
+Refusal disbelieved(const std::string& sentence) {
+    return {Unknown, sentence};
+}
+
+// The name that is free tells nobody anything; one that is taken is not touched.
+bool canCreateFiles(int root) {
+    const auto name = ".brisel-" + std::to_string(getpid());
+    const Descriptor file(openat(root, name.c_str(),
+                                 O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                                 S_IRUSR | S_IWUSR));
+    return file.isOpen() && unlinkat(root, name.c_str(), 0) == 0;
+}
+
+bool isFUSE(int root) {
+    constexpr decltype(statfs::f_type) FUSE = 0x65735546;
+    struct statfs facts {};
+    return fstatfs(root, &facts) == 0 && facts.f_type == FUSE;
+}
+
+bool isOf(int root, const NTFSDevice& device) {
+    struct stat facts {};
+    return fstat(root, &facts) == 0 && facts.st_dev == device.number();
+}
+
+}  // namespace
+
+Result<Mount> Mount::make(const NTFSDevice& device, const Person& person) {
+    const StagingFolder staging;
+    if (staging.path().empty()) return refuseByError("No folder can be made below /run");
+    if (const auto refusal = mountWithDriver(device.path(), staging.path(), person))
+        return *refusal;
+    Descriptor tree(cloneMount(staging.path().c_str()));
+    if (!tree.isOpen()) return refuseByMountCall("The mounted volume cannot be taken over");
+    return Mount(std::move(tree));
+}
+
+std::optional<Refusal> Mount::complaintAs(const NTFSDevice& device) const {
+    const int root = tree_.number();
+    if (!isFUSE(root) || !isOf(root, device))
+        return disbelieved("The NTFS driver has not mounted the volume, though it says so.");
+    struct statvfs facts {};
+    if (fstatvfs(root, &facts) != 0) return refuseByError("The mounted volume cannot be examined");
+    if ((facts.f_flag & ST_RDONLY) != 0)
+        return disbelieved("The NTFS driver can mount the volume read-only, not read-write.");
+    if ((facts.f_flag & ST_NOSUID) == 0 || (facts.f_flag & ST_NODEV) == 0)
+        return disbelieved("The volume was mounted without the protection it needs.");
+    if (!canCreateFiles(root)) return disbelieved("No file can be written to the volume.");
+    return std::nullopt;
+}
+
+std::optional<Refusal> Mount::putOn(const MountFolder& folder, const NTFSDevice& device) const {
+    if (attachMount(tree_.number(), folder.descriptor()) != 0)
+        return refuseByMountCall("The volume cannot be mounted on the mount point");
+    if (folder.shows(device.number())) return std::nullopt;
+    const auto mounted = "/proc/self/fd/" + std::to_string(tree_.number());
+    if (umount2(mounted.c_str(), MNT_DETACH) != 0)
+        return refuseByError("The mount point was moved, and the volume is mounted there");
+    return refuse("The mount point was moved while the volume was being mounted.");
+}
+
+}  // namespace brisel::mounttool

@@ -1,0 +1,89 @@
+// The empty folder in a person's home that a volume is to appear on.
+// SPDX-License-Identifier: MIT
+#include "tools/mount-tool/MountFolder.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <memory>
+#include <optional>
+#include <string_view>
+
+namespace brisel::mounttool {
+
+namespace {
+
+constexpr const char* MountFolders = ".brisel";
+constexpr int Folder = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
+Result<Descriptor> owned(Descriptor folder, const Person& person, const std::string& name) {
+    if (!folder.isOpen()) return refuseByError(name + " is no folder that can be opened");
+    struct stat facts {};
+    if (fstat(folder.number(), &facts) != 0) return refuseByError(name + " cannot be examined");
+    if (facts.st_uid != person.uid) return refuse(name + " belongs to somebody else.");
+    return folder;
+}
+
+std::optional<struct statx> factsOf(int folder) {
+    struct statx facts {};
+    if (statx(folder, "", AT_EMPTY_PATH, STATX_BASIC_STATS | STATX_MNT_ID, &facts) != 0)
+        return std::nullopt;
+    return facts;
+}
+
+// Kernels before 5.8 know no mount ids; there the file system has to do.
+bool isPlainFolderOf(int parent, int folder) {
+    const auto outer = factsOf(parent);
+    const auto inner = factsOf(folder);
+    if (!outer || !inner) return false;
+    const bool sameMount =
+        (inner->stx_mask & STATX_MNT_ID) == 0 || inner->stx_mnt_id == outer->stx_mnt_id;
+    return sameMount && inner->stx_dev_major == outer->stx_dev_major &&
+           inner->stx_dev_minor == outer->stx_dev_minor;
+}
+
+bool isEmpty(int folder) {
+    // A second descriptor, because reading takes it over.
+    const int list = openat(folder, ".", Folder);
+    if (list < 0) return false;
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(fdopendir(list), &closedir);
+    if (!entries) {
+        close(list);
+        return false;
+    }
+    errno = 0;
+    while (const dirent* const entry = readdir(entries.get())) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..") return false;
+    }
+    return errno == 0;
+}
+
+}  // namespace
+
+Result<MountFolder> MountFolder::open(const Person& person, const std::string& label) {
+    auto home = owned(Descriptor(::open(person.home.c_str(), Folder)), person, "The home folder");
+    if (!home) return home.refusal();
+    auto parent = owned(Descriptor(openat(home->number(), MountFolders, Folder | O_NOFOLLOW)),
+                        person, "The folder .brisel");
+    if (!parent) return parent.refusal();
+    auto folder = owned(Descriptor(openat(parent->number(), label.c_str(), Folder | O_NOFOLLOW)),
+                        person, "The mount point");
+    if (!folder) return folder.refusal();
+    if (!isPlainFolderOf(parent->number(), folder->number()))
+        return refuse("Something is mounted on the mount point already.");
+    if (!isEmpty(folder->number())) return refuse("The mount point is not empty.");
+    return MountFolder(std::move(*home), std::move(*folder), label);
+}
+
+bool MountFolder::shows(dev_t fileSystem) const {
+    constexpr int Look = O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    const Descriptor parent(openat(home_.number(), MountFolders, Look));
+    const Descriptor folder(openat(parent.number(), label_.c_str(), Look));
+    struct stat facts {};
+    return parent.isOpen() && folder.isOpen() && fstat(folder.number(), &facts) == 0 &&
+           facts.st_dev == fileSystem;
+}
+
+}  // namespace brisel::mounttool

@@ -1,0 +1,38 @@
+// The person who asked for the mount.
+// SPDX-License-Identifier: MIT
+#include "tools/mount-tool/Person.h"
+
+#include <pwd.h>
+
+#include <charconv>
+#include <optional>
+#include <string_view>
+
+namespace brisel::mounttool {
+
+namespace {
+
+std::optional<uid_t> parseUID(std::string_view text) {
+    constexpr auto NoUser = static_cast<uid_t>(-1);
+    uid_t uid = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, uid);
+    if (error != std::errc() || stop != end || uid == NoUser) return std::nullopt;
+    // Rules out leading zeros; signs and blanks are no digits to from_chars.
+    if (std::to_string(uid) != text) return std::nullopt;
+    return uid;
+}
+
+}  // namespace
+
+Result<Person> whoAsked(const char* pkexecUID) {
+    const auto uid = parseUID(pkexecUID != nullptr ? pkexecUID : "0");
+    if (!uid) return refuse("PKEXEC_UID is not the number of a user.");
+    const passwd* const entry = getpwuid(*uid);
+    if (entry == nullptr) return refuse("The user who asked does not exist.");
+    Person person{entry->pw_uid, entry->pw_gid, entry->pw_dir};
+    if (!person.home.starts_with('/')) return refuse("The user who asked has no home folder.");
+    return person;
+}
+
+}  // namespace brisel::mounttool

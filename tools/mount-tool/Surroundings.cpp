@@ -1,0 +1,67 @@
+// What whoever starts the tool hands down to it.
+// SPDX-License-Identifier: MIT
+#include "tools/mount-tool/Surroundings.h"
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <array>
+#include <climits>
+#include <csignal>
+#include <cstdlib>
+
+namespace brisel::mounttool {
+
+namespace {
+
+bool openStandardDescriptors() {
+    int number = -1;
+    do {
+        number = open("/dev/null", O_RDWR);
+    } while (number >= 0 && number <= STDERR_FILENO);
+    return number >= 0;
+}
+
+bool closeAllOthers() {
+    return syscall(SYS_close_range, STDERR_FILENO + 1, UINT_MAX, 0) == 0;
+}
+
+// A mount is finished or undone, never left in the middle by Ctrl-C or somebody's alarm clock.
+// That children are waited for must not depend on the starter's handling of SIGCHLD either.
+void blockSignals() {
+    std::signal(SIGCHLD, SIG_DFL);
+    sigset_t all;
+    sigfillset(&all);
+    sigprocmask(SIG_SETMASK, &all, nullptr);
+}
+
+// The driver lives on with them: a limit on its time would kill it while it writes.
+void liftLimits() {
+    constexpr std::array Limits{RLIMIT_CPU, RLIMIT_FSIZE, RLIMIT_DATA, RLIMIT_AS};
+    for (const auto limit : Limits) {
+        const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
+        if (setrlimit(limit, &none) == 0) continue;
+        rlimit most{};
+        getrlimit(limit, &most);
+        most.rlim_cur = most.rlim_max;
+        setrlimit(limit, &most);
+    }
+}
+
+}  // namespace
+
+std::optional<Refusal> shakeOffSurroundings() {
+    constexpr mode_t OwnerOnly = 077;
+    if (!openStandardDescriptors()) return refuseByError("/dev/null cannot be opened");
+    if (!closeAllOthers()) return refuseByError("This needs Linux 5.9 or later");
+    blockSignals();
+    liftLimits();
+    umask(OwnerOnly);
+    if (clearenv() != 0 || chdir("/") != 0) return refuseByError("The tool cannot get ready");
+    return std::nullopt;
+}
+
+}  // namespace brisel::mounttool

@@ -1,0 +1,57 @@
+// Mounts an NTFS volume read-write on a folder in ~/.brisel, as root, for the user who asked.
+// SPDX-License-Identifier: MIT
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+
+#include "tools/mount-tool/CommandLine.h"
+#include "tools/mount-tool/Driver.h"
+#include "tools/mount-tool/Mount.h"
+#include "tools/mount-tool/MountFolder.h"
+#include "tools/mount-tool/NTFSDevice.h"
+#include "tools/mount-tool/Person.h"
+#include "tools/mount-tool/Surroundings.h"
+
+namespace brisel::mounttool {
+
+namespace {
+
+// The request's own checks come first, and nothing is mounted before all of them have passed.
+std::optional<Refusal> mount(const Request& request, const char* pkexecUID) {
+    auto person = whoAsked(pkexecUID);
+    if (!person) return person.refusal();
+    auto label = labelOf(request.mountPoint, person->home);
+    if (!label) return label.refusal();
+    auto folder = MountFolder::open(*person, *label);
+    if (!folder) return folder.refusal();
+    auto device = NTFSDevice::open(request.device);
+    if (!device) return device.refusal();
+    if (auto refusal = probe(device->path())) return refusal;
+    auto mounted = Mount::make(*device, *person);
+    if (!mounted) return mounted.refusal();
+    if (auto refusal = mounted->complaintAs(*device)) return refusal;
+    return mounted->putOn(*folder, *device);
+}
+
+std::optional<Refusal> run(int argumentCount, const char* const* arguments) {
+    std::optional<std::string> pkexecUID;
+    if (const char* const value = std::getenv("PKEXEC_UID")) pkexecUID = value;
+    if (auto refusal = shakeOffSurroundings()) return refusal;
+    if (getuid() != 0 || geteuid() != 0) return refuse("This tool must be run by root.");
+    auto request = parseCommandLine(argumentCount, arguments);
+    if (!request) return request.refusal();
+    return mount(*request, pkexecUID ? pkexecUID->c_str() : nullptr);
+}
+
+}  // namespace
+
+}  // namespace brisel::mounttool
+
+int main(int argumentCount, char** arguments) {
+    const auto refusal = brisel::mounttool::run(argumentCount, arguments);
+    if (!refusal) return brisel::mounttool::Mounted;
+    std::puts(refusal->sentence.c_str());
+    return refusal->status;
+}
