@@ -1,0 +1,139 @@
+// Requests that the mount tool must refuse, with root's rights in hand.
+// SPDX-License-Identifier: MIT
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "tests/tools/mount-tool/Stage.h"
+
+namespace brisel::tests {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class RefusedRequest : public MountToolStage {
+  protected:
+    void replaceMountPointByLinkTo(const std::string& target) const {
+        fs::remove(mountPoint());
+        fs::create_symlink(target, mountPoint());
+    }
+
+    void giveAway(const std::string& path) const { ASSERT_EQ(chown(path.c_str(), 1, 1), 0); }
+};
+
+/// A node in /dev that goes with the object.
+class DeviceNode {
+  public:
+    DeviceNode() = default;
+    DeviceNode(const DeviceNode&) = delete;
+    DeviceNode& operator=(const DeviceNode&) = delete;
+    ~DeviceNode() { fs::remove(path_); }
+    [[nodiscard]] const std::string& path() const { return path_; }
+
+  private:
+    std::string path_ = "/dev/brisel-mt" + std::to_string(getpid());
+};
+
+TEST_F(RefusedRequest, IsOneByALinkInPlaceOfTheMountPoint) {
+    const auto mine = brisel() + "/Mine";
+    fs::create_directory(mine);
+    ASSERT_EQ(chown(mine.c_str(), static_cast<uid_t>(std::stoul(user->uid())), 0), 0);
+    for (const auto& target : {mine, std::string("/etc"), folder()}) {
+        replaceMountPointByLinkTo(target);
+        expectRefusal(runTool(), "The mount point is no folder that can be opened");
+    }
+}
+
+TEST_F(RefusedRequest, IsOneByALinkInPlaceOfDotBrisel) {
+    const auto elsewhere = user->home() + "/elsewhere";
+    fs::rename(brisel(), elsewhere);
+    fs::create_directory_symlink(elsewhere, brisel());
+    expectRefusal(runTool(), "The folder .brisel is no folder that can be opened");
+    fs::remove_all(elsewhere);
+}
+
+TEST_F(RefusedRequest, IsOneForAFolderOfSomebodyElse) {
+    giveAway(mountPoint());
+    expectRefusal(runTool(), "The mount point belongs to somebody else.");
+    useLabel("Data");
+    giveAway(brisel());
+    expectRefusal(runTool(), "The folder .brisel belongs to somebody else.");
+    useLabel("Data");
+    const std::string home = user->home();
+    giveAway(home);
+    expectRefusal(runTool(), "The home folder belongs to somebody else.");
+    shell("chown " + user->uid() + " " + home);
+}
+
+TEST_F(RefusedRequest, IsOneForTheHomeOfSomebodyElse) {
+    expectRefusal(runTool("PKEXEC_UID=1"), "must be in .brisel of the asking user's home");
+    expectRefusal(runTool("-u PKEXEC_UID"), "must be in .brisel of the asking user's home");
+}
+
+TEST_F(RefusedRequest, IsOneForAFolderThatIsNotEmpty) {
+    std::ofstream(mountPoint() + "/.hidden") << "here before";
+    expectRefusal(runTool(), "The mount point is not empty.");
+}
+
+TEST_F(RefusedRequest, IsOneForWhatIsNoFolder) {
+    fs::remove(mountPoint());
+    expectRefusal(runTool(), "The mount point is no folder that can be opened");
+    std::ofstream(mountPoint()) << "a file";
+    expectRefusal(runTool(), "The mount point is no folder that can be opened");
+}
+
+TEST_F(RefusedRequest, IsOneForAMountPoint) {
+    const auto bind = "mount --bind " + mountPoint() + " " + mountPoint();
+    const auto other = "mount -t tmpfs -o uid=" + user->uid() + " none " + mountPoint();
+    for (const auto& mount : {bind, other})
+        expectRefusal(runToolAfter(mount), "Something is mounted on the mount point already.");
+}
+
+TEST_F(RefusedRequest, IsOneThatClimbsOutOfDotBrisel) {
+    for (const char* const label : {"..", ".", "", "Data/", "Data/../../.brisel/Data", "a\nb"}) {
+        mountPoint_ = brisel() + "/" + label;
+        expectRefusal(runTool(), "The mount point");
+    }
+}
+
+TEST_F(RefusedRequest, IsOneByNobody) {
+    for (const char* const uid : {"''", "-1", "+0", "0x0", "root", "' 0'", "4294967295"})
+        expectRefusal(runTool(std::string("PKEXEC_UID=") + uid), "PKEXEC_UID is not the number");
+    expectRefusal(runTool("PKEXEC_UID=4294967213"), "The user who asked does not exist.");
+}
+
+TEST_F(RefusedRequest, IsOneWithoutRootsRights) {
+    expectRefusal(runTool(user->runs()), "This tool must be run by root.");
+    expectRefusal(runTool("setpriv --ruid " + user->uid() + " --euid 0"),
+                  "This tool must be run by root.");
+}
+
+TEST_F(RefusedRequest, IsOneForWhatIsNoBlockDevice) {
+    const DeviceNode node;
+    device_ = "/dev/null";
+    expectRefusal(runTool(), "The device is not a block device.");
+    device_ = node.path();
+    expectRefusal(runTool(), "The device cannot be found");
+    fs::create_symlink(image().device(), node.path());
+    expectRefusal(runTool(), "The device is not a block device.");
+    fs::remove(node.path());
+    fs::copy_file(folder() + "/volume.img", node.path());
+    expectRefusal(runTool(), "The device is not a block device.");
+    fs::remove(node.path());
+    ASSERT_EQ(mkfifo(node.path().c_str(), S_IRUSR), 0);
+    expectRefusal(runTool(), "The device is not a block device.");
+}
+
+TEST_F(RefusedRequest, IsOneForADeviceWithoutNTFS) {
+    shell("dd if=/dev/zero of=" + device_ + " bs=512 count=1 oflag=sync");
+    expectNothingMounted(runTool(), 12, "There is no NTFS volume on the device.");
+    shell("printf '...NTFS    ' | dd of=" + device_ + " conv=notrunc oflag=sync");
+    expectNothingMounted(runTool(), 12, "There is no NTFS volume on the device.");
+}
+
+}  // namespace
+
+}  // namespace brisel::tests

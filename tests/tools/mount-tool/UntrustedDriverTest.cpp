@@ -1,0 +1,137 @@
+// Drivers whose word the mount tool must not take, and users who move folders under its feet.
+// SPDX-License-Identifier: MIT
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <filesystem>
+#include <thread>
+
+#include "tests/tools/mount-tool/OldKernel.h"
+#include "tests/tools/mount-tool/Stage.h"
+
+namespace brisel::tests {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class UntrustedDriver : public MountToolStage {
+  protected:
+    void SetUp() override {
+        MountToolStage::SetUp();
+        shell("cp /usr/bin/ntfs-3g " + realDriver());
+    }
+
+    [[nodiscard]] std::string realDriver() const { return folder() + "/real-driver"; }
+
+    /// The tool with a driver that is this script; its device is $3, its folder $4.
+    [[nodiscard]] Run runWithDriver(const std::string& script) const {
+        return runToolAfter(replace("/usr/bin/ntfs-3g", script));
+    }
+};
+
+TEST_F(UntrustedDriver, ThatMountsNothingIsNotBelieved) {
+    expectNothingMounted(runWithDriver("exit 0"), 18, "has not mounted the volume");
+}
+
+TEST_F(UntrustedDriver, ThatMountsReadOnlyIsNotBelieved) {
+    expectNothingMounted(runWithDriver("exec " + realDriver() + " -o ro,nosuid,nodev $3 $4"), 18,
+                         "read-only, not read-write");
+}
+
+TEST_F(UntrustedDriver, ThatMountsSomethingElseIsNotBelieved) {
+    expectNothingMounted(runWithDriver("exec mount -t tmpfs none $4"), 18, "has not mounted");
+    const TemporaryFolder otherFolder;
+    NTFSImage other(otherFolder.path(), "Other");
+    other.attach();
+    expectNothingMounted(runWithDriver("exec " + realDriver() + " " + other.device() + " $4"), 18,
+                         "has not mounted");
+}
+
+TEST_F(UntrustedDriver, ThatLeavesOutTheProtectionIsNotBelieved) {
+    expectNothingMounted(runWithDriver("exec " + realDriver() + " -o rw,nodev $3 $4"), 18,
+                         "without the protection");
+    expectNothingMounted(runWithDriver("exec " + realDriver() + " -o rw,nosuid $3 $4"), 18,
+                         "without the protection");
+}
+
+TEST_F(UntrustedDriver, ThatFailsPassesOnItsStatusOrUnknown) {
+    expectNothingMounted(runWithDriver("exit 16"), 16, "in use");
+    expectNothingMounted(runWithDriver("exit 21"), 21, "FUSE");
+    expectNothingMounted(runWithDriver("exit 99"), 18, "without saying why");
+    expectNothingMounted(runWithDriver("kill -9 $$"), 18, "without saying why");
+    expectNothingMounted(runToolAfter("mount --bind /etc/passwd /usr/bin/ntfs-3g"), 1,
+                         "cannot be started");
+}
+
+TEST_F(UntrustedDriver, ThatTalksTooMuchIsCutOffAndCleaned) {
+    const auto run =
+        runWithDriver("printf '\\033[2Jred\\r\\001\\n'; yes | head -c 2000000; exit 13");
+    EXPECT_EQ(run.status, 13);
+    EXPECT_EQ(run.output.find("?[2Jred??\n"), 0U);
+    EXPECT_LT(run.output.size(), 70000U);
+    EXPECT_NE(run.output.find("chkdsk"), std::string::npos);
+}
+
+TEST_F(UntrustedDriver, ThatStaysWithItsOutputOpenHoldsNobodyUp) {
+    const auto note = folder() + "/process";
+    const auto run = runWithDriver("sleep 600 & echo $! >" + note + "; echo waiting >&2; exit 21");
+    expectNothingMounted(run, 21, "waiting\nFUSE");
+    EXPECT_TRUE(succeeds("kill $(cat " + note + ")"));
+}
+
+TEST_F(UntrustedDriver, IsUnmountedAgainWhereTheKernelCannotMoveMounts) {
+    const auto self = fs::read_symlink("/proc/self/exe").string();
+    expectNothingMounted(runTool(self + " " + std::string(OldKernelMode)), 1, "kernel is too old");
+}
+
+TEST_F(UntrustedDriver, IsEnoughWithoutItsProbe) {
+    const auto run = runToolAfter("mount --bind /etc/passwd /usr/bin/ntfs-3g.probe");
+    EXPECT_EQ(run.status, 0) << run.output;
+}
+
+TEST_F(UntrustedDriver, IsUnmountedAgainWhereTheFolderWasMovedMeanwhile) {
+    const auto moved = user->home() + "/moved";
+    const auto run = runWithDriver("mv " + mountPoint() + " " + moved + "; mkdir " + mountPoint() +
+                                   "; exec " + realDriver() + " \"$@\"");
+    expectNothingMounted(run, 1, "The mount point was moved");
+    fs::remove(moved);
+}
+
+// Swaps the mount point with a link for as long as it lives.
+class Swapper {
+  public:
+    Swapper(std::string one, std::string other)
+        : thread_([this, one = std::move(one), other = std::move(other)] {
+              while (!done_)
+                  renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE);
+          }) {}
+    Swapper(const Swapper&) = delete;
+    Swapper& operator=(const Swapper&) = delete;
+    ~Swapper() {
+        done_ = true;
+        thread_.join();
+    }
+
+  private:
+    std::atomic<bool> done_ = false;
+    std::thread thread_;
+};
+
+TEST_F(UntrustedDriver, NeverMountsElsewhereHoweverOftenTheFolderIsSwapped) {
+    constexpr int Rounds = 40;
+    const auto link = brisel() + "/link";
+    fs::create_directory_symlink(folder(), link);
+    const Swapper swapper(mountPoint(), link);
+    for (int round = 0; round < Rounds; ++round) {
+        const auto run = runTool();
+        EXPECT_EQ(mounted(), run.status == 0 ? mountPoint() : "") << run.output;
+        EXPECT_TRUE(run.status == 0 || run.status == 1) << run.status << run.output;
+        shell("umount " + image().device());
+    }
+}
+
+}  // namespace
+
+}  // namespace brisel::tests
