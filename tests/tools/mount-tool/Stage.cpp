@@ -51,8 +51,8 @@ void MountToolStage::TearDown() {
     fs::remove_all(brisel());
 }
 
-Run MountToolStage::runTool(const std::string& before) const {
-    const auto command = "env -i PATH=\"$PATH\" PKEXEC_UID=" + user->uid() + " " + before +
+Outcome MountToolStage::runTool(const std::string& before) const {
+    const auto command = "env -i PATH=\"$PATH\" PKEXEC_UID=" + user->uid() + " env " + before +
                          " timeout --signal KILL 60 " BRISEL_MOUNT_TOOL
                          " -o rw,auto,nobrowse,noowners,noatime " +
                          quoted(device_) + " " + quoted(mountPoint_);
@@ -64,8 +64,13 @@ Run MountToolStage::runTool(const std::string& before) const {
     return {std::stoi(text.substr(statusLine + 1)), output};
 }
 
-Run MountToolStage::runToolAfter(const std::string& commands) const {
-    return runTool("unshare --mount sh -c " + quoted(commands + "; exec \"$@\"") + " sh");
+Outcome MountToolStage::runToolAfter(const std::string& commands) const {
+    // Mounts made there are seen there alone.
+    const auto leftovers =
+        "grep -e ' " + image_->device() + " ' -e /run/brisel- /proc/self/mountinfo";
+    const auto script = commands + "; \"$@\"; status=$?; " + leftovers + " | sed 's/^/" +
+                        LeftMounted + "/'; exit $status";
+    return runTool("unshare --mount sh -c " + quoted(script) + " sh");
 }
 
 std::string MountToolStage::replace(const std::string& program, const std::string& script) const {
@@ -85,15 +90,19 @@ std::string MountToolStage::mounted(const std::string& field) const {
     return shell("findmnt --noheadings --output " + field + " --source " + image_->device());
 }
 
-void MountToolStage::expectNothingMounted(const Run& run, int status,
+void MountToolStage::expectNothingMounted(const Outcome& run, int status,
                                           const std::string& sentence) const {
     EXPECT_EQ(run.status, status) << run.output;
     EXPECT_NE(run.output.find(sentence), std::string::npos) << run.output;
+    EXPECT_EQ(run.output.find(LeftMounted), std::string::npos) << run.output;
     EXPECT_EQ(mounted(), "");
     EXPECT_EQ(shell("ls -d /run/brisel-?????? 2>/dev/null"), "");
+    EXPECT_TRUE(succeeds("for i in $(seq 100); do pgrep --full '" + image_->device() +
+                         " /run/brisel-' || exit 0; sleep 0.1; done; exit 1"))
+        << "a driver still runs";
 }
 
-void MountToolStage::expectRefusal(const Run& run, const std::string& sentence) const {
+void MountToolStage::expectRefusal(const Outcome& run, const std::string& sentence) const {
     expectNothingMounted(run, 1, sentence);
     EXPECT_EQ(run.output.find('\n'), std::string::npos) << run.output;
 }

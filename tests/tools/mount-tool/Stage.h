@@ -36,7 +36,7 @@ class TestUser {
 };
 
 /// How a run of the tool ended.
-struct Run {
+struct Outcome {
     int status = 0;
     std::string output;
 };
@@ -47,14 +47,17 @@ class MountToolStage : public testing::Test {
     static const TestUser* user;
 
   protected:
+    static constexpr const char* LeftMounted = "left mounted: ";
+
     void SetUp() override;
     void TearDown() override;
 
     /// Runs the tool as if the user had asked by pkexec. `before` goes before the command: more of
     /// the environment, or a program that starts the tool.
-    Run runTool(const std::string& before = "") const;
-    /// The same where other files, by `shell commands`, lie over the machine's own.
-    Run runToolAfter(const std::string& commands) const;
+    Outcome runTool(const std::string& before = "") const;
+    /// The same in mounts of its own, which shell commands change first. What is still mounted
+    /// there when the tool has ended follows its output, `LeftMounted` before each line.
+    Outcome runToolAfter(const std::string& commands) const;
     /// Bind-mounts a shell script over a program; a command for `runToolAfter`.
     [[nodiscard]] std::string replace(const std::string& program, const std::string& script) const;
 
@@ -68,8 +71,8 @@ class MountToolStage : public testing::Test {
     [[nodiscard]] std::string mounted(const std::string& field = "TARGET") const;
 
     /// Refused for the request's own sake: by this sentence, and nothing is left of it.
-    void expectRefusal(const Run& run, const std::string& sentence) const;
-    void expectNothingMounted(const Run& run, int status, const std::string& sentence) const;
+    void expectRefusal(const Outcome& run, const std::string& sentence) const;
+    void expectNothingMounted(const Outcome& run, int status, const std::string& sentence) const;
 
     std::string device_;
     std::string mountPoint_;

@@ -26,7 +26,7 @@ class UntrustedDriver : public MountToolStage {
     [[nodiscard]] std::string realDriver() const { return folder() + "/real-driver"; }
 
     /// The tool with a driver that is this script; its device is $3, its folder $4.
-    [[nodiscard]] Run runWithDriver(const std::string& script) const {
+    [[nodiscard]] Outcome runWithDriver(const std::string& script) const {
         return runToolAfter(replace("/usr/bin/ntfs-3g", script));
     }
 };
@@ -89,6 +89,7 @@ TEST_F(UntrustedDriver, IsUnmountedAgainWhereTheKernelCannotMoveMounts) {
 TEST_F(UntrustedDriver, IsEnoughWithoutItsProbe) {
     const auto run = runToolAfter("mount --bind /etc/passwd /usr/bin/ntfs-3g.probe");
     EXPECT_EQ(run.status, 0) << run.output;
+    EXPECT_NE(run.output.find(mountPoint()), std::string::npos) << run.output;
 }
 
 TEST_F(UntrustedDriver, IsUnmountedAgainWhereTheFolderWasMovedMeanwhile) {

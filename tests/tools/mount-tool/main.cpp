@@ -17,7 +17,7 @@ std::string reasonToSkip() {
     const std::string scripts = BRISEL_SCRIPTS;
     auto reason = shell(scripts + "/real-volumes-possible");
     for (const char* const tool :
-         {"useradd", "userdel", "setpriv", "unshare", "findmnt", "ntfscp"}) {
+         {"useradd", "userdel", "setpriv", "unshare", "findmnt", "ntfscp", "pgrep", "python3"}) {
         if (reason.empty() && !succeeds(std::string("command -v ") + tool))
             reason = std::string("there is no ") + tool;
     }
