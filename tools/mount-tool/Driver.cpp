@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/Driver.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -46,7 +45,7 @@ constexpr std::array DriverPaths{"/usr/bin/ntfs-3g", "/bin/ntfs-3g"};
 template <typename Paths>
 std::optional<Ended> runFirst(const Paths& paths, const std::vector<std::string>& arguments) {
     for (const char* const path : paths) {
-        const auto ended = run(path, arguments);
+        auto ended = run(path, arguments);
         if (!ended) continue;
         std::fputs(ended->output.c_str(), stdout);
         if (!ended->output.empty() && !ended->output.ends_with('\n')) std::putchar('\n');
@@ -77,10 +76,10 @@ std::optional<Refusal> mountWithDriver(const std::string& device, const std::str
 }
 
 Refusal refusalFor(int driverStatus) {
-    const auto found = std::find_if(Meanings.begin(), Meanings.end(), [&](const Meaning& meaning) {
-        return meaning.status == driverStatus;
-    });
-    return found != Meanings.end() ? Refusal{found->status, found->sentence} : refusalFor(Unknown);
+    for (const auto& meaning : Meanings) {
+        if (meaning.status == driverStatus) return {meaning.status, meaning.sentence};
+    }
+    return refusalFor(Unknown);
 }
 
 }  // namespace brisel::mounttool

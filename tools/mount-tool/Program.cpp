@@ -73,12 +73,11 @@ class StartConditions {
     posix_spawnattr_t attributes_{};
 };
 
-// Pointers for exec, which promises not to write through them.
-std::vector<char*> pointersTo(const std::vector<std::string>& words) {
+std::vector<char*> pointersTo(std::vector<std::string>& words) {
     std::vector<char*> pointers;
     pointers.reserve(words.size() + 1);
-    for (const auto& word : words)
-        pointers.push_back(const_cast<char*>(word.c_str()));
+    for (auto& word : words)
+        pointers.push_back(word.data());
     pointers.push_back(nullptr);
     return pointers;
 }
@@ -99,7 +98,7 @@ std::optional<Ended> run(const std::string& path, const std::vector<std::string>
     const StartConditions conditions(output.number());
     std::vector<std::string> words{path};
     words.insert(words.end(), arguments.begin(), arguments.end());
-    const std::vector<std::string> environment{"PATH=/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL=C"};
+    std::vector<std::string> environment{"PATH=/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL=C"};
     pid_t process = 0;
     errno = posix_spawn(&process, path.c_str(), conditions.descriptors(), conditions.attributes(),
                         pointersTo(words).data(), pointersTo(environment).data());

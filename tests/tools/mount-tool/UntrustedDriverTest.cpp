@@ -100,6 +100,14 @@ TEST_F(UntrustedDriver, IsUnmountedAgainWhereTheFolderWasMovedMeanwhile) {
     fs::remove(moved);
 }
 
+TEST_F(UntrustedDriver, IsWaitedForWhateverSignalsAreSentMeanwhile) {
+    const auto run =
+        runWithDriver("for s in INT TERM HUP QUIT ALRM PIPE XCPU; do kill -$s $PPID; done; exec " +
+                      realDriver() + " \"$@\"");
+    EXPECT_EQ(run.status, 0) << run.output;
+    EXPECT_NE(run.output.find(mountPoint()), std::string::npos) << run.output;
+}
+
 // Swaps the mount point with a link for as long as it lives.
 class Swapper {
   public:

@@ -1,5 +1,5 @@
-// The mount tool's tests on real volumes: one program, which says in a line why it can test
-// nothing. SPDX-License-Identifier: MIT
+// The mount tool's tests on real volumes; says in one line why it can test nothing.
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include <iostream>
