@@ -128,10 +128,13 @@ TEST_F(RefusedRequest, IsOneForWhatIsNoBlockDevice) {
 }
 
 TEST_F(RefusedRequest, IsOneForADeviceWithoutNTFS) {
-    shell("dd if=/dev/zero of=" + device_ + " bs=512 count=1 oflag=sync");
-    expectNothingMounted(runTool(), 12, "There is no NTFS volume on the device.");
-    shell("printf '...NTFS    ' | dd of=" + device_ + " conv=notrunc oflag=sync");
-    expectNothingMounted(runTool(), 12, "There is no NTFS volume on the device.");
+    const std::string sentence = "There is no NTFS volume on the device.";
+    shell("printf 'NOTFS   ' | dd of=" + device_ + " bs=1 seek=3 oflag=sync");
+    expectNothingMounted(runTool(), 12, sentence);
+    shell("printf 'NTFS    ' | dd of=" + device_ + " bs=1 seek=3 oflag=sync");
+    EXPECT_EQ(runTool().status, 0);
+    shell("umount " + device_ + "; printf '\\0' | dd of=" + device_ + " bs=1 seek=511 oflag=sync");
+    expectNothingMounted(runTool(), 12, sentence);
 }
 
 }  // namespace
