@@ -56,21 +56,33 @@ void UDisksObjects::connect() {
         tryAgain(error.message());
         return;
     }
-    udisks_object_manager_client_new(connection.get(), G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_NONE,
-                                     BusName, ObjectPath, cancellable_.get(),
-                                     &UDisksObjects::finishConnect, this);
+    // The service is started first, if the bus can start it, so that nobody waits for its start.
+    g_dbus_connection_call(connection.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus",
+                           "org.freedesktop.DBus", "StartServiceByName",
+                           g_variant_new("(su)", BusName, 0), nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
+                           cancellable_.get(), &UDisksObjects::finishStart, this);
 }
 
-void UDisksObjects::finishConnect(GObject* /*source*/, GAsyncResult* result, gpointer self) {
+void UDisksObjects::finishStart(GObject* connection, GAsyncResult* result, gpointer self) {
     CallError error;
-    auto* const objects = udisks_object_manager_client_new_finish(result, error.receive());
+    const OwnedVariant answer(
+        g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, error.receive()));
     // Then the asking object has gone.
     if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE) return;
-    auto& asking = *static_cast<UDisksObjects*>(self);
+    static_cast<UDisksObjects*>(self)->fetch(G_DBUS_CONNECTION(connection));
+}
+
+// At once, though there is an asynchronous way: that one sets the objects up in a thread of GLib's,
+// and their signals would come in whatever thread serves the default main context.
+void UDisksObjects::fetch(GDBusConnection* connection) {
+    CallError error;
+    auto* const objects = udisks_object_manager_client_new_sync(
+        connection, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_DO_NOT_AUTO_START, BusName, ObjectPath,
+        cancellable_.get(), error.receive());
     if (objects != nullptr) {
-        asking.watch(objects);
+        watch(objects);
     } else {
-        asking.tryAgain(error.message());
+        tryAgain(error.message());
     }
 }
 

@@ -35,12 +35,13 @@ class UDisksObjects {
 
   private:
     void connect();
+    void fetch(GDBusConnection* connection);
     void watch(GDBusObjectManager* objects);
     void disconnect();
     void tryAgain(const std::string& reason);
     void noteOwner();
     void askForRestart() const;
-    static void finishConnect(GObject* source, GAsyncResult* result, gpointer self);
+    static void finishStart(GObject* connection, GAsyncResult* result, gpointer self);
 
     platform::SystemLog& log_;
     Changed changed_;
