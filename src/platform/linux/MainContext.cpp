@@ -76,6 +76,9 @@ OwnMainLoop::OwnMainLoop()
 }
 
 OwnMainLoop::~OwnMainLoop() {
+    // What has been ended here (subscriptions to signals, say) is freed by the loop.
+    while (g_main_context_iteration(context_, FALSE) != FALSE) {
+    }
     g_main_context_pop_thread_default(context_);
     g_main_loop_unref(loop_);
     g_main_context_unref(context_);
