@@ -1,0 +1,103 @@
+# Notifications: a server that shows them to the stage, and the hand on the desktop's own.
+# SPDX-License-Identifier: MIT
+from dataclasses import dataclass
+
+from . import bus
+from .session import NOTIFICATIONS
+from .waiting import NeverHappened, wait_for
+
+PATH = "/org/freedesktop/Notifications"
+DISMISSED = 2
+CLOSED = 3
+
+
+@dataclass
+class Notification:
+    """What was asked to be shown."""
+
+    id: int
+    summary: str
+    body: str
+    actions: dict
+    replaced: int
+    hints: dict
+
+
+class NotificationServer(bus.Service):
+    """Takes what is posted; the stage presses the buttons."""
+
+    XML = """<node><interface name="org.freedesktop.Notifications">
+      <method name="Notify">
+        <arg type="s" direction="in"/><arg type="u" direction="in"/>
+        <arg type="s" direction="in"/><arg type="s" direction="in"/>
+        <arg type="s" direction="in"/><arg type="as" direction="in"/>
+        <arg type="a{sv}" direction="in"/><arg type="i" direction="in"/>
+        <arg type="u" direction="out"/></method>
+      <method name="CloseNotification"><arg type="u" direction="in"/></method>
+      <method name="GetCapabilities"><arg type="as" direction="out"/></method>
+      <method name="GetServerInformation"><arg type="s" direction="out"/>
+        <arg type="s" direction="out"/><arg type="s" direction="out"/>
+        <arg type="s" direction="out"/></method>
+      <signal name="ActionInvoked"><arg type="u"/><arg type="s"/></signal>
+      <signal name="NotificationClosed"><arg type="u"/><arg type="u"/></signal>
+    </interface></node>"""
+
+    def __init__(self, address):
+        # A connection of its own, so that going away looks like the end of a server.
+        super().__init__(bus.connect(address), PATH)
+        self.posted = []
+        self._last_id = 0
+        bus.own_name(self.connection, NOTIFICATIONS)
+
+    def close(self):
+        self.connection.close_sync()
+
+    # Named, and with parameters, as the bus has them. pylint: disable=invalid-name
+    # pylint: disable=too-many-arguments
+    def Notify(self, _application, replaces, _icon, summary, body, actions, hints, _timeout):
+        self._last_id = replaces or self._last_id + 1
+        buttons = dict(zip(actions[::2], actions[1::2]))
+        self.posted.append(Notification(self._last_id, summary, body, buttons, replaces, hints))
+        return (self._last_id,)
+
+    def CloseNotification(self, number):
+        self._closed(number, CLOSED)
+        return ()
+
+    def GetCapabilities(self):
+        return (["actions", "body", "sound"],)
+
+    def GetServerInformation(self):
+        return ("stage", "Brisel", "1", "1.2")
+
+    def _closed(self, number, reason):
+        self.emit(NOTIFICATIONS, "NotificationClosed", "(uu)", number, reason)
+
+    def wait_for(self, summary, after=0):
+        """The notification with that summary, the first `after` posted ones not counting."""
+        def find():
+            return next((one for one in self.posted[after:] if one.summary == summary), None)
+        try:
+            return wait_for(find, f'"{summary}" is posted')
+        except NeverHappened as problem:
+            raise NeverHappened(f"{problem}; posted were {self.posted}") from None
+
+    def press(self, notification, action):
+        """Presses the button with that action, upon which the notification goes."""
+        if action not in notification.actions:
+            raise AssertionError(f"{notification} has no button for {action}")
+        self.emit(NOTIFICATIONS, "ActionInvoked", "(us)", notification.id, action)
+        self._closed(notification.id, DISMISSED)
+
+
+class NotificationWindow:
+    """The pop-up of the desktop's own server."""
+
+    def __init__(self, session):
+        self._session = session
+
+    def wait_until_shown(self):
+        """Left, top, width and height of the pop-up."""
+        window = wait_for(lambda: self._session.windows("--class", "xfce4-notifyd"),
+                          "a notification is on the screen")[-1]
+        return self._session.geometry(window)

@@ -1,0 +1,179 @@
+# The whole stage: who plays, on what machine, with which program.
+# SPDX-License-Identifier: MIT
+import fcntl
+import os
+import shutil
+import subprocess
+import tempfile
+from contextlib import ExitStack, closing
+
+from . import agents, services
+from .account import make_account, own_account
+from .brisel import Alerts, Brisel, Preferences
+from .bus import Answers, PrivateBus
+from .mocked_disks import DiskService, MockedStick
+from .notifications import NotificationServer
+from .portal import LIGHT, SettingsPortal
+from .session import Session, notification_server_program
+from .sticks import Stick
+
+SYSTEM_PATH = "/usr/local/bin:/usr/bin:/bin:/usr/local/sbin:/usr/sbin:/sbin"
+LOCK = "brisel-stage.lock"
+FOLDER = "brisel-stage-"
+DESKTOP_PROGRAMS = ("Xvfb", "xfce4-panel", "dbus-daemon", "xdotool", "xprop",
+                    "import", "setpriv")
+
+
+def obstacle_to_desktop():
+    """What this machine lacks for any desktop; None if nothing."""
+    for program in DESKTOP_PROGRAMS:
+        if not shutil.which(program, path=SYSTEM_PATH):
+            return f"there is no {program}"
+    if not notification_server_program():
+        return "there is no xfce4-notifyd"
+    if os.path.exists("/sbin/mount_ntfs") and not os.path.exists(services.INSTALLED_MARK):
+        return "/sbin/mount_ntfs is installed, and Brisel would use it where it must not"
+    return None
+
+
+def obstacle_to_real_disks():
+    """Why no real volume can be used here; None if it can."""
+    script = os.path.join(services.ROOT, "scripts", "real-volumes-possible")
+    result = subprocess.run([script], capture_output=True, text=True, check=False)
+    return result.stdout.strip() if result.returncode else None
+
+
+class Stage:
+    """Brings everything up, and takes it down by `close`."""
+
+    def __init__(self, programs, mocked):
+        self.programs = os.path.realpath(programs)
+        self.mocked = mocked
+        self.disk_service = None
+        self._bus_of_disks = None
+        self.notifications = None
+        self.sticks = []
+        self._story = ExitStack()
+        self._cleanup = ExitStack()
+        try:
+            self._bring_up()
+        except BaseException:
+            self.close()
+            raise
+
+    def _bring_up(self):
+        self._wait_for_other_stages()
+        self.folder = self._make_folder()
+        self.account = self._make_account()
+        self._cleanup.enter_context(closing(Answers()))
+        address = self._mock_machine() if self.mocked else self._prepare_machine()
+        path = f"{self.programs}:{SYSTEM_PATH}"
+        self.session = Session(self.folder, self.account, path, self._cleanup, address)
+        if not self.mocked:
+            services.grant_rights(self.session.x_server.pid, self._cleanup)
+        self.portal = SettingsPortal(self.session.connection)
+        self.preferences = Preferences(self.account)
+        self.alerts = Alerts(self.session)
+        self._cleanup.callback(self.end_story)
+
+    def close(self):
+        self._cleanup.close()
+
+    def _wait_for_other_stages(self):
+        """One stage a machine and account: its files have fixed names."""
+        folder = "/run" if os.geteuid() == 0 else tempfile.gettempdir()
+        name = LOCK if os.geteuid() == 0 else f"{os.geteuid()}-{LOCK}"
+        lock = self._cleanup.enter_context(
+            open(os.path.join(folder, name), "w", encoding="ascii"))
+        fcntl.flock(lock, fcntl.LOCK_EX)
+
+    def _make_folder(self):
+        folder = tempfile.mkdtemp(prefix=FOLDER)
+        self._cleanup.callback(shutil.rmtree, folder, ignore_errors=True)
+        os.chmod(folder, 0o755)
+        return folder
+
+    def _make_account(self):
+        account = own_account(self.folder) if os.geteuid() else \
+            make_account(self.folder, self._cleanup)
+        account.owns(self.folder)
+        return account
+
+    def _prepare_machine(self):
+        services.remove_leftovers()
+        services.start_disk_services(self._cleanup)
+        self._images = os.path.join(self.folder, "images")
+        os.mkdir(self._images)
+        services.announce_sticks(self._images, self._cleanup)
+        return None
+
+    def _mock_machine(self):
+        bus = PrivateBus("system", self.folder, self.account, dict(os.environ))
+        self._cleanup.callback(bus.program.stop)
+        self._bus_of_disks = bus.address
+        self.start_disk_service()
+        return bus.address
+
+    def start_disk_service(self):
+        """The mocked disk service, with the sticks that are attached."""
+        self.disk_service = DiskService(self._bus_of_disks)
+        for stick in self.sticks:
+            if stick.node:
+                stick.serve()
+        self.disk_service.open()
+
+    def stop_disk_service(self):
+        self.disk_service.close()
+
+    def begin_story(self):
+        """A desktop at rest: light, nothing attached, the notice read, no notification."""
+        self.portal.choose(LIGHT)
+        self.preferences.write(showDisclaimer="false")
+        self.session.forget_folders_shown()
+        self.start_notification_mock()
+        if not self.session.panel:
+            self.session.start_panel()
+
+    def end_story(self):
+        """Undoes what the story has left."""
+        self.sticks = []
+        self._story.close()
+        self.session.stop_notification_server()
+
+    def start_notification_mock(self):
+        self.stop_notifications()
+        self.notifications = NotificationServer(self.session.bus.address)
+        self._story.callback(self.stop_notifications)
+
+    def stop_notifications(self):
+        """Leaves the desktop without a notification server."""
+        if self.notifications:
+            self.notifications.close()
+        self.notifications = None
+        self.session.stop_notification_server()
+
+    def start_brisel(self):
+        return Brisel(self.session, self.programs, self._story)
+
+    def new_stick(self, label):
+        """A stick with one NTFS volume, not attached yet."""
+        if self.mocked:
+            stick = MockedStick(self, label, self._story)
+        else:
+            stick = Stick(self._images, label, self._story)
+        self.sticks.append(stick)
+        return stick
+
+    def password_prompt(self, pid):
+        return agents.PasswordPrompt(self.session, pid, self._story)
+
+    def silent_dialog(self, pid):
+        return agents.SilentDialog(pid, self._story)
+
+    def install_mount_tool(self):
+        """Puts the mount tool in its place for this story; None, or why that cannot be."""
+        built = os.path.join(self.programs, "mount_ntfs")
+        obstacle = services.obstacle_to_mount_tool(built)
+        if not obstacle:
+            services.install_mount_tool(built, self._story)
+        return obstacle

@@ -1,0 +1,100 @@
+# Sticks: NTFS volumes in image files, attached, mounted, pulled and looked into.
+# SPDX-License-Identifier: MIT
+import os
+import subprocess
+
+from .programs import run
+from .waiting import wait_for
+
+PAGE = 4096
+
+
+def mounts_of(device):
+    """Mount point and whether it is read-write, of each mount of a device, by the kernel."""
+    found = []
+    with open("/proc/self/mountinfo", encoding="utf-8") as table:
+        for line in table:
+            before, after = line.split(" - ", 1)
+            if after.split()[1] != device:
+                continue
+            fields = before.split()
+            options = {*fields[5].split(","), *after.split()[2].split(",")}
+            found.append((unescaped(fields[4]), "ro" not in options))
+    return found
+
+
+def unescaped(path):
+    return path.encode().decode("unicode_escape").encode("latin-1").decode()
+
+
+class Stick:
+    """A volume in an image file in `folder`."""
+
+    def __init__(self, folder, label, cleanup):
+        self.label = label
+        self.image = os.path.join(folder, f"{len(os.listdir(folder))}.img")
+        self.device = None
+        with open(self.image, "wb") as file:
+            file.truncate(8 << 20)
+        run("mkntfs", "-F", "-q", "-L", label, self.image)
+        cleanup.callback(self._throw_away)
+
+    def _throw_away(self):
+        self.pull()
+        os.remove(self.image)
+
+    @property
+    def node(self):
+        """The device's name without its folder, as the program has it."""
+        return os.path.basename(self.device)
+
+    def attach(self):
+        self.device = run("losetup", "--find", "--show", self.image)
+        # What happens next is for the tests to wait for; but a device that is pulled while udev
+        # still looks at it stays attached.
+        run("udevadm", "settle")
+
+    def pull(self):
+        """Takes the stick out, without asking whether it is mounted."""
+        if not self.device:
+            return
+        run("losetup", "-d", self.device)
+        while mounts_of(self.device):
+            run("umount", "--lazy", mounts_of(self.device)[0][0])
+        wait_for(lambda: not self._is_attached(), f"{self.device} lets go of its image")
+        self.device = None
+
+    def _is_attached(self):
+        return bool(run("losetup", "--associated", self.image))
+
+    def mounts(self):
+        return mounts_of(self.device)
+
+    def wait_until_writable(self):
+        """The folder where the stick is mounted read-write."""
+        def folder():
+            return next((place for place, writable in self.mounts() if writable), None)
+        return wait_for(folder, f"{self.label} is mounted read-write")
+
+    def wait_until_unmounted(self):
+        wait_for(lambda: not self.mounts(), f"{self.label} is unmounted")
+
+    def mount_read_only(self, session):
+        """Mounts the stick as a careful desktop does; the folder."""
+        session.run("udisksctl", "mount", "--no-user-interaction", "-o", "ro", "-b", self.device)
+        return self.mounts()[0][0]
+
+    def hibernate(self):
+        """Leaves the stick as a Windows does that sleeps on it."""
+        file = self.image + ".page"
+        with open(file, "wb") as page:
+            page.write(b"hibr".ljust(PAGE, b"\0"))
+        run("ntfscp", "-f", self.image, file, "hiberfil.sys")
+        os.remove(file)
+
+    def content(self, file, stream=None):
+        """What a file holds, read from the image; None if there is no such file or stream."""
+        options = ["-a", "DATA", "-n", stream] if stream else []
+        result = subprocess.run(["ntfscat", "-f", *options, self.image, file],
+                                capture_output=True, text=True, check=False)
+        return result.stdout if result.returncode == 0 else None

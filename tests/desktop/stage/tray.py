@@ -1,0 +1,108 @@
+# The program's tray icon and its menu, as the bus shows them.
+# SPDX-License-Identifier: MIT
+from dataclasses import dataclass
+
+from gi.repository import GLib
+
+from . import bus
+from .session import WATCHER
+from .waiting import NeverHappened, wait_for
+
+ITEM = "org.kde.StatusNotifierItem"
+ITEM_PATH = "/StatusNotifierItem"
+MENU = "com.canonical.dbusmenu"
+
+
+@dataclass
+class Entry:
+    """An item of the menu."""
+
+    id: int
+    label: str
+    enabled: bool
+    checked: bool
+    separator: bool
+
+
+def entry_of(node):
+    """A node of GetLayout as an entry."""
+    number, properties, _children = node
+    return Entry(number, properties.get("label", "").replace("__", "\0").replace("_", "").replace(
+        "\0", "_"), properties.get("enabled", True), properties.get("toggle-state", 0) == 1,
+        properties.get("type") == "separator")
+
+
+class Tray:
+    """The icon of one process."""
+
+    def __init__(self, connection, pid):
+        self._connection = connection
+        self._name = f"{ITEM}-{pid}-1"
+
+    def _watcher(self, name):
+        return bus.properties(self._connection, WATCHER, "/StatusNotifierWatcher", WATCHER)[name]
+
+    def all_items(self):
+        """What the panel shows, by the names under which it was registered."""
+        return self._watcher("RegisteredStatusNotifierItems")
+
+    def _registered(self):
+        try:
+            return any(item.startswith(self._name) for item in self.all_items())
+        except GLib.Error:
+            return False
+
+    def wait_until_shown(self):
+        """Waits until the panel has taken the icon."""
+        wait_for(self._registered, f"{self._name} is in the panel")
+
+    def property(self, name):
+        return bus.properties(self._connection, self._name, ITEM_PATH, ITEM)[name]
+
+    def icon(self):
+        return self.property("IconName")
+
+    def wait_for_icon(self, name):
+        try:
+            wait_for(lambda: self.icon() == name, f"the icon is {name}")
+        except NeverHappened as problem:
+            raise NeverHappened(f"{problem}; it is {self.icon()}") from None
+
+    def wait_for_colour(self, colour):
+        self.wait_for_icon(f"brisel-status-{colour}-light")
+
+    def menu(self):
+        """The entries from top to bottom."""
+        path = self.property("Menu")
+        _revision, (_id, _properties, children) = bus.call(
+            self._connection, self._name, path, f"{MENU}.GetLayout", "(iias)", 0, -1, [])
+        return [entry_of(child) for child in children]
+
+    def labels(self):
+        """The titles, a separator being None."""
+        return [None if entry.separator else entry.label for entry in self.menu()]
+
+    def wait_for_entry(self, label):
+        """The entry with that title, once there is one."""
+        def find():
+            return next((entry for entry in self.menu() if entry.label == label), None)
+        try:
+            return wait_for(find, f'the menu has "{label}"')
+        except NeverHappened as problem:
+            raise NeverHappened(f"{problem}; it has {self.labels()}") from None
+
+    def wait_until_gone(self, label):
+        try:
+            wait_for(lambda: label not in self.labels(), f'"{label}" leaves the menu')
+        except NeverHappened as problem:
+            raise NeverHappened(f"{problem}; it has {self.labels()}") from None
+
+    def choose(self, label, below=None):
+        """Chooses an entry; `below` is the title of one that stands above it."""
+        self.wait_for_entry(below or label)
+        entries = self.menu()
+        titles = [entry.label for entry in entries]
+        start = titles.index(below) if below else 0
+        entry = entries[titles.index(label, start)]
+        bus.call(self._connection, self._name, self.property("Menu"), f"{MENU}.Event", "(isvu)",
+                 entry.id, "clicked", GLib.Variant("i", 0), 0)

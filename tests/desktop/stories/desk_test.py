@@ -1,0 +1,72 @@
+# Mouse and eyes: the desktop's own panel, notifications and colours.
+# SPDX-License-Identifier: MIT
+from stage import portal
+from stage.notifications import NotificationWindow
+from stage.waiting import NeverHappened, wait_for
+
+from .story import Story
+
+# The middle of the panel's one icon.
+ICON = (17, 16)
+# From the upper edge of a menu to the middle of its first entry.
+FIRST_ENTRY = 15
+# From the right and lower edges of a notification to the middle of its first button of two.
+FIRST_BUTTON = (159, 30)
+
+
+class Desk(Story):
+    """What can be seen, and clicked."""
+
+    def test_a_click_in_the_panels_menu_makes_a_stick_writable(self):
+        self.start_brisel()
+        stick = self.attach("Data")
+        self.tray.wait_for_entry("re-mount Data")
+        left, top, width, _height = wait_for(self.open_menu, "the panel shows the menu")
+        self.take_picture("menu")
+        self.stage.session.click(left + width // 2, top + FIRST_ENTRY)
+        self.wait_for_writable(stick)
+
+    def open_menu(self):
+        """Clicks on the icon; where the menu is then. The first click may come too early."""
+        self.stage.session.click(*ICON)
+        try:
+            return wait_for(self.stage.session.open_menu, "there is a menu", seconds=1)
+        except NeverHappened:
+            return None
+
+    def test_a_click_on_the_notification_makes_a_stick_writable(self):
+        self.stage.stop_notifications()
+        self.stage.session.start_notification_server()
+        self.start_brisel()
+        stick = self.attach("Data")
+        left, top, width, height = NotificationWindow(self.stage.session).wait_until_shown()
+        self.take_picture("prompt")
+        self.stage.session.click(left + width - FIRST_BUTTON[0], top + height - FIRST_BUTTON[1])
+        self.wait_for_writable(stick)
+
+    def test_the_icon_follows_the_desktop_into_the_dark(self):
+        self.start_brisel()
+        self.tray.wait_for_icon("brisel-status-grey-light")
+        self.stage.portal.choose(portal.DARK)
+        self.tray.wait_for_icon("brisel-status-grey-dark")
+        self.attach("Data")
+        self.tray.wait_for_icon("brisel-status-green-dark")
+        self.take_picture("dark")
+        self.stage.portal.choose(portal.LIGHT)
+        self.tray.wait_for_icon("brisel-status-green-light")
+
+    def test_in_the_dark_the_icon_is_dark_from_the_start(self):
+        self.stage.portal.choose(portal.DARK)
+        self.start_brisel()
+        self.tray.wait_for_icon("brisel-status-grey-dark")
+
+    def test_the_icon_says_in_words_what_it_shows(self):
+        self.start_brisel()
+        self.tray.wait_for_colour("grey")
+        nothing = self.tray.property("IconAccessibleDesc")
+        self.attach("Data")
+        self.tray.wait_for_colour("green")
+        something = self.tray.property("IconAccessibleDesc")
+        self.assertTrue(nothing and something)
+        self.assertNotEqual(nothing, something)
+        self.assertIn(something, self.tray.property("ToolTip")[3])

@@ -1,0 +1,87 @@
+# What may go away in the middle: a stick, the disk service, the panel, the notification server.
+# SPDX-License-Identifier: MIT
+import os
+import signal
+
+from stage import bus, services
+from stage.waiting import wait_for
+
+from .story import Story
+
+UDISKS = "org.freedesktop.UDisks2"
+
+
+class Mishaps(Story):
+    """Brisel outlives them all."""
+
+    def test_a_stick_pulled_while_writable_leaves_the_menu_and_comes_back(self):
+        self.start_brisel()
+        stick = self.attach("Data")
+        self.make_writable(stick)
+        node = stick.node
+        posted = len(self.notifications.posted)
+        stick.pull()
+        self.brisel.wait_for_log(f"disk {node} disappeared")
+        self.tray.wait_for_entry("No NTFS Volumes to re-mount")
+        self.tray.wait_for_colour("grey")
+        stick.attach()
+        self.accept_prompt(stick, posted)
+        self.wait_for_writable(stick)
+
+    def test_the_disk_service_may_end_and_come_back(self):
+        self.start_brisel()
+        stick = self.attach("Data")
+        self.notifications.wait_for("Data detected")
+        self.end_disk_service()
+        self.brisel.wait_for_log("The disk service UDisks2 has gone; waiting for it.")
+        self.resume_disk_service()
+        self.brisel.wait_for_log("The disk service UDisks2 is back.")
+        self.assertFalse(self.brisel.has_logged("disappeared"))
+        self.tray.choose("re-mount Data")
+        self.wait_for_writable(stick)
+
+    def end_disk_service(self):
+        if self.stage.mocked:
+            self.stage.stop_disk_service()
+            return
+        if not services.disk_service_is_ours():
+            self.skipTest("the disk service was not started for tests")
+        os.kill(bus.owner_pid(bus.system_bus(), UDISKS), signal.SIGKILL)
+
+    def resume_disk_service(self):
+        if self.stage.mocked:
+            self.stage.start_disk_service()
+        else:
+            bus.driver(bus.system_bus(), "StartServiceByName", "(su)", UDISKS, 0)
+
+    def test_the_panel_may_end_and_come_back(self):
+        self.start_brisel()
+        self.attach("Data")
+        self.notifications.wait_for("Data detected")
+        self.stage.session.stop_panel()
+        self.stage.session.start_panel()
+        self.tray.wait_until_shown()
+        self.assertEqual(self.tray.labels()[0], "re-mount Data")
+
+    def test_the_icon_shows_up_when_the_panel_starts_last(self):
+        self.stage.session.stop_panel()
+        self.brisel = self.stage.start_brisel()
+        self.wait_for_name("org.brisel.Brisel")
+        self.stage.session.start_panel()
+        self.tray.wait_until_shown()
+        self.assertEqual(self.tray.icon(), "brisel-status-grey-light")
+
+    def wait_for_name(self, name):
+        wait_for(lambda: bus.has_owner(self.stage.session.connection, name), f"{name} is there")
+
+    def test_the_notification_server_may_end_and_come_back(self):
+        self.start_brisel()
+        first = self.attach("First")
+        self.notifications.wait_for("First detected")
+        self.stage.start_notification_mock()
+        second = self.attach("Second")
+        self.accept_prompt(second)
+        second.wait_until_writable()
+        self.tray.wait_for_entry("show Second in Finder")
+        self.assertEqual(first.mounts(), [])
+        self.assertTrue(self.brisel.program.runs())

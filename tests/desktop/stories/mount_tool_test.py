@@ -1,0 +1,96 @@
+# From a stick that is put in to a writable volume, through the mount tool and a password.
+# SPDX-License-Identifier: MIT
+import os
+
+from .story import Story, on_real_disks_only
+
+REASON = "the mount tool takes a real volume, and root"
+
+
+class MountTool(Story):
+    """The password's stories."""
+
+    def start_with_stick(self):
+        self.use_mount_tool()
+        self.start_brisel()
+        return self.attach("Data")
+
+    def assert_nothing_mounted(self, stick):
+        self.assertEqual(stick.mounts(), [])
+        self.assertFalse(os.path.exists(self.mount_point()))
+
+    def mount_point(self):
+        return f"{self.stage.account.home}/.brisel/Data"
+
+    @on_real_disks_only(REASON)
+    def test_the_right_password_makes_a_stick_writable(self):
+        stick = self.start_with_stick()
+        prompt = self.stage.password_prompt(self.brisel.pid)
+        self.accept_prompt(stick)
+        prompt.wait_until_asked()
+        prompt.type(self.stage.account.password)
+        self.brisel.wait_for_log(f"mount command successfully launched for {stick.device}")
+        folder = self.wait_for_writable(stick)
+        self.assertEqual(folder, self.mount_point())
+        self.assertEqual(prompt.times_asked(), 1)
+        self.write_greeting(folder)
+        self.unmount(stick)
+        self.assertFalse(os.path.exists(self.mount_point()))
+        self.assert_greeting_arrived(stick)
+
+    @on_real_disks_only(REASON)
+    def test_a_wrong_password_mounts_nothing(self):
+        stick = self.start_with_stick()
+        prompt = self.stage.password_prompt(self.brisel.pid)
+        self.accept_prompt(stick)
+        prompt.type("wrong" + self.stage.account.password)
+        self.brisel.wait_for_log("something went wrong with mount command launch")
+        self.assert_nothing_mounted(stick)
+
+    @on_real_disks_only(REASON)
+    def test_closing_the_password_dialog_mounts_nothing(self):
+        stick = self.start_with_stick()
+        dialog = self.stage.silent_dialog(self.brisel.pid)
+        self.accept_prompt(stick)
+        dialog.close_dialog()
+        self.assertEqual(dialog.actions, ["org.brisel.run-mount-tool"])
+        self.brisel.wait_for_log("mount command cancelled by user")
+        self.tray.wait_for_entry("No NTFS Volumes to re-mount")
+        self.assert_nothing_mounted(stick)
+
+    @on_real_disks_only(REASON)
+    def test_without_anybody_to_ask_nothing_is_mounted(self):
+        stick = self.start_with_stick()
+        self.accept_prompt(stick)
+        self.brisel.wait_for_log("something went wrong with mount command launch")
+        self.tray.wait_for_entry("No NTFS Volumes to re-mount")
+        self.assert_nothing_mounted(stick)
+
+    @on_real_disks_only(REASON)
+    def test_a_hibernated_stick_is_reported_and_left_unmounted(self):
+        self.use_mount_tool()
+        self.start_brisel()
+        stick = self.stage.new_stick("Data")
+        stick.hibernate()
+        stick.attach()
+        prompt = self.stage.password_prompt(self.brisel.pid)
+        self.accept_prompt(stick)
+        prompt.type(self.stage.account.password)
+        self.brisel.wait_for_log("mount will fail, there is a termination status report:")
+        alert = self.stage.alerts.wait_for('Volume "Data" not re-mountable')
+        self.assertEqual(stick.mounts(), [])
+        self.stage.alerts.answer(alert, "Return")
+        self.tray.wait_for_entry("No NTFS Volumes to re-mount")
+
+    @on_real_disks_only(REASON)
+    def test_a_stick_pulled_before_the_password_is_typed_mounts_nothing(self):
+        stick = self.start_with_stick()
+        prompt = self.stage.password_prompt(self.brisel.pid)
+        self.accept_prompt(stick)
+        prompt.wait_until_asked()
+        stick.pull()
+        prompt.type(self.stage.account.password)
+        self.brisel.wait_for_log("mount will fail, there is a termination status report:")
+        self.assertTrue(self.brisel.program.runs())
+        self.assertEqual(os.listdir(os.path.dirname(self.mount_point())), ["Data"])
+        self.assertFalse(os.path.ismount(self.mount_point()))

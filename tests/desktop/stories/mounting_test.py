@@ -1,0 +1,158 @@
+# From a stick that is put in to a writable volume, through the disk service.
+# SPDX-License-Identifier: MIT
+from urllib.parse import unquote, urlparse
+
+from stage.waiting import stays, wait_for
+
+from .story import Story, on_real_disks_only
+
+UNMOUNTED_MENU = [
+    "No NTFS Volumes to re-mount", None, "Start at Login", "About Brisel", None, "Quit Brisel"]
+
+
+class Mounting(Story):
+    """The main job, and its variations."""
+
+    def test_a_yes_to_the_prompt_makes_a_stick_writable(self):
+        self.start_brisel()
+        self.tray.wait_for_colour("grey")
+        self.assertEqual(self.tray.labels(), UNMOUNTED_MENU)
+        stick = self.attach("Data")
+        prompt = self.notifications.wait_for("Data detected")
+        self.assertEqual(prompt.body, "Re-mount it read-write?")
+        self.assertEqual(prompt.actions, {"DO_MOUNT": "Yes, sure!", "NOTHING": "No, thanks."})
+        self.tray.wait_for_colour("green")
+        self.assertEqual(self.tray.labels()[0], "re-mount Data")
+        self.take_picture("prompt")
+        self.notifications.press(prompt, "DO_MOUNT")
+        folder = self.wait_for_writable(stick)
+        self.assertEqual(self.tray.labels()[:5], [
+            "show Data in Finder", "unmount", "remove all extended attributes",
+            "mount automatically", None])
+        self.wait_until_shown(folder)
+        self.write_greeting(folder)
+        self.unmount(stick)
+        self.tray.wait_for_colour("grey")
+        self.assertEqual(self.tray.labels(), UNMOUNTED_MENU)
+        self.assert_greeting_arrived(stick)
+
+    def wait_until_shown(self, folder):
+        """Waits for the file manager to have been asked for the folder, and for no other."""
+        def shown():
+            return {unquote(urlparse(one).path).rstrip("/") for one in self.folders_shown()}
+        wait_for(shown, "a folder is shown")
+        self.assertEqual(shown(), {folder})
+
+    def folders_shown(self):
+        return self.stage.session.folders_shown()
+
+    def test_the_menu_shows_the_folder_again(self):
+        self.start_brisel()
+        stick = self.attach("Data")
+        folder = self.make_writable(stick)
+        self.wait_until_shown(folder)
+        before = len(self.folders_shown())
+        self.tray.choose("show Data in Finder")
+        wait_for(lambda: len(self.folders_shown()) > before, "the folder is shown again")
+        self.wait_until_shown(folder)
+
+    @on_real_disks_only("nothing is mounted beforehand by a mocked disk service")
+    def test_a_stick_mounted_read_only_is_mounted_again(self):
+        stick = self.attach("Data")
+        stick.mount_read_only(self.stage.session)
+        self.start_brisel()
+        self.tray.wait_for_colour("green")
+        self.tray.choose("re-mount Data")
+        folder = self.wait_for_writable(stick)
+        self.write_greeting(folder)
+        self.unmount(stick)
+        self.assert_greeting_arrived(stick)
+
+    def test_a_no_to_the_prompt_leaves_the_stick_alone(self):
+        self.start_brisel()
+        stick = self.attach("Data")
+        prompt = self.notifications.wait_for("Data detected")
+        self.notifications.press(prompt, "NOTHING")
+        stays(lambda: self.tray.labels()[0] == "re-mount Data", "the stick is read-only")
+        self.assertEqual(stick.mounts(), [])
+
+    def test_a_stick_chosen_for_it_is_mounted_without_a_question(self):
+        self.start_brisel()
+        stick = self.attach("Data")
+        self.make_writable(stick)
+        self.tray.choose("mount automatically")
+        self.tray.wait_for_entry("mount manually")
+        self.unmount(stick)
+        stick.pull()
+        self.brisel.wait_for_log("disappeared")
+        posted = len(self.notifications.posted)
+        stick.attach()
+        self.wait_for_writable(stick)
+        self.assertEqual(len(self.notifications.posted), posted)
+        self.tray.choose("mount manually")
+        self.tray.wait_for_entry("mount automatically")
+        self.assertIn(self.stage.preferences.read("volumeList"), ("", None))
+
+    def test_a_stick_in_use_stays_mounted_and_that_is_said(self):
+        self.start_brisel()
+        stick = self.attach("Data")
+        folder = self.make_writable(stick)
+        with self.in_use(stick, folder):
+            self.tray.choose("unmount")
+            self.brisel.wait_for_log(f"kDAReturnBusy for volume {stick.node}")
+            alert = self.stage.alerts.wait_for('Volume "Data" not unmountable')
+            self.tray.wait_for_colour("red")
+            self.take_picture("alert")
+            self.stage.alerts.answer(alert, "Return")
+        self.wait_for_writable(stick)
+        self.unmount(stick)
+
+    def in_use(self, stick, folder):
+        """A stick that somebody holds as long as the context lasts."""
+        if self.stage.mocked:
+            return stick.kept_busy()
+        return open(f"{folder}/held", "w", encoding="ascii")
+
+    def test_a_hibernated_stick_is_reported_and_left_unmounted(self):
+        self.start_brisel()
+        stick = self.stage.new_stick("Data")
+        stick.hibernate()
+        stick.attach()
+        self.accept_prompt(stick)
+        self.brisel.wait_for_log(f"kDAReturnNotWritable for volume {stick.node}")
+        alert = self.stage.alerts.wait_for('Volume "Data" not re-mountable')
+        self.tray.wait_for_colour("red")
+        self.assertEqual(stick.mounts(), [])
+        self.stage.alerts.answer(alert, "Return")
+        self.tray.wait_for_colour("grey")
+        self.assertEqual(self.tray.labels(), UNMOUNTED_MENU)
+
+    def test_two_sticks_of_one_label_are_told_apart(self):
+        self.start_brisel()
+        first = self.attach("Data")
+        self.tray.wait_for_entry("re-mount Data")
+        second = self.attach("Data")
+        self.tray.wait_for_entry(f"re-mount Data-{second.node}")
+        self.tray.wait_for_entry("re-mount Data")
+        self.tray.choose(f"re-mount Data-{second.node}")
+        second.wait_until_writable()
+        self.tray.wait_for_entry(f"show Data-{second.node} in Finder")
+        self.assertEqual(first.mounts(), [])
+        self.tray.wait_for_entry("re-mount Data")
+
+    @on_real_disks_only("alternate streams need a real volume")
+    def test_extended_attributes_are_removed(self):
+        self.start_brisel()
+        stick = self.attach("Data")
+        folder = self.make_writable(stick)
+        self.write_greeting(folder)
+        file = f"{folder}/greeting.txt"
+        self.stage.session.run("setfattr", "-n", "user.note", "-v", "noted", file)
+        self.assertIn("user.note", self.stage.session.run("getfattr", file))
+        self.tray.choose("remove all extended attributes")
+        self.tray.wait_for_colour("blue")
+        self.assertFalse(self.brisel.has_logged("Error executing Apple Script"),
+                         self.brisel.program.text())
+        self.unmount(stick)
+        self.assert_greeting_arrived(stick)
+        self.assertIsNone(stick.content("greeting.txt", stream="note"))
