@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <array>
-#include <chrono>
 #include <functional>
 #include <utility>
 
@@ -19,8 +18,6 @@ constexpr const char* ItemInterface = "org.kde.StatusNotifierItem";
 constexpr const char* WatcherName = "org.kde.StatusNotifierWatcher";
 constexpr const char* WatcherPath = "/StatusNotifierWatcher";
 constexpr const char* ProgramName = "Brisel";
-// Long enough for a session to start its panel.
-constexpr std::chrono::seconds TimeForAHost{15};
 
 // The part of the interface that has a meaning here, with the Ayatana tray's description for
 // assistive technology.
@@ -66,7 +63,8 @@ GVariant* text(const std::string& value) {
 
 }  // namespace
 
-TrayIcon::TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string menuPath)
+TrayIcon::TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string menuPath,
+                   std::chrono::milliseconds patience)
     : bus_(static_cast<GDBusConnection*>(g_object_ref(bus))),
       log_(log),
       menuPath_(std::move(menuPath)),
@@ -79,7 +77,7 @@ TrayIcon::TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string m
     watching_ = watcher_.watch([this] { registerWithWatcher(); }, [] {});
     hostComing_ = watcher_.onSignal("StatusNotifierHostRegistered",
                                     [this](auto* /*arguments*/) { registerWithWatcher(); });
-    waitForHost();
+    waitForHost(patience);
 }
 
 TrayIcon::~TrayIcon() {
@@ -141,8 +139,8 @@ void TrayIcon::registerWithWatcher() {
     });
 }
 
-void TrayIcon::waitForHost() {
-    patience_ = RunLoop().scheduledTimer(TimeForAHost, [this] {
+void TrayIcon::waitForHost(std::chrono::milliseconds patience) {
+    patience_ = RunLoop().scheduledTimer(patience, [this] {
         const auto once = std::move(patience_);
         log_.log(
             "No tray shows status icons here. The prompts work all the same, and starting Brisel "

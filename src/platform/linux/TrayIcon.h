@@ -4,6 +4,7 @@
 
 #include <gio/gio.h>
 
+#include <chrono>
 #include <string>
 
 #include "platform/linux/BusClient.h"
@@ -28,8 +29,13 @@ class TrayIcon {
   public:
     static constexpr const char* ObjectPath = "/StatusNotifierItem";
 
-    /// `menuPath` is the object on the same connection that holds the menu.
-    TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string menuPath);
+    /// Long enough for a session to start its panel.
+    static constexpr std::chrono::seconds UsualPatience{15};
+
+    /// `menuPath` is the object on the same connection that holds the menu. The log tells once when
+    /// nothing shows the icon for as long as `patience`.
+    TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string menuPath,
+             std::chrono::milliseconds patience = UsualPatience);
     TrayIcon(const TrayIcon&) = delete;
     TrayIcon& operator=(const TrayIcon&) = delete;
     ~TrayIcon();
@@ -42,7 +48,7 @@ class TrayIcon {
   private:
     void exportObject();
     void registerWithWatcher();
-    void waitForHost();
+    void waitForHost(std::chrono::milliseconds patience);
     [[nodiscard]] GVariant* toolTip() const;
 
     OwnedObject<GDBusConnection> bus_;

@@ -1,0 +1,76 @@
+// A service on the bus that answers as a test tells it to.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gio/gio.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tests/linux/desktop/SessionBus.h"
+
+namespace brisel::tests {
+
+/// A method call that waits for its answer, which may come at any time, or never.
+class BusCall {
+  public:
+    explicit BusCall(GDBusMethodInvocation* invocation) : invocation_(invocation) {}
+
+    [[nodiscard]] GVariant* arguments() const {
+        return g_dbus_method_invocation_get_parameters(invocation_);
+    }
+    /// Answers with this tuple, floating or null for none, whatever the interface has it to be.
+    void answer(GVariant* tuple) const;
+    void refuse(const std::string& errorName) const;
+
+  private:
+    GDBusMethodInvocation* invocation_;
+};
+
+/// One object of one interface, on the loop of the thread that makes it. It takes its name when it
+/// appears.
+class FakeService {
+  public:
+    using Method = std::function<void(const BusCall& call)>;
+
+    struct Interface {
+        std::string busName;
+        std::string path;
+        std::string name;
+        std::string introspection;
+    };
+
+    explicit FakeService(Interface interface);
+    FakeService(const FakeService&) = delete;
+    FakeService& operator=(const FakeService&) = delete;
+    ~FakeService();
+
+    void appear();
+    void vanish();
+    [[nodiscard]] GDBusConnection* bus() const { return bus_.get(); }
+
+    /// Lets `method` do what it is; a method that does nothing leaves the caller waiting.
+    void on(const std::string& name, Method method) { methods_[name] = std::move(method); }
+    void setProperty(const std::string& name, GVariant* value);
+    void emit(const char* signal, GVariant* arguments) const;
+
+  private:
+    static void answerMethod(GDBusConnection* bus, const gchar* sender, const gchar* path,
+                             const gchar* interface, const gchar* method, GVariant* arguments,
+                             GDBusMethodInvocation* invocation, gpointer service);
+    static GVariant* answerProperty(GDBusConnection* bus, const gchar* sender, const gchar* path,
+                                    const gchar* interface, const gchar* name, GError** error,
+                                    gpointer service);
+    [[nodiscard]] bool askBus(const char* method, GVariant* arguments) const;
+
+    Interface interface_;
+    OwnedObject<GDBusConnection> bus_ = SessionBus::shared().connect();
+    std::map<std::string, Method> methods_;
+    std::map<std::string, OwnedVariant> properties_;
+    guint object_ = 0;
+};
+
+}  // namespace brisel::tests

@@ -1,0 +1,147 @@
+// A message bus that only this test program is on.
+// SPDX-License-Identifier: MIT
+#include "tests/linux/desktop/SessionBus.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <future>
+#include <optional>
+#include <utility>
+
+namespace brisel::tests {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr std::chrono::seconds Patience{20};
+
+OwnedVariant answerTo(GAsyncResult* result, GDBusConnection* bus) {
+    return OwnedVariant(g_dbus_connection_call_finish(bus, result, nullptr));
+}
+
+}  // namespace
+
+SessionBus& SessionBus::shared() {
+    static SessionBus bus;
+    return bus;
+}
+
+SessionBus::SessionBus() : bus_(g_test_dbus_new(G_TEST_DBUS_NONE)) {
+    g_test_dbus_up(bus_);
+    g_setenv("DBUS_SYSTEM_BUS_ADDRESS", g_test_dbus_get_bus_address(bus_), TRUE);
+    program_.reset(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
+    g_dbus_connection_set_exit_on_close(program_.get(), FALSE);
+}
+
+SessionBus::~SessionBus() {
+    g_test_dbus_stop(bus_);
+}
+
+OwnedObject<GDBusConnection> SessionBus::connect() const {
+    const auto flags =
+        static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+                                          G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
+    return OwnedObject<GDBusConnection>(g_dbus_connection_new_for_address_sync(
+        g_test_dbus_get_bus_address(bus_), flags, nullptr, nullptr, nullptr));
+}
+
+bool turnUntil(const std::function<bool()>& reached) {
+    // What another thread does wakes nobody up here.
+    const auto tick = platform::linux::RunLoop().scheduledTimer(milliseconds(2), [] {});
+    const auto end = std::chrono::steady_clock::now() + Patience;
+    while (!reached()) {
+        if (std::chrono::steady_clock::now() > end) {
+            ADD_FAILURE() << "It never came to that.";
+            return false;
+        }
+        g_main_context_iteration(g_main_context_get_thread_default(), TRUE);
+    }
+    return true;
+}
+
+void waitForDesk() {
+    std::promise<void> done;
+    const auto signalDone = [](gpointer promise) {
+        static_cast<std::promise<void>*>(promise)->set_value();
+        return G_SOURCE_REMOVE;
+    };
+    g_idle_add_full(G_PRIORITY_LOW, signalDone, &done, nullptr);
+    EXPECT_EQ(done.get_future().wait_for(Patience), std::future_status::ready);
+}
+
+BusCaller::BusCaller(std::string name, std::string path, std::string interface)
+    : name_(std::move(name)), path_(std::move(path)), interface_(std::move(interface)) {
+    const auto note = [](GDBusConnection*, const char*, const char*, const char*,
+                         const char* signal, GVariant*, gpointer signals) {
+        static_cast<std::vector<std::string>*>(signals)->emplace_back(signal);
+    };
+    subscription_ = g_dbus_connection_signal_subscribe(
+        bus_.get(), nullptr, interface_.c_str(), nullptr, path_.c_str(), nullptr,
+        G_DBUS_SIGNAL_FLAGS_NONE, note, &signals_, nullptr);
+    static_cast<void>(newSignals());
+}
+
+BusCaller::~BusCaller() {
+    g_dbus_connection_signal_unsubscribe(bus_.get(), subscription_);
+    g_dbus_connection_close_sync(bus_.get(), nullptr, nullptr);
+}
+
+OwnedVariant BusCaller::ask(const Question& question) {
+    using Answer = std::optional<OwnedVariant>;
+    Answer answer;
+    const auto finish = [](GObject* bus, GAsyncResult* result, gpointer data) {
+        static_cast<Answer*>(data)->emplace(answerTo(result, G_DBUS_CONNECTION(bus)));
+    };
+    g_dbus_connection_call(bus_.get(), question.name, path_.c_str(), question.interface,
+                           question.method, question.arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
+                           nullptr, finish, &answer);
+    if (!turnUntil([&answer] { return answer.has_value(); })) std::abort();
+    return std::move(*answer);
+}
+
+OwnedVariant BusCaller::call(const char* method, GVariant* arguments) {
+    return ask({.name = name_.c_str(),
+                .interface = interface_.c_str(),
+                .method = method,
+                .arguments = arguments});
+}
+
+OwnedVariant BusCaller::callBlocking(const char* method, GVariant* arguments) {
+    CallError error;
+    OwnedVariant answer(g_dbus_connection_call_sync(
+        bus_.get(), name_.c_str(), path_.c_str(), interface_.c_str(), method, arguments, nullptr,
+        G_DBUS_CALL_FLAGS_NONE, -1, nullptr, error.receive()));
+    if (!answer) ADD_FAILURE() << method << ": " << error.message();
+    return answer;
+}
+
+OwnedVariant BusCaller::property(const char* name) {
+    const auto answer = ask({.name = name_.c_str(),
+                             .interface = "org.freedesktop.DBus.Properties",
+                             .method = "Get",
+                             .arguments = g_variant_new("(ss)", interface_.c_str(), name)});
+    GVariant* value = nullptr;
+    if (answer) g_variant_get(answer.get(), "(v)", &value);
+    return OwnedVariant(value);
+}
+
+std::string BusCaller::text(const char* property) {
+    const auto value = this->property(property);
+    const bool isText = value && g_variant_is_of_type(value.get(), G_VARIANT_TYPE_STRING) != FALSE;
+    return isText ? g_variant_get_string(value.get(), nullptr) : "no text";
+}
+
+std::vector<std::string> BusCaller::newSignals() {
+    // The program's answer comes after all that it sent before.
+    const auto* const program = g_dbus_connection_get_unique_name(SessionBus::shared().program());
+    EXPECT_TRUE(ask({.name = program,
+                     .interface = "org.freedesktop.DBus.Peer",
+                     .method = "Ping",
+                     .arguments = nullptr}));
+    return std::exchange(signals_, {});
+}
+
+}  // namespace brisel::tests

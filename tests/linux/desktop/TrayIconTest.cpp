@@ -1,0 +1,182 @@
+// The icon on the bus: where it registers, what it tells of itself, what it says without a tray.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/TrayIcon.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "tests/linux/desktop/FakeDesktop.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+using std::chrono::milliseconds;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using tests::FakeTray;
+using tests::turnUntil;
+
+constexpr milliseconds Brief{1};
+
+class TheTrayIcon : public testing::Test {
+  protected:
+    void start(milliseconds patience = TrayIcon::UsualPatience) {
+        icon_ = std::make_unique<TrayIcon>(bus_, log_, "/TheMenu", patience);
+    }
+    void waitForRegistrations(const FakeTray& tray, std::size_t count) {
+        turnUntil([&] { return tray.registered().size() >= count; });
+    }
+    /// Turns the loop a good while longer than any time that is waited for here.
+    void waitLongEnough() {
+        int ticks = 0;
+        const auto ticking = RunLoop().scheduledTimer(Brief, [&ticks] { ++ticks; });
+        turnUntil([&ticks] { return ticks > 50; });
+    }
+
+    GDBusConnection* bus_ = tests::SessionBus::shared().program();
+    OwnMainLoop loop_;
+    tests::RecordedLog log_;
+    const std::string name_ = "org.kde.StatusNotifierItem-" + std::to_string(getpid()) + "-1";
+    std::unique_ptr<TrayIcon> icon_;
+};
+
+TEST_F(TheTrayIcon, RegistersWithTheTrayThatIsThere) {
+    FakeTray tray(FakeTray::Host::There);
+    tray.service.appear();
+    start();
+    waitForRegistrations(tray, 1);
+    EXPECT_THAT(tray.registered(), ElementsAre(name_));
+}
+
+TEST_F(TheTrayIcon, RegistersWithATrayThatStartsLater) {
+    start();
+    waitLongEnough();
+    FakeTray tray(FakeTray::Host::There);
+    tray.service.appear();
+    waitForRegistrations(tray, 1);
+    EXPECT_THAT(tray.registered(), ElementsAre(name_));
+}
+
+TEST_F(TheTrayIcon, RegistersAgainWithATrayThatStartsAnew) {
+    auto first = std::make_unique<FakeTray>(FakeTray::Host::There);
+    first->service.appear();
+    start();
+    waitForRegistrations(*first, 1);
+    first.reset();
+    FakeTray second(FakeTray::Host::There);
+    second.service.appear();
+    waitForRegistrations(second, 1);
+    EXPECT_THAT(second.registered(), ElementsAre(name_));
+}
+
+TEST_F(TheTrayIcon, RegistersWhenAPanelComesToAWatcher) {
+    FakeTray tray(FakeTray::Host::None);
+    tray.service.appear();
+    start();
+    waitForRegistrations(tray, 1);
+    tray.registerHost();
+    waitForRegistrations(tray, 2);
+    EXPECT_THAT(tray.registered(), ElementsAre(name_, name_));
+}
+
+TEST_F(TheTrayIcon, HasItsNameOnTheBusAsLongAsItLives) {
+    start();
+    tests::BusCaller bus("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus");
+    const auto hasOwner = [&] {
+        const auto answer = bus.call("NameHasOwner", g_variant_new("(s)", name_.c_str()));
+        gboolean has = FALSE;
+        g_variant_get(answer.get(), "(b)", &has);
+        return has != FALSE;
+    };
+    turnUntil(hasOwner);
+    icon_.reset();
+    turnUntil([&] { return !hasOwner(); });
+}
+
+TEST_F(TheTrayIcon, SaysOnceThatNothingShowsIt) {
+    start(Brief);
+    turnUntil([this] { return !log_.entries().empty(); });
+    waitLongEnough();
+    EXPECT_THAT(log_.entries(), ElementsAre(HasSubstr("No tray shows status icons here.")));
+}
+
+TEST_F(TheTrayIcon, SaysThatNothingShowsItWhenAWatcherHasNoPanel) {
+    FakeTray tray(FakeTray::Host::None);
+    tray.service.appear();
+    start(milliseconds(30));
+    turnUntil([this] { return !log_.entries().empty(); });
+    EXPECT_THAT(tray.registered(), ElementsAre(name_));
+}
+
+TEST_F(TheTrayIcon, SaysNothingWhenItIsShown) {
+    FakeTray tray(FakeTray::Host::There);
+    tray.service.appear();
+    start(milliseconds(40));
+    waitLongEnough();
+    EXPECT_THAT(log_.entries(), IsEmpty());
+}
+
+TEST_F(TheTrayIcon, IsStillShownToATrayThatComesAfterItGaveUp) {
+    start(Brief);
+    turnUntil([this] { return !log_.entries().empty(); });
+    FakeTray tray(FakeTray::Host::There);
+    tray.service.appear();
+    waitForRegistrations(tray, 1);
+    EXPECT_EQ(log_.entries().size(), 1U);
+}
+
+class TheTrayIconsFace : public TheTrayIcon {
+  protected:
+    TheTrayIconsFace() { start(); }
+
+    tests::BusCaller host_{g_dbus_connection_get_unique_name(bus_), TrayIcon::ObjectPath,
+                           "org.kde.StatusNotifierItem"};
+};
+
+TEST_F(TheTrayIconsFace, IsAnActiveHardwareItemThatIsAMenu) {
+    EXPECT_EQ(host_.text("Category"), "Hardware");
+    EXPECT_EQ(host_.text("Id"), "brisel");
+    EXPECT_EQ(host_.text("Status"), "Active");
+    const auto isMenu = host_.property("ItemIsMenu");
+    EXPECT_TRUE(isMenu && g_variant_get_boolean(isMenu.get()));
+    const auto menu = host_.property("Menu");
+    ASSERT_TRUE(menu && g_variant_is_of_type(menu.get(), G_VARIANT_TYPE_OBJECT_PATH));
+    EXPECT_STREQ(g_variant_get_string(menu.get(), nullptr), "/TheMenu");
+}
+
+TEST_F(TheTrayIconsFace, HasNoIconBeforeThereIsAnImage) {
+    EXPECT_EQ(host_.text("IconName"), "");
+}
+
+TEST_F(TheTrayIconsFace, ShowsTheImageAndTheStateInWords) {
+    icon_->show({.iconName = "brisel-status-blue-dark", .words = "a volume is writable"});
+    EXPECT_EQ(host_.text("IconName"), "brisel-status-blue-dark");
+    EXPECT_EQ(host_.text("Title"), "Brisel: a volume is writable");
+    EXPECT_EQ(host_.text("IconAccessibleDesc"), "a volume is writable");
+    const auto toolTip = host_.property("ToolTip");
+    ASSERT_TRUE(toolTip);
+    const OwnedText text(g_variant_print(toolTip.get(), FALSE));
+    EXPECT_STREQ(text.get(), "('brisel-status-blue-dark', [], 'Brisel', 'a volume is writable')");
+}
+
+TEST_F(TheTrayIconsFace, TellsHostsOfAChangeAndOnlyOfAChange) {
+    icon_->show({.iconName = "blue", .words = "writable"});
+    EXPECT_THAT(host_.newSignals(), ElementsAre("NewIcon", "NewTitle", "NewToolTip"));
+    icon_->show({.iconName = "blue", .words = "writable"});
+    EXPECT_THAT(host_.newSignals(), IsEmpty());
+    icon_->show({.iconName = "red", .words = "writable"});
+    EXPECT_THAT(host_.newSignals(), ElementsAre("NewIcon", "NewTitle", "NewToolTip"));
+}
+
+TEST_F(TheTrayIconsFace, TakesClicksWithoutAnError) {
+    for (const char* const click : {"Activate", "SecondaryActivate", "ContextMenu"})
+        EXPECT_TRUE(host_.call(click, g_variant_new("(ii)", 3, 4))) << click;
+    EXPECT_TRUE(host_.call("Scroll", g_variant_new("(is)", 1, "vertical")));
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::linux
