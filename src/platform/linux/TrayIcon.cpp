@@ -104,6 +104,10 @@ void TrayIcon::show(TrayLook look) {
     }
 }
 
+std::string TrayIcon::title() const {
+    return look_.words.empty() ? ProgramName : ProgramName + (": " + look_.words);
+}
+
 GVariant* TrayIcon::toolTip() const {
     return g_variant_new("(s@a(iiay)ss)", look_.iconName.c_str(),
                          g_variant_new_array(G_VARIANT_TYPE("(iiay)"), nullptr, 0), ProgramName,
@@ -115,7 +119,7 @@ GVariant* TrayIcon::property(const std::string& name) const {
     const std::array properties{
         Property{"Category", [] { return text("Hardware"); }},
         Property{"Id", [] { return text("brisel"); }},
-        Property{"Title", [this] { return text(ProgramName + (": " + look_.words)); }},
+        Property{"Title", [this] { return text(title()); }},
         Property{"Status", [] { return text("Active"); }},
         Property{"WindowId", [] { return g_variant_new_int32(0); }},
         Property{"IconName", [this] { return text(look_.iconName); }},

@@ -49,6 +49,7 @@ class TrayIcon {
     void exportObject();
     void registerWithWatcher();
     void waitForHost(std::chrono::milliseconds patience);
+    [[nodiscard]] std::string title() const;
     [[nodiscard]] GVariant* toolTip() const;
 
     OwnedObject<GDBusConnection> bus_;

@@ -162,6 +162,11 @@ TEST_F(TheTrayIconsFace, ShowsTheImageAndTheStateInWords) {
     EXPECT_STREQ(text.get(), "('brisel-status-blue-dark', [], 'Brisel', 'a volume is writable')");
 }
 
+TEST_F(TheTrayIconsFace, IsCalledByThePlainNameWithoutAState) {
+    icon_->show({.iconName = "", .words = ""});
+    EXPECT_EQ(host_.text("Title"), "Brisel");
+}
+
 TEST_F(TheTrayIconsFace, TellsHostsOfAChangeAndOnlyOfAChange) {
     icon_->show({.iconName = "blue", .words = "writable"});
     EXPECT_THAT(host_.newSignals(), ElementsAre("NewIcon", "NewTitle", "NewToolTip"));
