@@ -11,14 +11,23 @@ namespace {
 
 using Received = std::function<void(GVariant*)>;
 
+/// A call under way. Its client has gone when it is cancelled; the error does not tell, for a
+/// service can answer with that one too.
+struct Call {
+    Call(BusClient::Done whenDone, GCancellable* client)
+        : done(std::move(whenDone)), cancellable(G_CANCELLABLE(g_object_ref(client))) {}
+
+    BusClient::Done done;
+    OwnedObject<GCancellable> cancellable;
+};
+
 void finishCall(GObject* bus, GAsyncResult* result, gpointer data) {
-    const std::unique_ptr<BusClient::Done> done(static_cast<BusClient::Done*>(data));
+    const std::unique_ptr<Call> call(static_cast<Call*>(data));
     CallError error;
     const OwnedVariant answer(
         g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, error.receive()));
-    // Then the client has gone.
-    if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE) return;
-    if (*done) (*done)(answer, error);
+    if (g_cancellable_is_cancelled(call->cancellable.get()) != FALSE) return;
+    if (call->done) call->done(answer, error);
 }
 
 void handOn(GDBusConnection* /*bus*/, const char* /*sender*/, const char* /*path*/,
@@ -73,7 +82,7 @@ BusClient::~BusClient() {
 void BusClient::call(const char* method, GVariant* arguments, Done done) {
     g_dbus_connection_call(bus_.get(), name_.c_str(), path_.c_str(), interface_.c_str(), method,
                            arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
-                           &finishCall, new Done(std::move(done)));
+                           &finishCall, new Call(std::move(done), cancellable_.get()));
 }
 
 void BusClient::readProperty(const char* name, Done done) {
@@ -83,7 +92,7 @@ void BusClient::readProperty(const char* name, Done done) {
     g_dbus_connection_call(
         bus_.get(), name_.c_str(), path_.c_str(), "org.freedesktop.DBus.Properties", "Get",
         g_variant_new("(ss)", interface_.c_str(), name), nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
-        cancellable_.get(), &finishCall, new Done(bare));
+        cancellable_.get(), &finishCall, new Call(bare, cancellable_.get()));
 }
 
 Subscription BusClient::onSignal(const char* signal, std::function<void(GVariant*)> received) {

@@ -25,6 +25,8 @@ class BusCall {
     /// Answers with this tuple, floating or null for none, whatever the interface has it to be.
     void answer(GVariant* tuple) const;
     void refuse(const std::string& errorName) const;
+    /// Never answers.
+    void drop() const { g_object_unref(invocation_); }
 
   private:
     GDBusMethodInvocation* invocation_;

@@ -1,0 +1,214 @@
+// Pop-ups on the bus: what is sent of them, and what servers make of them.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/NotificationServer.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/linux/desktop/FakeDesktop.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Pair;
+using testing::UnorderedElementsAre;
+using tests::FakeNotifications;
+using tests::turnUntil;
+
+class Notifications : public testing::Test {
+  protected:
+    struct Shown {
+        std::uint32_t number = 0;
+        std::optional<Error> error;
+    };
+
+    Shown show(const Notification& notification) {
+        std::optional<Shown> shown;
+        server_.show(notification, [&shown](auto number, const auto& error) {
+            shown = {.number = number, .error = error};
+        });
+        turnUntil([&shown] { return shown.has_value(); });
+        return *shown;
+    }
+    static Notification popUp(const std::string& summary, const std::string& body = "") {
+        return {.summary = summary, .body = body};
+    }
+
+    OwnMainLoop loop_;
+    NotificationServer server_{tests::SessionBus::shared().program()};
+};
+
+TEST_F(Notifications, SayWhoseTheyAre) {
+    FakeNotifications desktop({});
+    desktop.service.appear();
+    desktop.numberFrom(7);
+    const auto shown = show(popUp("Found", "Go?"));
+    EXPECT_EQ(shown.number, 7U);
+    EXPECT_FALSE(shown.error.has_value());
+    ASSERT_EQ(desktop.calls().size(), 1U);
+    const auto& call = desktop.calls().front();
+    EXPECT_EQ(call.program, "Brisel");
+    EXPECT_EQ(call.icon, "org.brisel.Brisel");
+    EXPECT_EQ(call.summary, "Found");
+    EXPECT_EQ(call.body, "Go?");
+    EXPECT_EQ(call.replaces, 0U);
+    EXPECT_EQ(call.time, -1);
+    EXPECT_THAT(call.hints, UnorderedElementsAre(Pair("urgency", "0x01"),
+                                                 Pair("desktop-entry", "'org.brisel.Brisel'")));
+}
+
+TEST_F(Notifications, HaveTheirButtonsInOrder) {
+    FakeNotifications desktop({"actions"});
+    desktop.service.appear();
+    auto notification = popUp("Found");
+    notification.actions = {{"DO", "Yes, sure!"}, {"NOT", "No,\nthanks."}};
+    show(notification);
+    EXPECT_THAT(desktop.calls().front().actions,
+                ElementsAre("DO", "Yes, sure!", "NOT", "No,^Jthanks."));
+}
+
+TEST_F(Notifications, OfOutsideTextsAreHarmless) {
+    FakeNotifications desktop({});
+    desktop.service.appear();
+    show(popUp("a\x1b[2J\xff",
+               "b\xe2\x80\xae"
+               "c\n"));
+    EXPECT_EQ(desktop.calls().front().summary, "a^[[2J\xef\xbf\xbd");
+    EXPECT_EQ(desktop.calls().front().body, "bc^J");
+}
+
+TEST_F(Notifications, ThatAreCriticalSaySo) {
+    FakeNotifications desktop({});
+    desktop.service.appear();
+    server_.showCritical("Bad", "Very");
+    turnUntil([&] { return !desktop.calls().empty(); });
+    EXPECT_THAT(desktop.calls().front().hints, testing::Contains(Pair("urgency", "0x02")));
+}
+
+TEST_F(Notifications, FailWithoutAServer) {
+    const auto shown = show(popUp("Found"));
+    ASSERT_TRUE(shown.error.has_value());
+    EXPECT_THAT(shown.error->localizedDescription, HasSubstr("org.freedesktop.Notifications"));
+}
+
+TEST_F(Notifications, FailWithTheServersError) {
+    FakeNotifications desktop({});
+    desktop.service.on("Notify", [](const auto& call) {
+        call.refuse("org.freedesktop.Notifications.Error.ExcessNotificationGeneration");
+    });
+    desktop.service.appear();
+    const auto shown = show(popUp("Found"));
+    ASSERT_TRUE(shown.error.has_value());
+    EXPECT_THAT(shown.error->localizedDescription, HasSubstr("It is refused."));
+}
+
+TEST_F(Notifications, FailWhenTheServerGivesUpOnThem) {
+    FakeNotifications desktop({});
+    // What a server made with GIO answers when its own work was cancelled.
+    desktop.service.on("Notify", [](const auto& call) {
+        call.refuse("org.gtk.GDBus.UnmappedGError.Quark._g_2dio_2derror_2dquark.Code19");
+    });
+    desktop.service.appear();
+    EXPECT_TRUE(show(popUp("Found")).error.has_value());
+}
+
+TEST_F(Notifications, FailWithAnAnswerOfAnotherType) {
+    FakeNotifications desktop({});
+    desktop.service.appear();
+    for (const char* const answer : {"('1',)", "()", "(1, 2)", "(uint64 1,)"}) {
+        desktop.service.on(
+            "Notify", [answer](const auto& call) { call.answer(g_variant_new_parsed(answer)); });
+        EXPECT_TRUE(show(popUp("Found")).error.has_value()) << answer;
+    }
+}
+
+TEST_F(Notifications, FailWhenTheServerEndsBeforeItsAnswer) {
+    auto desktop = std::make_unique<FakeNotifications>(std::vector<std::string>{});
+    std::optional<tests::BusCall> waiting;
+    desktop->service.on("Notify", [&](const auto& call) { waiting = call; });
+    desktop->service.appear();
+    std::optional<Error> failure;
+    server_.show(popUp("Found"), [&failure](auto, const auto& error) { failure = error; });
+    turnUntil([&waiting] { return waiting.has_value(); });
+    waiting->drop();
+    desktop.reset();
+    turnUntil([&failure] { return failure.has_value(); });
+}
+
+TEST_F(Notifications, PassOverCapabilitiesOfAnotherType) {
+    FakeNotifications desktop({});
+    desktop.service.on("GetCapabilities",
+                       [](const auto& call) { call.answer(g_variant_new_parsed("('sound',)")); });
+    desktop.service.appear();
+    auto notification = popUp("Found");
+    notification.soundName = "device-added";
+    EXPECT_FALSE(show(notification).error.has_value());
+    EXPECT_FALSE(desktop.calls().front().hints.contains("sound-name"));
+}
+
+TEST_F(Notifications, GoToTheServerThatAnswersAtLast) {
+    FakeNotifications desktop({});
+    std::optional<tests::BusCall> waiting;
+    desktop.service.on("Notify", [&](const auto& call) { waiting = call; });
+    desktop.service.appear();
+    std::optional<std::uint32_t> number;
+    server_.show(popUp("Found"), [&number](auto shown, const auto&) { number = shown; });
+    turnUntil([&waiting] { return waiting.has_value(); });
+    EXPECT_FALSE(number.has_value());
+    waiting->answer(g_variant_new("(u)", 4));
+    turnUntil([&number] { return number.has_value(); });
+    EXPECT_EQ(number, 4U);
+}
+
+class NotificationSignals : public Notifications {
+  protected:
+    NotificationSignals() { desktop_.service.appear(); }
+    void catchUp() { show(popUp("Last")); }
+
+    FakeNotifications desktop_{{}};
+    std::vector<std::string> heard_;
+    Subscription actions_ = server_.onActionInvoked([this](auto number, const auto& key) {
+        heard_.push_back(std::to_string(number) + " " + key);
+    });
+    Subscription closings_ = server_.onClosed([this](auto number, auto reason) {
+        heard_.push_back(std::to_string(number) + " closed " + std::to_string(reason));
+    });
+};
+
+TEST_F(NotificationSignals, AreHeard) {
+    desktop_.invoke(3, "DO");
+    desktop_.close(3, 2);
+    turnUntil([this] { return heard_.size() == 2; });
+    EXPECT_THAT(heard_, ElementsAre("3 DO", "3 closed 2"));
+}
+
+TEST_F(NotificationSignals, OfOtherTypesArePassedOver) {
+    desktop_.service.emit("ActionInvoked", g_variant_new("(s)", "DO"));
+    desktop_.service.emit("ActionInvoked", nullptr);
+    desktop_.service.emit("NotificationClosed", g_variant_new("(u)", 3));
+    catchUp();
+    EXPECT_THAT(heard_, IsEmpty());
+}
+
+TEST_F(NotificationSignals, FromStrangersArePassedOver) {
+    const FakeNotifications stranger({});
+    stranger.invoke(3, "DO");
+    g_dbus_connection_flush_sync(stranger.service.bus(), nullptr, nullptr);
+    catchUp();
+    EXPECT_THAT(heard_, IsEmpty());
+}
+
+TEST_F(NotificationSignals, AreNotHeardAfterTheEndOfTheSubscription) {
+    actions_.reset();
+    desktop_.invoke(3, "DO");
+    catchUp();
+    EXPECT_THAT(heard_, IsEmpty());
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::linux
