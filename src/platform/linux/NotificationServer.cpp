@@ -35,22 +35,31 @@ std::string escaped(const std::string& text) {
     return markup.get();
 }
 
+// None in an answer of another type.
+std::set<std::string, std::less<>> wordsIn(GVariant* answer) {
+    std::set<std::string, std::less<>> words;
+    if (g_variant_is_of_type(answer, G_VARIANT_TYPE("(as)")) == FALSE) return words;
+    const OwnedVariant list(g_variant_get_child_value(answer, 0));
+    GVariantIter iterator;
+    g_variant_iter_init(&iterator, list.get());
+    const char* word = nullptr;
+    while (g_variant_iter_next(&iterator, "&s", &word) != FALSE)
+        words.insert(word);
+    return words;
+}
+
 }  // namespace
 
 NotificationServer::NotificationServer(GDBusConnection* bus) : server_(bus, Name, Path, Name) {
-    watching_ = server_.watch([this] { askForCapabilities(); }, [this] { capabilities_.clear(); });
+    watching_ = server_.watch([] {}, [this] { capabilities_.reset(); });
 }
 
-void NotificationServer::askForCapabilities() {
-    server_.call("GetCapabilities", nullptr, [this](const auto& answer, const auto& /*error*/) {
-        if (!answer || g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(as)")) == FALSE) return;
-        GVariantIter* words = nullptr;
-        g_variant_get(answer.get(), "(as)", &words);
-        const char* word = nullptr;
-        while (g_variant_iter_next(words, "&s", &word) != FALSE)
-            capabilities_.insert(word);
-        g_variant_iter_free(words);
-    });
+void NotificationServer::askForCapabilities(std::function<void()> known) {
+    server_.call("GetCapabilities", nullptr,
+                 [this, known = std::move(known)](const auto& answer, const auto& /*error*/) {
+                     if (answer) capabilities_ = wordsIn(answer.get());
+                     known();
+                 });
 }
 
 GVariant* NotificationServer::hintsFor(const Notification& notification) const {
@@ -73,6 +82,15 @@ GVariant* NotificationServer::argumentsFor(const Notification& notification) con
 }
 
 void NotificationServer::show(const Notification& notification, Shown shown) {
+    if (capabilities_) {
+        notify(notification, std::move(shown));
+        return;
+    }
+    askForCapabilities(
+        [this, notification, shown = std::move(shown)] { notify(notification, shown); });
+}
+
+void NotificationServer::notify(const Notification& notification, Shown shown) {
     server_.call("Notify", argumentsFor(notification),
                  [shown = std::move(shown)](const OwnedVariant& answer, const CallError& error) {
                      const bool understood =

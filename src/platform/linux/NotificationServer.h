@@ -44,7 +44,8 @@ class NotificationServer {
 
     explicit NotificationServer(GDBusConnection* bus);
 
-    /// Shows it with whatever of it the server can do.
+    /// Shows it with whatever of it the server can do, which is asked first of a new one. Where the
+    /// bus can start a server, that question starts it.
     void show(const Notification& notification, Shown shown);
     /// Shows two texts so that they stay until somebody has seen them.
     void showCritical(const std::string& summary, const std::string& body);
@@ -55,15 +56,17 @@ class NotificationServer {
     [[nodiscard]] Subscription onVanished(std::function<void()> vanished);
 
   private:
-    void askForCapabilities();
+    void askForCapabilities(std::function<void()> known);
     [[nodiscard]] bool can(const char* capability) const {
-        return capabilities_.contains(capability);
+        return capabilities_ && capabilities_->contains(capability);
     }
+    void notify(const Notification& notification, Shown shown);
     [[nodiscard]] GVariant* argumentsFor(const Notification& notification) const;
     [[nodiscard]] GVariant* hintsFor(const Notification& notification) const;
 
     BusClient server_;
-    std::set<std::string, std::less<>> capabilities_;
+    /// None until the server has told.
+    std::optional<std::set<std::string, std::less<>>> capabilities_;
     Subscription watching_;
 };
 

@@ -34,6 +34,12 @@ class Notifications : public testing::Test {
         turnUntil([&shown] { return shown.has_value(); });
         return *shown;
     }
+    void leave(FakeNotifications& desktop) {
+        bool gone = false;
+        const auto leaving = server_.onVanished([&gone] { gone = true; });
+        desktop.service.vanish();
+        turnUntil([&gone] { return gone; });
+    }
     static Notification popUp(const std::string& summary, const std::string& body = "") {
         return {.summary = summary, .body = body};
     }
@@ -69,6 +75,36 @@ TEST_F(Notifications, HaveTheirButtonsInOrder) {
     show(notification);
     EXPECT_THAT(desktop.calls().front().actions,
                 ElementsAre("DO", "Yes, sure!", "NOT", "No,^Jthanks."));
+}
+
+// The very first ones included, and those of a server that takes the place of another.
+TEST_F(Notifications, AskForASoundOnlyOfAServerThatCanSound) {
+    auto notification = popUp("Found");
+    notification.soundName = "device-added";
+    FakeNotifications loud({"sound"});
+    loud.service.appear();
+    show(notification);
+    EXPECT_THAT(loud.calls().front().hints,
+                testing::Contains(Pair("sound-name", "'device-added'")));
+    leave(loud);
+    FakeNotifications mute({"actions"});
+    mute.service.appear();
+    show(notification);
+    EXPECT_FALSE(mute.calls().front().hints.contains("sound-name"));
+}
+
+TEST_F(Notifications, EscapeTheBodyOnlyForAServerThatReadsMarkup) {
+    const auto notification = popUp("<b>A&B</b>", "<b>A&B</b>");
+    FakeNotifications reader({"body-markup"});
+    reader.service.appear();
+    show(notification);
+    EXPECT_EQ(reader.calls().front().body, "&lt;b&gt;A&amp;B&lt;/b&gt;");
+    EXPECT_EQ(reader.calls().front().summary, "<b>A&B</b>");
+    leave(reader);
+    FakeNotifications plain({"body"});
+    plain.service.appear();
+    show(notification);
+    EXPECT_EQ(plain.calls().front().body, "<b>A&B</b>");
 }
 
 TEST_F(Notifications, OfOutsideTextsAreHarmless) {
