@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/BusClient.h"
 
+#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -83,6 +84,13 @@ void BusClient::call(const char* method, GVariant* arguments, Done done) {
     g_dbus_connection_call(bus_.get(), name_.c_str(), path_.c_str(), interface_.c_str(), method,
                            arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
                            &finishCall, new Call(std::move(done), cancellable_.get()));
+}
+
+OwnedVariant BusClient::callAndWait(const char* method, GVariant* arguments) {
+    constexpr std::chrono::milliseconds TimeLimit{5000};
+    return OwnedVariant(g_dbus_connection_call_sync(
+        bus_.get(), name_.c_str(), path_.c_str(), interface_.c_str(), method, arguments, nullptr,
+        G_DBUS_CALL_FLAGS_NONE, TimeLimit.count(), nullptr, nullptr));
 }
 
 void BusClient::readProperty(const char* name, Done done) {

@@ -26,6 +26,9 @@ class BusClient {
 
     /// Calls a method of the object's interface. `arguments` is a tuple, floating or null for none.
     void call(const char* method, GVariant* arguments, Done done);
+    /// The same while the calling thread does nothing else, for some seconds at most. Null when the
+    /// call has failed.
+    OwnedVariant callAndWait(const char* method, GVariant* arguments);
     /// Reads a property of the object's interface; the answer is the bare value.
     void readProperty(const char* name, Done done);
 

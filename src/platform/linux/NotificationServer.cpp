@@ -107,7 +107,11 @@ void NotificationServer::notify(const Notification& notification, Shown shown) {
 void NotificationServer::showCritical(const std::string& summary, const std::string& body) {
     Notification notification{.summary = summary, .body = body};
     notification.urgency = Notification::Urgency::Critical;
-    show(notification, [](auto /*number*/, const auto& /*error*/) {});
+    if (!capabilities_) {
+        const auto answer = server_.callAndWait("GetCapabilities", nullptr);
+        if (answer) capabilities_ = wordsIn(answer.get());
+    }
+    server_.callAndWait("Notify", argumentsFor(notification));
 }
 
 Subscription NotificationServer::onActionInvoked(ActionInvoked invoked) {

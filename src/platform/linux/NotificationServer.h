@@ -47,7 +47,8 @@ class NotificationServer {
     /// Shows it with whatever of it the server can do, which is asked first of a new one. Where the
     /// bus can start a server, that question starts it.
     void show(const Notification& notification, Shown shown);
-    /// Shows two texts so that they stay until somebody has seen them.
+    /// Shows two texts so that they stay until somebody has seen them. Waits for the server to have
+    /// them, for some seconds at most: the program may be about to end.
     void showCritical(const std::string& summary, const std::string& body);
 
     [[nodiscard]] Subscription onActionInvoked(ActionInvoked invoked);

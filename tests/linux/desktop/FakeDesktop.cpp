@@ -113,6 +113,23 @@ void FakeNotifications::close(std::uint32_t number, std::uint32_t reason) const 
     service.emit("NotificationClosed", g_variant_new("(uu)", number, reason));
 }
 
+BusyNotifications::BusyNotifications(std::vector<std::string> capabilities) {
+    program_.run([&] {
+        server_.emplace(std::move(capabilities));
+        server_->service.appear();
+    });
+}
+
+BusyNotifications::~BusyNotifications() {
+    program_.run([this] { server_.reset(); });
+}
+
+std::vector<NotifyCall> BusyNotifications::calls() const {
+    std::vector<NotifyCall> calls;
+    program_.run([&] { calls = server_->calls(); });
+    return calls;
+}
+
 FakePortal::FakePortal(std::uint32_t scheme) : service(PortalInterface), scheme_(scheme) {
     service.on("Read", [this](const BusCall& call) {
         ++timesAsked_;

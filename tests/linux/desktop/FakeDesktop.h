@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -60,6 +61,21 @@ class FakeNotifications {
 
     std::uint32_t next_ = 1;
     std::vector<NotifyCall> calls_;
+};
+
+/// The same on a thread of its own.
+class BusyNotifications {
+  public:
+    explicit BusyNotifications(std::vector<std::string> capabilities);
+    BusyNotifications(const BusyNotifications&) = delete;
+    BusyNotifications& operator=(const BusyNotifications&) = delete;
+    ~BusyNotifications();
+
+    [[nodiscard]] std::vector<NotifyCall> calls() const;
+
+  private:
+    OtherProgram program_;
+    std::optional<FakeNotifications> server_;
 };
 
 class FakePortal {

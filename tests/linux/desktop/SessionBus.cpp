@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <future>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -63,13 +64,40 @@ bool turnUntil(const std::function<bool()>& reached) {
 }
 
 void waitForDesk() {
-    std::promise<void> done;
+    using Done = std::shared_ptr<std::promise<void>>;
+    const auto done = std::make_shared<std::promise<void>>();
     const auto signalDone = [](gpointer promise) {
-        static_cast<std::promise<void>*>(promise)->set_value();
+        (*static_cast<Done*>(promise))->set_value();
         return G_SOURCE_REMOVE;
     };
-    g_idle_add_full(G_PRIORITY_LOW, signalDone, &done, nullptr);
-    EXPECT_EQ(done.get_future().wait_for(Patience), std::future_status::ready);
+    g_idle_add_full(G_PRIORITY_LOW, signalDone, new Done(done),
+                    [](gpointer promise) { delete static_cast<Done*>(promise); });
+    EXPECT_EQ(done->get_future().wait_for(Patience), std::future_status::ready);
+}
+
+OtherProgram::OtherProgram() {
+    std::promise<GMainContext*> started;
+    thread_ = std::thread([this, &started] {
+        platform::linux::OwnMainLoop loop;
+        end_ = [&loop] { loop.quit(); };
+        started.set_value(loop.context());
+        loop.run();
+    });
+    context_ = started.get_future().get();
+}
+
+OtherProgram::~OtherProgram() {
+    platform::linux::handTo(context_, end_);
+    thread_.join();
+}
+
+void OtherProgram::run(const std::function<void()>& work) const {
+    const auto done = std::make_shared<std::promise<void>>();
+    platform::linux::handTo(context_, [&work, done] {
+        work();
+        done->set_value();
+    });
+    done->get_future().wait();
 }
 
 BusCaller::BusCaller(std::string name, std::string path, std::string interface)

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "platform/linux/GLibOwners.h"
@@ -45,6 +46,23 @@ bool turnUntil(const std::function<bool()>& reached);
 
 /// Waits until the default context, on whatever thread it turns, has done all that waits there.
 void waitForDesk();
+
+/// A thread with a loop of its own, for services that answer while the test's thread waits.
+class OtherProgram {
+  public:
+    OtherProgram();
+    OtherProgram(const OtherProgram&) = delete;
+    OtherProgram& operator=(const OtherProgram&) = delete;
+    ~OtherProgram();
+
+    /// Runs it on the thread and waits for its end.
+    void run(const std::function<void()>& work) const;
+
+  private:
+    GMainContext* context_ = nullptr;
+    std::function<void()> end_;
+    std::thread thread_;
+};
 
 /// A program that asks others on the bus.
 class BusCaller {
