@@ -56,11 +56,12 @@ void UserNotificationCenter::showNext() {
 
 void UserNotificationCenter::finishShow(std::uint32_t number, const std::optional<Error>& error) {
     const auto shown = std::move(waiting_.front());
-    waiting_.pop_front();
     if (!error) {
         popUps_[shown.request.identifier] = {.number = number, .userInfo = shown.request.userInfo};
     }
     shown.handler(error);
+    // Not before: what the handler asks for has to wait its turn too.
+    waiting_.pop_front();
     showNext();
 }
 
