@@ -79,8 +79,10 @@ Notification UserNotificationCenter::notificationFor(const NotificationRequest& 
 }
 
 void UserNotificationCenter::respond(std::uint32_t number, const std::string& action) {
-    for (const auto& [identifier, popUp] : popUps_) {
+    for (auto& [identifier, popUp] : popUps_) {
         if (number == 0 || popUp.number != number) continue;
+        // There is nothing more to come from it: after a choice servers close the pop-up, too.
+        popUp.number = 0;
         // A copy: what the response leads to may show another pop-up in its place.
         const NotificationResponse response{.requestIdentifier = identifier,
                                             .actionIdentifier = action,

@@ -145,6 +145,22 @@ TEST_F(ShownPrompts, GiveTheChosenActionToTheDelegate) {
     EXPECT_THAT(responses_, ElementsAre("mount NOT Data"));
 }
 
+TEST_F(ShownPrompts, GiveOneResponseEvenIfTheServerAlsoClosesThem) {
+    prompt("mount", "Data");
+    desktop_.invoke(1, "DO");
+    desktop_.close(1, Dismissed);
+    catchUp();
+    EXPECT_THAT(responses_, ElementsAre("mount DO Data"));
+}
+
+TEST_F(ShownPrompts, AreNotReplacedOnceTheyHaveBeenAnswered) {
+    prompt("mount", "Data");
+    desktop_.close(1, Dismissed);
+    catchUp();
+    prompt("mount", "More");
+    EXPECT_EQ(desktop_.calls().back().replaces, 0U);
+}
+
 TEST_F(ShownPrompts, IgnoreTheNumbersOfOthers) {
     prompt("mount", "Data");
     desktop_.invoke(2, "DO");
