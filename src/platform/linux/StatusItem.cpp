@@ -81,6 +81,7 @@ const std::vector<MenuEntry>& StatusItem::menuEntries() {
 }
 
 void StatusItem::choose(int number) {
+    showMenu();
     if (const auto* const item = numbered_.itemWithNumber(number)) common::choose(*item);
 }
 

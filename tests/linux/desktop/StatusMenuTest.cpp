@@ -1,0 +1,224 @@
+// The status menu on the bus: what panels read and hear of it, and what a click does.
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <set>
+
+#include "tests/linux/desktop/MenuHost.h"
+#include "tests/linux/desktop/StatusItemOnBus.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using tests::turnUntil;
+
+constexpr int VolumeTag = 7;
+
+class TheStatusMenu : public tests::StatusItemOnBus {
+  protected:
+    TheStatusMenu() {
+        MenuItem separator;
+        separator.separator = true;
+        MenuItem title;
+        title.title = "Brisel 1.0";
+        auto login = item("Start at Login", "toggle:");
+        login.checked = true;
+        menu_.load({title, separator, login, item("Quit", "quit:")});
+        item_->setImage("brisel-status-grey-light");
+        static_cast<void>(host_.newSignals());
+    }
+    MenuItem item(const std::string& title, std::string_view action) {
+        MenuItem item;
+        item.title = title;
+        item.action = action;
+        item.target = [this](const MenuItem& sender) {
+            chosen_.push_back(sender.title);
+            threads_.push_back(std::this_thread::get_id());
+        };
+        return item;
+    }
+    /// Puts items of these titles on top, for things of their own.
+    void insertVolumes(const std::vector<std::string>& titles) {
+        for (const auto& title : titles) {
+            auto volume = item(title, "mount:");
+            volume.tag = VolumeTag;
+            volume.representedObject = std::make_shared<RepresentedObject>();
+            menu_.insertItem(volume, 0);
+        }
+    }
+    void removeVolumes() { menu_.removeItemsWithTags(std::array{VolumeTag}); }
+    /// Lets the menu's changes out.
+    void turn() {
+        while (g_main_context_iteration(loop_.context(), FALSE) != FALSE) {
+        }
+    }
+    tests::ShownMenu read() {
+        turn();
+        return host_.read();
+    }
+    void click(int id) {
+        host_.click(id);
+        turn();
+    }
+    std::string labelOf(const std::string& title) {
+        insertVolumes({title});
+        const auto label = read().items.front().label;
+        removeVolumes();
+        return label;
+    }
+
+    tests::MenuHost host_;
+    std::vector<std::string> chosen_;
+    std::vector<std::thread::id> threads_;
+};
+
+TEST_F(TheStatusMenu, ShowsItsItemsInOrder) {
+    EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login [x] | Quit");
+    insertVolumes({"Data", "More"});
+    EXPECT_EQ(read().text(), "More | Data | (Brisel 1.0) | --- | Start at Login [x] | Quit");
+    removeVolumes();
+    EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login [x] | Quit");
+}
+
+TEST_F(TheStatusMenu, FollowsCheckMarks) {
+    menu_.setChecked("toggle:", false);
+    EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login | Quit");
+    menu_.setChecked("toggle:", true);
+    EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login [x] | Quit");
+}
+
+TEST_F(TheStatusMenu, ShowsUnderscoresAsThemselves) {
+    EXPECT_EQ(labelOf("My_Data__1"), "My__Data____1");
+}
+
+TEST_F(TheStatusMenu, ShowsHostileLabelsHarmlessly) {
+    EXPECT_EQ(labelOf("a\x1b[2J\nb"), "a^[[2J^Jb");
+    EXPECT_EQ(labelOf("a\xff\xfe"
+                      "b"),
+              "a\xef\xbf\xbd\xef\xbf\xbd"
+              "b");
+    EXPECT_EQ(labelOf("evil\xe2\x80\xaegpj.exe\xe2\x81\xa6"), "evilgpj.exe");
+    EXPECT_EQ(labelOf(std::string("a\0b", 3)),
+              "a\xef\xbf\xbd"
+              "b");
+    EXPECT_EQ(labelOf(""), "");
+    EXPECT_EQ(labelOf(std::string(5000, 'x')), std::string(5000, 'x'));
+}
+
+TEST_F(TheStatusMenu, TellsPanelsOfNewItems) {
+    const auto before = read().revision;
+    static_cast<void>(host_.newSignals());
+    insertVolumes({"Data"});
+    const auto after = read().revision;
+    EXPECT_GT(after, before);
+    EXPECT_THAT(host_.newSignals(), Contains("LayoutUpdated"));
+}
+
+TEST_F(TheStatusMenu, TellsPanelsOfAChangedCheckMark) {
+    static_cast<void>(read());
+    menu_.setChecked("toggle:", false);
+    turn();
+    EXPECT_THAT(host_.newSignals(), Contains("ItemsPropertiesUpdated"));
+}
+
+TEST_F(TheStatusMenu, TellsPanelsNothingWhenItIsTheSameAsBefore) {
+    insertVolumes({"Data"});
+    const auto before = read();
+    static_cast<void>(host_.newSignals());
+    const auto volume = menu_.items().front();
+    removeVolumes();
+    menu_.insertItem(volume, 0);
+    menu_.setChecked("toggle:", true);
+    turn();
+    EXPECT_THAT(host_.newSignals(), IsEmpty());
+    EXPECT_EQ(read().ids(), before.ids());
+    EXPECT_EQ(read().revision, before.revision);
+}
+
+TEST_F(TheStatusMenu, KeepsTheNumbersOfItemsThatStay) {
+    insertVolumes({"Data"});
+    const auto before = read();
+    insertVolumes({"More"});
+    const auto after = read();
+    for (const char* const label : {"Data", "Start at Login", "Quit"})
+        EXPECT_EQ(after.idOf(label), before.idOf(label)) << label;
+}
+
+TEST_F(TheStatusMenu, FollowsAnotherOrder) {
+    insertVolumes({"Data", "More"});
+    const auto before = read();
+    const auto more = menu_.items().at(0);
+    const auto data = menu_.items().at(1);
+    removeVolumes();
+    menu_.insertItem(more, 0);
+    menu_.insertItem(data, 0);
+    const auto after = read();
+    EXPECT_EQ(after.text(), "Data | More | (Brisel 1.0) | --- | Start at Login [x] | Quit");
+    EXPECT_EQ(after.idOf("Data"), before.idOf("Data"));
+}
+
+TEST_F(TheStatusMenu, NeverUsesANumberAgain) {
+    constexpr int Rebuilds = 200;
+    std::set<int> ids;
+    std::vector<std::weak_ptr<RepresentedObject>> volumes;
+    for (int rebuild = 0; rebuild < Rebuilds; ++rebuild) {
+        removeVolumes();
+        insertVolumes({"Data"});
+        volumes.push_back(menu_.items().front().representedObject);
+        const auto shown = read();
+        ASSERT_EQ(shown.items.size(), 5U);
+        EXPECT_TRUE(ids.insert(shown.idOf("Data")).second);
+    }
+    removeVolumes();
+    EXPECT_EQ(read().items.size(), 4U);
+    for (const auto& volume : volumes)
+        EXPECT_TRUE(volume.expired());
+}
+
+TEST_F(TheStatusMenu, DoesWhatIsClickedOnTheMainThread) {
+    click(read().idOf("Quit"));
+    turnUntil([this] { return !chosen_.empty(); });
+    EXPECT_THAT(chosen_, ElementsAre("Quit"));
+    EXPECT_THAT(threads_, ElementsAre(std::this_thread::get_id()));
+}
+
+TEST_F(TheStatusMenu, DoesNothingForAClickOnWhatHasGone) {
+    insertVolumes({"Data"});
+    const auto shown = read();
+    // The click comes first, but the item has gone before the main thread hears of it.
+    host_.click(shown.idOf("Data"));
+    removeVolumes();
+    turn();
+    EXPECT_THAT(chosen_, IsEmpty());
+    item_->choose(shown.idOf("Data"));
+    EXPECT_THAT(chosen_, IsEmpty());
+}
+
+TEST_F(TheStatusMenu, DoesNothingForAClickOnAText) {
+    click(read().idOf("Brisel 1.0"));
+    click(0);
+    EXPECT_THAT(chosen_, IsEmpty());
+}
+
+TEST_F(TheStatusMenu, StaysAsItIsWhenAnItemRebuildsIt) {
+    MenuItem volume = item("Data", "mount:");
+    volume.tag = VolumeTag;
+    volume.target = [this](const MenuItem& sender) {
+        removeVolumes();
+        chosen_.push_back(sender.title);
+    };
+    menu_.insertItem(volume, 0);
+    click(read().idOf("Data"));
+    EXPECT_THAT(chosen_, ElementsAre("Data"));
+    EXPECT_EQ(read().idOf("Data"), 0);
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::linux
