@@ -30,7 +30,7 @@ StatusItem::~StatusItem() {
 StatusItem::Tray& StatusItem::tray() {
     if (!tray_) {
         const auto chosen = [this](int number) {
-            handTo(mainContext_, [this, number] { choose(number); });
+            handTo(mainContext_, whileHere([this, number] { choose(number); }));
         };
         auto* const bus = surroundings_.bus;
         tray_.reset(new Tray{TrayMenu(chosen),
@@ -38,6 +38,12 @@ StatusItem::Tray& StatusItem::tray() {
                              ColourScheme(bus, [this](auto scheme) { noteScheme(scheme); })});
     }
     return *tray_;
+}
+
+std::function<void()> StatusItem::whileHere(std::function<void()> work) const {
+    return [work = std::move(work), here = std::weak_ptr(here_)] {
+        if (!here.expired()) work();
+    };
 }
 
 void StatusItem::setImage(const std::optional<std::string>& name) {
@@ -58,7 +64,7 @@ Subscription StatusItem::observeEffectiveAppearance(std::function<void()> change
 
 void StatusItem::noteScheme(ColourScheme::Scheme scheme) {
     dark_ = scheme == ColourScheme::Scheme::Dark;
-    surroundings_.mainThread.post([this] { appearanceChanged_(); });
+    surroundings_.mainThread.post(whileHere([this] { appearanceChanged_(); }));
 }
 
 void StatusItem::showMenuSoon() {

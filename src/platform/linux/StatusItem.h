@@ -5,6 +5,7 @@
 #include <gio/gio.h>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -60,6 +61,8 @@ class StatusItem final : public platform::StatusItem {
     void noteScheme(ColourScheme::Scheme scheme);
     /// On the desk's thread.
     [[nodiscard]] Tray& tray();
+    /// `work` for the main thread, which may come to it when the item has gone: nothing then.
+    [[nodiscard]] std::function<void()> whileHere(std::function<void()> work) const;
 
     Surroundings surroundings_;
     NumberedMenu numbered_;
@@ -69,6 +72,8 @@ class StatusItem final : public platform::StatusItem {
     common::Signal<> appearanceChanged_;
     std::atomic<bool> dark_ = false;
     GMainContext* mainContext_ = g_main_context_get_thread_default();
+    /// There as long as the item.
+    std::shared_ptr<void> here_ = std::make_shared<char>();
     std::unique_ptr<Tray> tray_;
     DeskThread desk_;
 };

@@ -206,6 +206,13 @@ TEST_F(TheStatusMenu, DoesNothingForAClickOnAText) {
     EXPECT_THAT(chosen_, IsEmpty());
 }
 
+TEST_F(TheStatusMenu, ForgetsAClickThatComesTooLate) {
+    host_.click(read().idOf("Quit"));
+    item_.reset();
+    turn();
+    EXPECT_THAT(chosen_, IsEmpty());
+}
+
 TEST_F(TheStatusMenu, StaysAsItIsWhenAnItemRebuildsIt) {
     MenuItem volume = item("Data", "mount:");
     volume.tag = VolumeTag;
