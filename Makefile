@@ -1,5 +1,5 @@
 # What there is to do with the sources; CMakePresets.json says how each build is made.
-.PHONY: all run test bench package coverage tidy format clean
+.PHONY: all run test bench bench-desktop package coverage tidy format clean
 
 all:
 	scripts/install-needs build
@@ -32,6 +32,13 @@ bench:
 	cmake --build --preset bench
 	build/bin/brisel-benchmarks
 	build/bin/brisel-benchmarks --check-growth
+
+# Beside another tray program, in a session of its own; better on a machine that does nothing else.
+bench-desktop:
+	scripts/install-needs bench-desktop
+	cmake --preset release
+	cmake --build --preset release
+	/usr/bin/python3 -B benchmarks/desktop/compare.py build/bin
 
 # The times in the packages are those of the last change, so that the same sources make the same bytes.
 package: export SOURCE_DATE_EPOCH ?= $(shell git log -1 --format=%ct)
