@@ -31,7 +31,8 @@ gunichar shownAs(gunichar letter) {
     constexpr gunichar Replacement = 0xfffd;
     if (letter == '\n') return letter;
     if (letter == '\t' || letter == '\r') return ' ';
-    return g_unichar_iscntrl(letter) || turnsDirection(letter) ? Replacement : letter;
+    const bool isControl = g_unichar_iscntrl(letter) != FALSE;
+    return isControl || turnsDirection(letter) ? Replacement : letter;
 }
 
 }  // namespace

@@ -91,7 +91,8 @@ GtkWidget* newScroller(GtkWidget* content) {
 
 GtkWidget* newIcon(const char* other) {
     auto* theme = gtk_icon_theme_get_default();
-    const char* name = gtk_icon_theme_has_icon(theme, IconName) ? IconName : other;
+    const bool isInstalled = gtk_icon_theme_has_icon(theme, IconName) == TRUE;
+    const char* name = isInstalled ? IconName : other;
     auto* icon = gtk_image_new_from_icon_name(name, GTK_ICON_SIZE_DIALOG);
     atk_object_set_name(gtk_widget_get_accessible(icon), "Brisel");
     return icon;

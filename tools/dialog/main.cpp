@@ -22,7 +22,7 @@ bool openDisplay() {
     g_set_prgname(IconName);
     g_set_application_name("Brisel");
     // The arguments are ours alone: a text that looks like an option of GTK is a text.
-    if (!gtk_init_check(nullptr, nullptr)) return false;
+    if (gtk_init_check(nullptr, nullptr) == FALSE) return false;
     gtk_window_set_default_icon_name(IconName);
     return true;
 }
