@@ -8,6 +8,7 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
+#include <iterator>
 
 namespace brisel::platform::linux {
 
@@ -17,7 +18,6 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr int NothingPressed = -1;
-constexpr std::chrono::seconds TimeToShow{10};
 constexpr const char* DefaultButton = "OK";
 
 bool isWaiting(const DialogProcess& window) {
@@ -35,18 +35,20 @@ int patienceWith(const DialogProcess& window, Clock::time_point latestShown) {
 }  // namespace
 
 int Alert::runModal(const AlertContent& content) {
+    auto buttons = content.buttons;
+    if (buttons.empty()) buttons.emplace_back(DefaultButton);
     std::vector<std::string> arguments{"alert", content.messageText, content.informativeText};
-    if (content.buttons.empty()) arguments.emplace_back(DefaultButton);
-    arguments.insert(arguments.end(), content.buttons.begin(), content.buttons.end());
+    arguments.insert(arguments.end(), buttons.begin(), buttons.end());
     DialogProcess window(surroundings_.dialog, arguments);
     waitFor(window);
-    if (const auto pressed = window.pressed()) return AlertFirstButtonReturn + *pressed;
+    const int pressed = window.pressed().value_or(NothingPressed);
+    if (pressed >= 0 && pressed < std::ssize(buttons)) return AlertFirstButtonReturn + pressed;
     if (!window.wasShown()) tellOtherwise(content);
-    return content.buttons.size() > 1 ? NothingPressed : AlertFirstButtonReturn;
+    return buttons.size() > 1 ? NothingPressed : AlertFirstButtonReturn;
 }
 
 void Alert::waitFor(DialogProcess& window) const {
-    const auto latestShown = Clock::now() + TimeToShow;
+    const auto latestShown = Clock::now() + surroundings_.patience;
     while (isWaiting(window)) {
         std::array<pollfd, 3> awaited{
             pollfd{.fd = window.descriptor(), .events = POLLIN, .revents = 0},

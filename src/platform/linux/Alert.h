@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <string>
 #include <utility>
 
@@ -18,6 +19,9 @@ namespace brisel::platform::linux {
 /// Of several buttons none counts as pressed then.
 class Alert final : public platform::Alert {
   public:
+    /// A slow machine shows a window in less.
+    static constexpr std::chrono::seconds UsualPatience{10};
+
     /// All of them must outlive the alert. Whatever is asked once `interruption` is readable counts
     /// as unanswered.
     struct Surroundings {
@@ -27,6 +31,8 @@ class Alert final : public platform::Alert {
         int interruption;
         /// The path of the dialog program.
         std::string dialog;
+        /// How long a window may take to come up.
+        std::chrono::milliseconds patience = UsualPatience;
     };
 
     explicit Alert(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}

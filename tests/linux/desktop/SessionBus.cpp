@@ -2,14 +2,24 @@
 // SPDX-License-Identifier: MIT
 #include "tests/linux/desktop/SessionBus.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <array>
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
+#include <fstream>
 #include <future>
+#include <iostream>
 #include <memory>
 #include <optional>
 #include <utility>
+
+#include "tests/linux/TemporaryFolder.h"
 
 namespace brisel::tests {
 
@@ -18,6 +28,18 @@ namespace {
 using std::chrono::milliseconds;
 
 constexpr std::chrono::seconds Patience{20};
+
+// No service files: the bus must start nothing of this machine's.
+constexpr const char* Configuration = R"(<busconfig>
+  <type>session</type>
+  <listen>unix:tmpdir=/tmp</listen>
+  <policy context='default'>
+    <allow user='*'/>
+    <allow send_destination='*' eavesdrop='true'/>
+    <allow eavesdrop='true'/>
+    <allow own='*'/>
+  </policy>
+</busconfig>)";
 
 OwnedVariant answerTo(GAsyncResult* result, GDBusConnection* bus) {
     return OwnedVariant(g_dbus_connection_call_finish(bus, result, nullptr));
@@ -30,23 +52,50 @@ SessionBus& SessionBus::shared() {
     return bus;
 }
 
-SessionBus::SessionBus() : bus_(g_test_dbus_new(G_TEST_DBUS_NONE)) {
-    g_test_dbus_up(bus_);
-    g_setenv("DBUS_SYSTEM_BUS_ADDRESS", g_test_dbus_get_bus_address(bus_), TRUE);
-    program_.reset(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
+SessionBus::SessionBus() : address_(start()) {
+    g_setenv("DBUS_SESSION_BUS_ADDRESS", address_.c_str(), TRUE);
+    g_setenv("DBUS_SYSTEM_BUS_ADDRESS", address_.c_str(), TRUE);
+    CallError error;
+    program_.reset(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, error.receive()));
+    if (!program_) std::cerr << "There is no message bus: " << error.message() << '\n';
     g_dbus_connection_set_exit_on_close(program_.get(), FALSE);
 }
 
 SessionBus::~SessionBus() {
-    g_test_dbus_stop(bus_);
+    kill(daemon_, SIGTERM);
+    waitpid(daemon_, nullptr, 0);
+}
+
+// Starts the bus and returns its address.
+std::string SessionBus::start() {
+    const TemporaryFolder folder;
+    const auto file = folder.path() + "/bus.conf";
+    std::ofstream(file) << Configuration;
+    const auto option = "--config-file=" + file;
+    std::array<int, 2> ends{-1, -1};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) return {};
+    daemon_ = fork();
+    if (daemon_ == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGTERM);
+        dup2(ends[1], STDOUT_FILENO);
+        execlp("dbus-daemon", "dbus-daemon", "--nofork", "--print-address", option.c_str(),
+               nullptr);
+        _exit(EXIT_FAILURE);
+    }
+    close(ends[1]);
+    std::array<char, 512> line{};
+    const auto length = read(ends[0], line.data(), line.size());
+    close(ends[0]);
+    const std::string address(line.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
+    return address.substr(0, address.find('\n'));
 }
 
 OwnedObject<GDBusConnection> SessionBus::connect() const {
     const auto flags =
         static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
                                           G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
-    return OwnedObject<GDBusConnection>(g_dbus_connection_new_for_address_sync(
-        g_test_dbus_get_bus_address(bus_), flags, nullptr, nullptr, nullptr));
+    return OwnedObject<GDBusConnection>(
+        g_dbus_connection_new_for_address_sync(address_.c_str(), flags, nullptr, nullptr, nullptr));
 }
 
 bool turnUntil(const std::function<bool()>& reached) {
@@ -76,6 +125,8 @@ void waitForDesk() {
 }
 
 OtherProgram::OtherProgram() {
+    // The bus would end with the thread that starts it.
+    static_cast<void>(SessionBus::shared());
     std::promise<GMainContext*> started;
     thread_ = std::thread([this, &started] {
         platform::linux::OwnMainLoop loop;

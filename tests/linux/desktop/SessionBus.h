@@ -3,6 +3,7 @@
 #pragma once
 
 #include <gio/gio.h>
+#include <sys/types.h>
 
 #include <functional>
 #include <string>
@@ -35,8 +36,10 @@ class SessionBus {
   private:
     SessionBus();
 
-    /// Never given up: that would wait for the last user of the libraries' shared connection.
-    GTestDBus* bus_;
+    [[nodiscard]] std::string start();
+
+    pid_t daemon_ = 0;
+    std::string address_;
     OwnedObject<GDBusConnection> program_;
 };
 

@@ -1,0 +1,205 @@
+// Alerts in windows of another program, whatever that does.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/Alert.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+#include <cstdlib>
+
+#include "tests/linux/desktop/DialogScript.h"
+#include "tests/linux/desktop/FakeDesktop.h"
+#include "tests/linux/desktop/StatusItemOnBus.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+using std::chrono::milliseconds;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using tests::DialogScript;
+
+constexpr int NothingPressed = -1;
+constexpr int NoInterruption = -1;
+constexpr milliseconds Brief{50};
+const AlertContent Question{"Sure?", "Really?", {"Yes", "No"}};
+const AlertContent Statement{"Oh", "It failed.", {}};
+
+class AnAlert : public testing::Test {
+  protected:
+    int ask(const AlertContent& content, const std::string& dialog,
+            milliseconds patience = Alert::UsualPatience, int interruption = NoInterruption) {
+        return Alert({.log = log_,
+                      .mainThread = mainThread_,
+                      .notifications = notifications_,
+                      .interruption = interruption,
+                      .dialog = dialog,
+                      .patience = patience})
+            .runModal(content);
+    }
+    int ask(const AlertContent& content, const DialogScript& dialog) {
+        return ask(content, dialog.path());
+    }
+    /// Neither the log nor the desktop has got the text.
+    void expectNothingTold() {
+        EXPECT_THAT(log_.entries(), IsEmpty());
+        EXPECT_THAT(desktop_.calls(), IsEmpty());
+    }
+    void expectToldOtherwise(const AlertContent& content) {
+        EXPECT_THAT(log_.entries(),
+                    ElementsAre("An alert could not be shown: " + content.messageText + " " +
+                                content.informativeText));
+        const auto calls = desktop_.calls();
+        ASSERT_EQ(calls.size(), 1U);
+        EXPECT_EQ(calls.front().summary, content.messageText);
+        EXPECT_EQ(calls.front().body, content.informativeText);
+        EXPECT_EQ(calls.front().hints.at("urgency"), "0x02");
+    }
+
+    OwnMainLoop loop_;
+    tests::RecordedLog log_;
+    EveryModeQueue mainThread_;
+    tests::BusyNotifications desktop_{{}};
+    NotificationServer notifications_{tests::SessionBus::shared().program()};
+};
+
+TEST_F(AnAlert, AnswersWithTheButtonThatIsPressed) {
+    EXPECT_EQ(ask(Question, DialogScript("echo shown; echo pressed 0")), AlertFirstButtonReturn);
+    EXPECT_EQ(ask(Question, DialogScript("echo shown; echo pressed 1")),
+              AlertFirstButtonReturn + 1);
+    expectNothingTold();
+}
+
+TEST_F(AnAlert, GivesItsTextsToTheWindow) {
+    const DialogScript dialog("printf '%s\\n' \"$@\" >given; echo shown; echo pressed 0");
+    ask({"Sure?", "First\nSecond; $(x) 'y'", {"Yes", "No"}}, dialog);
+    EXPECT_EQ(dialog.textIn("given"), "alert\nSure?\nFirst\nSecond; $(x) 'y'\nYes\nNo\n");
+    ask(Statement, dialog);
+    EXPECT_EQ(dialog.textIn("given"), "alert\nOh\nIt failed.\nOK\n");
+}
+
+TEST_F(AnAlert, ThatIsClosedHasNoAnswerButIsNoFailure) {
+    const DialogScript dialog("echo shown");
+    EXPECT_EQ(ask(Question, dialog), NothingPressed);
+    EXPECT_EQ(ask(Statement, dialog), AlertFirstButtonReturn);
+    expectNothingTold();
+}
+
+TEST_F(AnAlert, OfOneButtonCountsAsPressedWhenItCannotBeShown) {
+    EXPECT_EQ(ask(Statement, DialogScript("exit 1")), AlertFirstButtonReturn);
+    expectToldOtherwise(Statement);
+}
+
+TEST_F(AnAlert, OfTwoButtonsHasNoAnswerWhenItCannotBeShown) {
+    EXPECT_EQ(ask(Question, DialogScript("kill -SEGV $$")), NothingPressed);
+    expectToldOtherwise(Question);
+}
+
+TEST_F(AnAlert, IsToldOtherwiseWithoutAProgramForIt) {
+    EXPECT_EQ(ask(Question, "/nonexistent/dialog"), NothingPressed);
+    expectToldOtherwise(Question);
+}
+
+TEST_F(AnAlert, IsToldOtherwiseWhenItsWindowDoesNotComeUp) {
+    const DialogScript dialog("exec sleep 100");
+    EXPECT_EQ(ask(Question, dialog.path(), Brief), NothingPressed);
+    expectToldOtherwise(Question);
+}
+
+TEST_F(AnAlert, WaitsForAnAnswerAsLongAsItTakes) {
+    const DialogScript dialog("echo shown; sleep 1.2; echo pressed 1");
+    EXPECT_EQ(ask(Question, dialog.path(), milliseconds(1000)), AlertFirstButtonReturn + 1);
+}
+
+TEST_F(AnAlert, TakesNonsenseForNoAnswer) {
+    for (const char* const word :
+         {"hello", "pressed", "pressed x", "pressed 1x", "pressed 99999999999", "pressed 2",
+          "pressed -1", "\377\000", "shown pressed 0"}) {
+        const DialogScript dialog(std::string("echo shown; printf '") + word + "\\n'");
+        EXPECT_EQ(ask(Question, dialog), NothingPressed) << word;
+    }
+    expectNothingTold();
+}
+
+TEST_F(AnAlert, UnderstandsAWordThatComesInPieces) {
+    const DialogScript dialog(
+        "printf sho; sleep 0.05; printf 'wn\\npres'; sleep 0.05; "
+        "printf 'sed 1\\n'; exec sleep 100");
+    EXPECT_EQ(ask(Question, dialog), AlertFirstButtonReturn + 1);
+}
+
+TEST_F(AnAlert, EndsWithoutAnAnswerOnceInterrupted) {
+    std::array<int, 2> interruption{};
+    ASSERT_EQ(pipe2(interruption.data(), O_CLOEXEC), 0);
+    mainThread_.post([&] { EXPECT_EQ(write(interruption[1], "x", 1), 1); });
+    const DialogScript dialog("echo shown; exec sleep 100");
+    EXPECT_EQ(ask(Question, dialog.path(), Alert::UsualPatience, interruption[0]), NothingPressed);
+    for (const int end : interruption)
+        close(end);
+}
+
+TEST_F(AnAlert, LeavesNeitherProcessesNorDescriptors) {
+    const DialogScript pressed("echo shown; echo pressed 0; exec sleep 100");
+    const DialogScript closed("echo shown");
+    const DialogScript broken("exit 3");
+    const DialogScript silent("echo $$ >pid; exec sleep 100");
+    // What is opened once for good is open then.
+    ask(Question, broken);
+    const auto before = tests::openDescriptors();
+    for (int round = 0; round < 5; ++round) {
+        for (const auto* const dialog : {&pressed, &closed, &broken})
+            ask(Question, *dialog);
+        ask(Question, "/nonexistent/dialog");
+        ask(Question, silent.path(), Brief);
+    }
+    EXPECT_LE(tests::openDescriptors(), before);
+    EXPECT_LE(waitpid(-1, nullptr, WNOHANG), 0);
+    const auto pid = std::atoi(silent.textIn("pid").c_str());
+    EXPECT_TRUE(pid == 0 || kill(pid, 0) != 0);
+}
+
+TEST_F(AnAlert, LetsTheMainThreadsUrgentWorkBeDone) {
+    const DialogScript dialog(
+        "echo shown; for try in $(seq 500); do\n"
+        "[ -e done ] && { echo pressed 0; exit; }; sleep 0.02; done");
+    mainThread_.post([&] { std::ofstream(dialog.file("done")); });
+    EXPECT_EQ(ask(Question, dialog), AlertFirstButtonReturn);
+}
+
+class TheAppearanceUnderAnAlert : public tests::StatusItemOnBus {};
+
+TEST_F(TheAppearanceUnderAnAlert, FollowsTheDesktop) {
+    constexpr std::uint32_t PreferDark = 1;
+    const tests::OtherProgram program;
+    std::optional<tests::FakePortal> portal;
+    const DialogScript dialog(
+        "echo shown; for try in $(seq 500); do\n"
+        "[ -e dark ] && { echo pressed 0; exit; }; sleep 0.02; done");
+    const auto observation = item_->observeEffectiveAppearance([&] {
+        if (item_->effectiveAppearanceName() == "NSAppearanceNameDarkAqua")
+            std::ofstream(dialog.file("dark"));
+    });
+    item_->setImage("brisel-status-blue-light");
+    program.run([&] {
+        portal.emplace(PreferDark);
+        portal->service.appear();
+    });
+    NotificationServer notifications(bus_);
+    Alert alert({.log = log_,
+                 .mainThread = mainThread_,
+                 .notifications = notifications,
+                 .interruption = NoInterruption,
+                 .dialog = dialog.path()});
+    EXPECT_EQ(alert.runModal(Question), AlertFirstButtonReturn);
+    program.run([&] { portal.reset(); });
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::linux

@@ -1,0 +1,42 @@
+// A dialog program as a test wants it, and what it leaves behind.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "tests/linux/TemporaryFolder.h"
+
+namespace brisel::tests {
+
+/// A shell script in a folder of its own, where it runs.
+class DialogScript {
+  public:
+    explicit DialogScript(const std::string& lines) {
+        std::ofstream(path()) << "#!/bin/sh\ncd " << folder_.path() << " || exit 1\n" << lines;
+        std::filesystem::permissions(path(), std::filesystem::perms::owner_all);
+    }
+
+    [[nodiscard]] std::string path() const { return folder_.path() + "/dialog"; }
+    [[nodiscard]] std::string file(const std::string& name) const {
+        return folder_.path() + "/" + name;
+    }
+    /// What the script has written to its file of this name.
+    [[nodiscard]] std::string textIn(const std::string& name) const {
+        std::ifstream stream(file(name));
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+
+  private:
+    TemporaryFolder folder_;
+};
+
+/// How many descriptors the process has open.
+inline std::ptrdiff_t openDescriptors() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
+                         std::filesystem::directory_iterator());
+}
+
+}  // namespace brisel::tests

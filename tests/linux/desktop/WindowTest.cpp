@@ -1,0 +1,166 @@
+// Windows that nobody waits for: the About panel, and the menu where there is no tray.
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <csignal>
+
+#include "platform/linux/Application.h"
+#include "platform/linux/MenuWindow.h"
+#include "platform/linux/OpenWindow.h"
+#include "tests/linux/desktop/DialogScript.h"
+#include "tests/linux/desktop/StatusItemOnBus.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using tests::DialogScript;
+using tests::turnUntil;
+
+class AWindow : public testing::Test {
+  protected:
+    OpenWindow::Pressed note() {
+        return [this](int number) { pressed_.push_back(number); };
+    }
+    /// Turns the loop until what the window had open is closed.
+    void waitForEnd() const {
+        turnUntil([this] { return tests::openDescriptors() <= before_; });
+    }
+
+    OwnMainLoop loop_;
+    std::vector<int> pressed_;
+    std::ptrdiff_t before_ = tests::openDescriptors();
+};
+
+TEST_F(AWindow, TellsWhatIsPressedInIt) {
+    const DialogScript dialog("cat >input; echo \"$@\" >given; echo shown; echo pressed 42");
+    OpenWindow window(dialog.path());
+    window.show({"menu", "Title"}, "some input\n", note());
+    turnUntil([this] { return !pressed_.empty(); });
+    EXPECT_THAT(pressed_, ElementsAre(42));
+    EXPECT_EQ(dialog.textIn("input"), "some input\n");
+    EXPECT_EQ(dialog.textIn("given"), "menu Title\n");
+    waitForEnd();
+}
+
+TEST_F(AWindow, TellsNothingWhenItIsClosed) {
+    const DialogScript dialog("echo shown");
+    OpenWindow window(dialog.path());
+    window.show({"menu"}, {}, note());
+    waitForEnd();
+    EXPECT_THAT(pressed_, IsEmpty());
+    EXPECT_LE(waitpid(-1, nullptr, WNOHANG), 0);
+}
+
+TEST_F(AWindow, GivesWayToANewerOne) {
+    const DialogScript dialog(
+        "echo shown; echo $$ >>pids; [ -e second ] && echo pressed 2; exec sleep 100");
+    OpenWindow window(dialog.path());
+    window.show({"menu"}, {}, note());
+    turnUntil([&] { return !dialog.textIn("pids").empty(); });
+    const auto first = std::stoi(dialog.textIn("pids"));
+    std::ofstream(dialog.file("second"));
+    window.show({"menu"}, {}, note());
+    EXPECT_NE(kill(first, 0), 0);
+    turnUntil([this] { return !pressed_.empty(); });
+    EXPECT_THAT(pressed_, ElementsAre(2));
+    waitForEnd();
+}
+
+TEST_F(AWindow, GoesWithItsOwner) {
+    const DialogScript dialog("echo $$ >pid; exec sleep 100");
+    {
+        OpenWindow window(dialog.path());
+        window.show({"menu"}, {}, note());
+        turnUntil([&] { return !dialog.textIn("pid").empty(); });
+    }
+    EXPECT_NE(kill(std::stoi(dialog.textIn("pid")), 0), 0);
+    EXPECT_LE(tests::openDescriptors(), before_);
+}
+
+TEST_F(AWindow, WithoutAProgramIsNothing) {
+    OpenWindow window("/nonexistent/dialog");
+    window.show({"menu"}, {}, note());
+    EXPECT_LE(tests::openDescriptors(), before_);
+    EXPECT_LE(waitpid(-1, nullptr, WNOHANG), 0);
+}
+
+TEST_F(AWindow, TakesMoreInputThanAPipeHolds) {
+    const DialogScript dialog("wc -c >count; echo pressed 1");
+    OpenWindow window(dialog.path());
+    window.show({"menu"}, std::string(1 << 20, 'x'), note());
+    turnUntil([this] { return !pressed_.empty(); });
+    EXPECT_EQ(std::stoi(dialog.textIn("count")), 1 << 20);
+}
+
+TEST_F(AWindow, MayBeShownAgainByWhatIsPressedInIt) {
+    const DialogScript dialog("echo shown; echo pressed 1");
+    OpenWindow window(dialog.path());
+    window.show({"menu"}, {}, [&](int number) {
+        pressed_.push_back(number);
+        window.show({"menu"}, {}, note());
+    });
+    turnUntil([this] { return pressed_.size() == 2; });
+    waitForEnd();
+}
+
+TEST_F(AWindow, ShowsWhatTheProgramIs) {
+    const DialogScript dialog("echo \"$@\" >given; echo shown");
+    Application application(dialog.path());
+    application.orderFrontStandardAboutPanel();
+    turnUntil([&] { return dialog.textIn("given") == "about\n"; });
+    waitForEnd();
+}
+
+class TheMenuWindow : public tests::StatusItemOnBus {
+  protected:
+    MenuItem item(const std::string& title, std::string_view action) {
+        MenuItem item;
+        item.title = title;
+        item.action = action;
+        item.target = [this](const MenuItem& sender) { chosen_.push_back(sender.title); };
+        return item;
+    }
+
+    std::vector<std::string> chosen_;
+};
+
+TEST_F(TheMenuWindow, ShowsTheMenuAndChoosesInIt) {
+    MenuItem separator;
+    separator.separator = true;
+    MenuItem title;
+    title.title = "Status\tand\nmore";
+    auto login = item("Start at Login", "toggle:");
+    login.checked = true;
+    menu_.load({title, separator, login, item("My_Data", "mount:")});
+    const DialogScript dialog("cat >input; echo shown; echo pressed 4");
+    MenuWindow window(*item_, dialog.path());
+    window.show();
+    turnUntil([this] { return !chosen_.empty(); });
+    EXPECT_THAT(chosen_, ElementsAre("My_Data"));
+    EXPECT_EQ(dialog.textIn("input"),
+              "1\ttext\tStatus^Iand^Jmore\n2\tseparator\t\n3\tchecked\tStart at Login\n"
+              "4\titem\tMy_Data\n");
+}
+
+TEST_F(TheMenuWindow, ChoosesNothingThatHasLeftTheMenu) {
+    menu_.load({item("Data", "mount:")});
+    const DialogScript dialog(
+        "echo shown; for try in $(seq 500); do\n"
+        "[ -e gone ] && { echo pressed 1; exit; }; sleep 0.02; done");
+    MenuWindow window(*item_, dialog.path());
+    const auto before = tests::openDescriptors();
+    window.show();
+    menu_.load({item("Other", "mount:")});
+    std::ofstream(dialog.file("gone"));
+    turnUntil([before] { return tests::openDescriptors() <= before; });
+    EXPECT_THAT(chosen_, IsEmpty());
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::linux
