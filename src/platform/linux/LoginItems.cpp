@@ -31,34 +31,37 @@ std::string execWord(const std::string& path) {
     return word + '"';
 }
 
+LoginItems::Entry LoginItems::ownEntry() {
+    return {.file = std::string(g_get_user_config_dir()) + FileName, .program = ownPath()};
+}
+
 bool LoginItems::setEnabled(const std::string& /*identifier*/, bool enabled) {
-    const auto path = std::string(g_get_user_config_dir()) + FileName;
-    return enabled ? add(path) : remove(path);
+    return enabled ? add() : remove();
 }
 
 // An entry whose program has been removed (TryExec) is passed over by the desktop.
-bool LoginItems::add(const std::string& path) const {
+bool LoginItems::add() const {
     const std::unique_ptr<GKeyFile, decltype(&g_key_file_unref)> file(g_key_file_new(),
                                                                       &g_key_file_unref);
-    const auto program = ownPath();
     const auto set = [&file](const char* key, const std::string& value) {
         g_key_file_set_string(file.get(), G_KEY_FILE_DESKTOP_GROUP, key, value.c_str());
     };
     set(G_KEY_FILE_DESKTOP_KEY_TYPE, G_KEY_FILE_DESKTOP_TYPE_APPLICATION);
     set(G_KEY_FILE_DESKTOP_KEY_NAME, "Brisel");
     set(G_KEY_FILE_DESKTOP_KEY_ICON, "org.brisel.Brisel");
-    set(G_KEY_FILE_DESKTOP_KEY_TRY_EXEC, program);
-    set(G_KEY_FILE_DESKTOP_KEY_EXEC, execWord(program));
-    g_mkdir_with_parents(fs::path(path).parent_path().c_str(), PrivateFolder);
+    set(G_KEY_FILE_DESKTOP_KEY_TRY_EXEC, entry_.program);
+    set(G_KEY_FILE_DESKTOP_KEY_EXEC, execWord(entry_.program));
+    g_mkdir_with_parents(fs::path(entry_.file).parent_path().c_str(), PrivateFolder);
     CallError error;
-    if (g_key_file_save_to_file(file.get(), path.c_str(), error.receive()) != FALSE) return true;
+    if (g_key_file_save_to_file(file.get(), entry_.file.c_str(), error.receive()) != FALSE)
+        return true;
     log_.log("The login item cannot be written: %@", error.message());
     return false;
 }
 
-bool LoginItems::remove(const std::string& path) const {
+bool LoginItems::remove() const {
     std::error_code code;
-    fs::remove(path, code);
+    fs::remove(entry_.file, code);
     if (!code) return true;
     log_.log("The login item cannot be removed: %@", code.message());
     return false;

@@ -1,0 +1,73 @@
+// One program a session: who is first, and what a second start does.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/Activation.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <future>
+
+#include "tests/linux/desktop/FakeService.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+using Place = Activation::Place;
+using tests::SessionBus;
+using tests::turnUntil;
+
+class AStart : public testing::Test {
+  protected:
+    AStart() = default;
+    ~AStart() override {
+        for (const auto& bus : {first_.get(), second_.get()})
+            g_dbus_connection_close_sync(bus, nullptr, nullptr);
+    }
+
+    OwnMainLoop loop_;
+    /// Of two programs.
+    tests::OwnedObject<GDBusConnection> first_ = SessionBus::shared().connect();
+    tests::OwnedObject<GDBusConnection> second_ = SessionBus::shared().connect();
+};
+
+TEST_F(AStart, IsTheFirstOrTheSecond) {
+    const Activation first(first_.get());
+    const Activation second(second_.get());
+    EXPECT_EQ(first.place(), Place::First);
+    EXPECT_EQ(second.place(), Place::Second);
+}
+
+TEST_F(AStart, TurnsToTheFirst) {
+    Activation first(first_.get());
+    int activated = 0;
+    first.listen([&activated] { ++activated; });
+    const Activation second(second_.get());
+    for (const int times : {1, 2}) {
+        auto answered = std::async(std::launch::async, [&] { return second.activateFirst(); });
+        turnUntil([&] { return activated == times; });
+        EXPECT_TRUE(answered.get());
+    }
+}
+
+TEST_F(AStart, IsTheFirstAgainOnceTheFirstHasEnded) {
+    {
+        const Activation first(first_.get());
+        g_dbus_connection_close_sync(first_.get(), nullptr, nullptr);
+    }
+    turnUntil([this] { return Activation(second_.get()).place() == Place::First; });
+}
+
+TEST_F(AStart, FindsNobodyWhereNobodyListens) {
+    const Activation first(first_.get());
+    EXPECT_FALSE(Activation(second_.get()).activateFirst());
+}
+
+TEST_F(AStart, KnowsNoPlaceWithoutABus) {
+    g_dbus_connection_close_sync(first_.get(), nullptr, nullptr);
+    EXPECT_EQ(Activation(first_.get()).place(), Place::Unknown);
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::linux

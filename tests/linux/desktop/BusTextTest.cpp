@@ -1,0 +1,99 @@
+// Outside text on its way to the bus, and the menu's numbers.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/BusText.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/linux/NumberedMenu.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+TEST(BusText, IsTheTextWhereThatIsHarmless) {
+    EXPECT_EQ(busText("Fotos \xc3\xa9t\xc3\xa9 \xf0\x9f\x93\xb7"),
+              "Fotos \xc3\xa9t\xc3\xa9 \xf0\x9f\x93\xb7");
+    EXPECT_EQ(busText("\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d"), "\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d");
+    EXPECT_EQ(busText(""), "");
+}
+
+TEST(BusText, ShowsControlCharacters) {
+    EXPECT_EQ(busText("a\tb\nc\x1b"
+                      "d\x7f\xc2\x9b"),
+              "a^Ib^Jc^[d^??");
+}
+
+TEST(BusText, IsAlwaysValid) {
+    EXPECT_EQ(busText("\xff\xc3"), "\xef\xbf\xbd\xef\xbf\xbd");
+    EXPECT_EQ(busText("\xed\xa0\x80"), "\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbd");
+    EXPECT_EQ(busText(std::string("a\0b", 3)),
+              "a\xef\xbf\xbd"
+              "b");
+}
+
+TEST(BusText, DoesNotTurnTheDirectionOfWriting) {
+    for (const char* const turning :
+         {"\xe2\x80\xaa", "\xe2\x80\xab", "\xe2\x80\xac", "\xe2\x80\xad", "\xe2\x80\xae",
+          "\xe2\x81\xa6", "\xe2\x81\xa7", "\xe2\x81\xa8", "\xe2\x81\xa9"})
+        EXPECT_EQ(busText(std::string("a") + turning + "b"), "ab");
+}
+
+class NumberedItems : public testing::Test {
+  protected:
+    static MenuItem item(const std::string& title, std::string_view action = "do:") {
+        MenuItem item;
+        item.title = title;
+        item.action = action;
+        return item;
+    }
+
+    NumberedMenu menu_;
+};
+
+TEST_F(NumberedItems, AreOfTheirKind) {
+    MenuItem separator;
+    separator.separator = true;
+    auto checked = item("Login");
+    checked.checked = true;
+    const auto entries = menu_.update({item("Status", ""), separator, checked});
+    EXPECT_EQ(entries.at(0).kind, MenuEntry::Kind::Text);
+    EXPECT_EQ(entries.at(1).kind, MenuEntry::Kind::Separator);
+    EXPECT_EQ(entries.at(2).kind, MenuEntry::Kind::Choosable);
+    EXPECT_TRUE(entries.at(2).checked);
+}
+
+TEST_F(NumberedItems, OfOneKindHaveNumbersOfTheirOwn) {
+    const auto entries = menu_.update({item("Same"), item("Same"), item("Same")});
+    EXPECT_NE(entries.at(0).number, entries.at(1).number);
+    EXPECT_EQ(menu_.update({item("Same"), item("Same"), item("Same")}), entries);
+}
+
+TEST_F(NumberedItems, ForOtherThingsHaveOtherNumbers) {
+    auto one = item("Data");
+    one.representedObject = std::make_shared<RepresentedObject>();
+    auto other = one;
+    other.representedObject = std::make_shared<RepresentedObject>();
+    const auto before = menu_.update({one}).front().number;
+    EXPECT_NE(menu_.update({other}).front().number, before);
+    EXPECT_NE(menu_.update({one}).front().number, before);
+}
+
+TEST_F(NumberedItems, KeepTheirNumberWhenTheirCheckMarkChanges) {
+    auto login = item("Login");
+    const auto before = menu_.update({login}).front().number;
+    login.checked = true;
+    EXPECT_EQ(menu_.update({login}).front().number, before);
+    EXPECT_TRUE(menu_.itemWithNumber(before)->checked);
+}
+
+TEST_F(NumberedItems, ThatHaveGoneAreNotFound) {
+    const auto number = menu_.update({item("Data")}).front().number;
+    menu_.update({});
+    EXPECT_EQ(menu_.itemWithNumber(number), nullptr);
+    EXPECT_EQ(menu_.itemWithNumber(0), nullptr);
+    EXPECT_EQ(menu_.itemWithNumber(-1), nullptr);
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::linux

@@ -1,0 +1,136 @@
+// The entry that lets the desktop start the program at login.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LoginItems.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <fstream>
+
+#include "platform/linux/GLibOwners.h"
+#include "tests/linux/desktop/FakeDesktop.h"
+#include "tests/linux/TemporaryFolder.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr const char* Identifier = "org.brisel.Helper";
+
+class TheLoginItem : public testing::Test {
+  protected:
+    bool set(const std::string& program, bool enabled) {
+        return LoginItems(log_, {.file = file_, .program = program})
+            .setEnabled(Identifier, enabled);
+    }
+    /// The key as the desktop reads it, its first layer of escapes undone.
+    [[nodiscard]] std::string value(const char* key) const {
+        auto* const file = g_key_file_new();
+        g_key_file_load_from_file(file, file_.c_str(), G_KEY_FILE_NONE, nullptr);
+        const OwnedText text(g_key_file_get_string(file, "Desktop Entry", key, nullptr));
+        g_key_file_unref(file);
+        return text ? text.get() : "none";
+    }
+    [[nodiscard]] bool isValid() const {
+        return std::system(("desktop-file-validate --warn-kde '" + file_ + "'").c_str()) == 0;
+    }
+
+    tests::TemporaryFolder folder_;
+    std::string file_ = folder_.path() + "/config/autostart/org.brisel.Brisel.desktop";
+    tests::RecordedLog log_;
+};
+
+TEST_F(TheLoginItem, IsAnEntryThatStartsTheProgram) {
+    ASSERT_TRUE(set("/usr/bin/brisel", true));
+    EXPECT_EQ(value("Type"), "Application");
+    EXPECT_EQ(value("Name"), "Brisel");
+    EXPECT_EQ(value("Exec"), "\"/usr/bin/brisel\"");
+    EXPECT_EQ(value("TryExec"), "/usr/bin/brisel");
+    EXPECT_THAT(log_.entries(), IsEmpty());
+}
+
+TEST_F(TheLoginItem, IsValidForProgramsInOddFolders) {
+    if (std::system("command -v desktop-file-validate >/dev/null") != 0)
+        GTEST_SKIP() << "desktop-file-validate is not here.";
+    for (const char* const program :
+         {"/usr/bin/brisel", "/opt/My Programs/brisel", "/opt/a\"b/brisel", "/opt/50%/brisel",
+          "/opt/$HOME/`x`/brisel", "/opt/back\\slash/brisel", "/opt/\xc3\xa9t\xc3\xa9/brisel",
+          "/opt/it's/brisel"}) {
+        ASSERT_TRUE(set(program, true)) << program;
+        EXPECT_TRUE(isValid()) << program;
+        EXPECT_EQ(value("TryExec"), program);
+    }
+}
+
+// GLib starts programs by the same rules as desktops do.
+TEST_F(TheLoginItem, StartsTheProgramInWhateverFolder) {
+    for (const char* const name :
+         {"My Programs", "a\"b", "50%f", "$HOME`id`", "back\\slash", "it's"}) {
+        const auto program = folder_.path() + "/" + name + "/brisel";
+        fs::create_directories(fs::path(program).parent_path());
+        std::ofstream(program) << "#!/bin/sh\n: >\"${0%/*}/started\"\n";
+        fs::permissions(program, fs::perms::owner_all);
+        ASSERT_TRUE(set(program, true));
+        OwnedText command(g_strdup(value("Exec").c_str()));
+        std::string line;
+        // Field codes are undone before words are parted.
+        for (const char* at = command.get(); *at != '\0'; ++at) {
+            line += *at;
+            if (at[0] == '%' && at[1] == '%') ++at;
+        }
+        EXPECT_EQ(g_spawn_command_line_sync(line.c_str(), nullptr, nullptr, nullptr, nullptr),
+                  TRUE);
+        EXPECT_TRUE(fs::exists(fs::path(program).parent_path() / "started")) << name;
+    }
+}
+
+TEST_F(TheLoginItem, TakesThePlaceOfAnEarlierOne) {
+    ASSERT_TRUE(set("/old/brisel", true));
+    ASSERT_TRUE(set("/new/brisel", true));
+    EXPECT_EQ(value("TryExec"), "/new/brisel");
+}
+
+TEST_F(TheLoginItem, IsRemovedOnceAndForAll) {
+    ASSERT_TRUE(set("/usr/bin/brisel", true));
+    EXPECT_TRUE(set("/usr/bin/brisel", false));
+    EXPECT_FALSE(fs::exists(file_));
+    EXPECT_TRUE(set("/usr/bin/brisel", false));
+    EXPECT_THAT(log_.entries(), IsEmpty());
+}
+
+TEST_F(TheLoginItem, IsRefusedWhereItCannotBeWritten) {
+    // Not by permissions: root may write anywhere.
+    std::ofstream(folder_.path() + "/config") << "no folder";
+    EXPECT_FALSE(set("/usr/bin/brisel", true));
+    EXPECT_THAT(log_.entries(), testing::ElementsAre(HasSubstr("cannot be written")));
+}
+
+TEST_F(TheLoginItem, IsRefusedWhereItCannotBeRemoved) {
+    fs::create_directories(file_ + "/not empty");
+    EXPECT_FALSE(set("/usr/bin/brisel", false));
+    EXPECT_THAT(log_.entries(), testing::ElementsAre(HasSubstr("cannot be removed")));
+}
+
+TEST_F(TheLoginItem, IsThisProgramsInTheUsersFolder) {
+    const auto entry = LoginItems::ownEntry();
+    EXPECT_EQ(entry.file,
+              std::string(g_get_user_config_dir()) + "/autostart/org.brisel.Brisel.desktop");
+    EXPECT_EQ(entry.program, fs::read_symlink("/proc/self/exe").string());
+}
+
+TEST(TheExecWord, QuotesWhatTheDesktopWouldRead) {
+    EXPECT_EQ(execWord("/usr/bin/brisel"), "\"/usr/bin/brisel\"");
+    EXPECT_EQ(execWord("a b"), "\"a b\"");
+    EXPECT_EQ(execWord("\"`$\\"), R"("\"\`\$\\")");
+    EXPECT_EQ(execWord("50%f"), "\"50%%f\"");
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::linux
