@@ -9,9 +9,10 @@ namespace brisel::platform::linux {
 
 namespace {
 
-// The embeddings and overrides of the Unicode Bidirectional Algorithm, and its isolates.
-bool turnsDirection(gunichar character) {
-    return (character >= 0x202A && character <= 0x202E) ||
+// The line and paragraph separators, and the embeddings, overrides and isolates of the Unicode
+// Bidirectional Algorithm.
+bool breaksOrTurnsTheLine(gunichar character) {
+    return (character >= 0x2028 && character <= 0x202E) ||
            (character >= 0x2066 && character <= 0x2069);
 }
 
@@ -22,7 +23,7 @@ std::string busText(const std::string& text) {
     std::string kept;
     for (const char* at = valid.get(); *at != '\0';) {
         const char* const next = g_utf8_next_char(at);
-        if (!turnsDirection(g_utf8_get_char(at))) kept.append(at, next);
+        if (!breaksOrTurnsTheLine(g_utf8_get_char(at))) kept.append(at, next);
         at = next;
     }
     return common::visible(kept);

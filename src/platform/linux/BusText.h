@@ -7,7 +7,8 @@
 namespace brisel::platform::linux {
 
 /// The text as valid UTF-8, which the bus insists on, its control characters made visible and those
-/// that turn the direction of writing taken out: a label must not pass for another.
+/// that break the line or turn the direction of writing taken out: a label must not pass for
+/// another, nor for two.
 std::string busText(const std::string& text);
 
 }  // namespace brisel::platform::linux

@@ -38,6 +38,13 @@ TEST(BusText, DoesNotTurnTheDirectionOfWriting) {
         EXPECT_EQ(busText(std::string("a") + turning + "b"), "ab");
 }
 
+TEST(BusText, BreaksNoLine) {
+    EXPECT_EQ(busText("a\xe2\x80\xa8"
+                      "b\xe2\x80\xa9"
+                      "c"),
+              "abc");
+}
+
 class NumberedItems : public testing::Test {
   protected:
     static MenuItem item(const std::string& title, std::string_view action = "do:") {
