@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/BusText.h"
 
+#include <algorithm>
+#include <array>
+
 #include "platform/common/VisibleText.h"
 #include "platform/linux/GLibOwners.h"
 
@@ -9,11 +12,19 @@ namespace brisel::platform::linux {
 
 namespace {
 
-// The line and paragraph separators, and the embeddings, overrides and isolates of the Unicode
-// Bidirectional Algorithm.
+struct Range {
+    gunichar first;
+    gunichar last;
+};
+
+// The line and paragraph separators with the embeddings and overrides of the Unicode Bidirectional
+// Algorithm, and its isolates.
+constexpr std::array Unwanted{Range{0x2028, 0x202E}, Range{0x2066, 0x2069}};
+
 bool breaksOrTurnsTheLine(gunichar character) {
-    return (character >= 0x2028 && character <= 0x202E) ||
-           (character >= 0x2066 && character <= 0x2069);
+    return std::any_of(Unwanted.begin(), Unwanted.end(), [character](const Range& range) {
+        return character >= range.first && character <= range.last;
+    });
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ DeskThread::~DeskThread() {
 }
 
 void DeskThread::post(std::function<void()> work) {
-    handTo(nullptr, std::move(work));
+    handTo(g_main_loop_get_context(loop_), std::move(work));
 }
 
 }  // namespace brisel::platform::linux

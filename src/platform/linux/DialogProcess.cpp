@@ -86,7 +86,8 @@ void DialogProcess::start(std::vector<std::string> words, int input) {
 }
 
 void DialogProcess::takeIn() {
-    std::array<char, 256> chunk{};
+    constexpr std::size_t MoreThanALine = 256;
+    std::array<char, MoreThanALine> chunk{};
     const auto count = read(output_, chunk.data(), chunk.size());
     if (count <= 0) {
         end();

@@ -20,8 +20,7 @@ namespace brisel::platform::linux {
 /// end, until the subscription ends.
 [[nodiscard]] Subscription whenReadable(int descriptor, std::function<void()> work);
 
-/// Lets `work` wait for the loop of another thread, the one that runs `context`; null for GLib's
-/// default one. Any thread.
+/// Lets `work` wait for the loop of another thread, the one that runs `context`. Any thread.
 void handTo(GMainContext* context, std::function<void()> work);
 
 class RunLoop final : public platform::RunLoop {

@@ -34,7 +34,7 @@ class NumberedMenu {
 
   private:
     struct Numbered {
-        int number;
+        int number = 0;
         MenuItem item;
     };
 

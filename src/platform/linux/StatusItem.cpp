@@ -13,6 +13,12 @@ namespace brisel::platform::linux {
 
 /// What lives on the desk's thread.
 struct StatusItem::Tray {
+    Tray(const Surroundings& surroundings, TrayMenu::Chosen chosen,
+         const std::function<void(ColourScheme::Scheme)>& changed)
+        : menu(std::move(chosen)),
+          icon(surroundings.bus, surroundings.log, TrayMenu::ObjectPath),
+          colourScheme(surroundings.bus, changed) {}
+
     TrayMenu menu;
     TrayIcon icon;
     ColourScheme colourScheme;
@@ -32,10 +38,8 @@ StatusItem::Tray& StatusItem::tray() {
         const auto chosen = [this](int number) {
             handTo(mainContext_, whileHere([this, number] { choose(number); }));
         };
-        auto* const bus = surroundings_.bus;
-        tray_.reset(new Tray{TrayMenu(chosen),
-                             TrayIcon(bus, surroundings_.log, TrayMenu::ObjectPath),
-                             ColourScheme(bus, [this](auto scheme) { noteScheme(scheme); })});
+        tray_ = std::make_unique<Tray>(surroundings_, chosen,
+                                       [this](auto scheme) { noteScheme(scheme); });
     }
     return *tray_;
 }

@@ -70,10 +70,10 @@ TrayIcon::TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string m
       menuPath_(std::move(menuPath)),
       themePath_(iconThemePath()),
       busName_("org.kde.StatusNotifierItem-" + std::to_string(getpid()) + "-1"),
+      object_(exportObject()),
+      ownName_(g_bus_own_name_on_connection(bus, busName_.c_str(), G_BUS_NAME_OWNER_FLAGS_NONE,
+                                            nullptr, nullptr, nullptr, nullptr)),
       watcher_(bus, WatcherName, WatcherPath, WatcherName) {
-    exportObject();
-    ownName_ = g_bus_own_name_on_connection(bus, busName_.c_str(), G_BUS_NAME_OWNER_FLAGS_NONE,
-                                            nullptr, nullptr, nullptr, nullptr);
     watching_ = watcher_.watch([this] { registerWithWatcher(); }, [] {});
     hostComing_ = watcher_.onSignal("StatusNotifierHostRegistered",
                                     [this](auto* /*arguments*/) { registerWithWatcher(); });
@@ -85,14 +85,15 @@ TrayIcon::~TrayIcon() {
     if (object_ != 0) g_dbus_connection_unregister_object(bus_.get(), object_);
 }
 
-void TrayIcon::exportObject() {
+guint TrayIcon::exportObject() {
     static constexpr GDBusInterfaceVTable Answers{&answerMethod, &answerProperty, nullptr, {}};
     CallError error;
     auto* const node = g_dbus_node_info_new_for_xml(Introspection, error.receive());
-    object_ = g_dbus_connection_register_object(bus_.get(), ObjectPath, *node->interfaces, &Answers,
-                                                this, nullptr, error.receive());
+    const auto object = g_dbus_connection_register_object(bus_.get(), ObjectPath, *node->interfaces,
+                                                          &Answers, this, nullptr, error.receive());
     g_dbus_node_info_unref(node);
     if (error) log_.log("The tray icon cannot be offered: %@", error.message());
+    return object;
 }
 
 void TrayIcon::show(TrayLook look) {

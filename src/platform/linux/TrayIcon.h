@@ -46,7 +46,8 @@ class TrayIcon {
     [[nodiscard]] GVariant* property(const std::string& name) const;
 
   private:
-    void exportObject();
+    /// The registration of the object; 0 without one.
+    [[nodiscard]] guint exportObject();
     void registerWithWatcher();
     void waitForHost(std::chrono::milliseconds patience);
     [[nodiscard]] std::string title() const;
@@ -58,8 +59,8 @@ class TrayIcon {
     std::string themePath_;
     std::string busName_;
     TrayLook look_;
-    guint object_ = 0;
-    guint ownName_ = 0;
+    guint object_;
+    guint ownName_;
     BusClient watcher_;
     Subscription watching_;
     Subscription hostComing_;

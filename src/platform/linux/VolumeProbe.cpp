@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/VolumeProbe.h"
 
-#include <stdlib.h>
 #include <unistd.h>
 
 #include <array>
+#include <cstdlib>
 #include <fstream>
 
 #include "platform/Format.h"
