@@ -13,9 +13,6 @@ namespace fs = std::filesystem;
 
 const TestUser* MountToolStage::user = nullptr;
 
-// In its command line stands the folder it first mounted on.
-static const std::string DriverProcess = "^[^ ]*(ntfs-3g|real-driver) .*/run/brisel-";
-
 std::string quoted(const std::string& text) {
     std::string word = "'";
     for (const char character : text)
@@ -55,9 +52,9 @@ void MountToolStage::TearDown() {
 }
 
 Outcome MountToolStage::runTool(const std::string& before) const {
-    const auto command = "env -i PATH=\"$PATH\" PKEXEC_UID=" + user->uid() + " env " + before +
-                         " timeout --signal KILL 60 " BRISEL_MOUNT_TOOL
-                         " -o rw,auto,nobrowse,noowners,noatime " +
+    const auto command = "env -i PATH=\"$PATH\" PKEXEC_UID=" + user->uid() +
+                         " timeout --signal KILL 60 env " + before +
+                         " " BRISEL_MOUNT_TOOL " -o rw,auto,nobrowse,noowners,noatime " +
                          quoted(device_) + " " + quoted(mountPoint_);
     const auto text = "\n" + shell("( " + command + " ); echo \"\n$?\"");
     const auto statusLine = text.rfind('\n');
@@ -100,7 +97,9 @@ void MountToolStage::expectNothingMounted(const Outcome& run, int status,
     EXPECT_EQ(run.output.find(LeftMounted), std::string::npos) << run.output;
     EXPECT_EQ(mounted(), "");
     EXPECT_EQ(shell("ls -d /run/brisel-?????? 2>/dev/null"), "");
-    EXPECT_TRUE(succeeds("for i in $(seq 100); do pgrep --full '" + DriverProcess +
+    // Its command line ends in the folder it first mounted on.
+    const auto driver = "^[^ ]*(ntfs-3g|real-driver) .*" + image_->device() + " /run/brisel-";
+    EXPECT_TRUE(succeeds("for i in $(seq 100); do pgrep --full '" + driver +
                          "' || exit 0; sleep 0.1; done; exit 1"))
         << "a driver still runs";
 }
