@@ -107,7 +107,7 @@ TEST_F(Volume, HasADriverThatInheritsNothing) {
     shell("chmod +x " + folder() + "/ntfs-3g");
     expectMounted(runTool("PATH=" + folder() +
                           ":$PATH LD_LIBRARY_PATH=/nonexistent LD_BIND_NOW=1 LC_ALL=xx IFS=/ "
-                          "NTFS_OPTIONS=force --ignore-signal=CHLD "
+                          "NTFS_OPTIONS=force "
                           "sh -c 'cd /tmp; ulimit -S -t 30; exec 5</etc/passwd; exec \"$@\"' sh"));
     const auto process = "/proc/" + driver();
     EXPECT_EQ(shell("tr '\\0' '\\n' <" + process + "/environ | sort"),
@@ -120,6 +120,10 @@ TEST_F(Volume, HasADriverThatInheritsNothing) {
 
 TEST_F(Volume, IsMountedWithoutStandardDescriptors) {
     expectMounted(runTool("sh -c 'exec \"$@\" <&- >&- 2>&-' sh"));
+}
+
+TEST_F(Volume, IsMountedForAStarterThatIgnoresTheEndOfItsChildren) {
+    expectMounted(runTool("--ignore-signal=CHLD"));
 }
 
 TEST_F(Volume, IsLeftAloneWhileWindowsHibernatesOnIt) {
