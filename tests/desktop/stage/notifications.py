@@ -96,8 +96,12 @@ class NotificationWindow:
     def __init__(self, session):
         self._session = session
 
+    def _windows(self):
+        return self._session.windows("--class", "xfce4-notifyd")
+
     def wait_until_shown(self):
         """Left, top, width and height of the pop-up."""
-        window = wait_for(lambda: self._session.windows("--class", "xfce4-notifyd"),
-                          "a notification is on the screen")[-1]
-        return self._session.geometry(window)
+        return self._session.geometry(wait_for(self._windows, "a notification is shown")[-1])
+
+    def wait_until_gone(self):
+        wait_for(lambda: not self._windows(), "no notification is shown")

@@ -1,5 +1,6 @@
 # What the machine itself must provide, and what it is told about the stage for a while.
 # SPDX-License-Identifier: MIT
+import glob
 import os
 import shutil
 import subprocess
@@ -9,6 +10,7 @@ from gi.repository import GLib
 from . import bus
 from .account import NAME
 from .programs import run
+from .sticks import attached_to, detach
 from .waiting import wait_for
 
 ROOT = os.path.realpath(os.path.join(os.path.dirname(__file__), "..", "..", ".."))
@@ -142,8 +144,13 @@ def install_mount_tool(built, cleanup):
     wait_for(lambda: knows_action(connection, TOOL_ACTION), "polkit knows the mount tool")
 
 
-def remove_leftovers():
-    """What an interrupted run has left of the machine-wide files."""
+def remove_leftovers(folders):
+    """What a run has left that was killed; its folders began with `folders`."""
+    for file in glob.glob(f"{folders}*/images/*.img"):
+        for device in attached_to(file):
+            detach(device)
+    for folder in glob.glob(f"{folders}*"):
+        shutil.rmtree(folder)
     remove(UDEV_RULES)
     remove(POLKIT_RULES)
     if os.path.exists(INSTALLED_MARK):

@@ -74,9 +74,9 @@ class Session:
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
         cleanup.callback(kill_all_with_environment,
                          f"DBUS_SESSION_BUS_ADDRESS={self.bus.address}")
-        self._offer_services()
         self.connection = bus.connect(self.bus.address)
         cleanup.callback(self.connection.close_sync)
+        self._offer_services()
 
     def _make_environment(self, path, system_bus_address):
         home = self.account.home
@@ -128,9 +128,12 @@ class Session:
 
     def _offer_services(self):
         for file in glob.glob("/usr/share/dbus-1/services/*.service"):
-            with open(file, encoding="utf-8") as text:
-                if any(f"Name={name}\n" in text for name in ACTIVATED):
-                    self.bus.offer(file)
+            with open(file, encoding="utf-8") as opened:
+                text = opened.read()
+            if any(f"Name={name}\n" in text for name in ACTIVATED):
+                self.bus.offer(file)
+        # The bus would see them by itself, but not at once.
+        bus.driver(self.connection, "ReloadConfig")
 
     def start(self, command, name, **options):
         """Starts a program in the session; its output goes to the file NAME.log."""

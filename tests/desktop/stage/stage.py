@@ -18,10 +18,10 @@ from .session import Session, notification_server_program
 from .sticks import Stick
 
 SYSTEM_PATH = "/usr/local/bin:/usr/bin:/bin:/usr/local/sbin:/usr/sbin:/sbin"
-LOCK = "brisel-stage.lock"
+LOCK = "/run/brisel-stage.lock"
 FOLDER = "brisel-stage-"
-DESKTOP_PROGRAMS = ("Xvfb", "xfce4-panel", "dbus-daemon", "xdotool", "xprop",
-                    "import", "setpriv")
+DESKTOP_PROGRAMS = (
+    "Xvfb", "xfce4-panel", "dbus-daemon", "xdotool", "xprop", "import", "setpriv")
 
 
 def obstacle_to_desktop():
@@ -80,12 +80,16 @@ class Stage:
         self._cleanup.close()
 
     def _wait_for_other_stages(self):
-        """One stage a machine and account: its files have fixed names."""
-        folder = "/run" if os.geteuid() == 0 else tempfile.gettempdir()
-        name = LOCK if os.geteuid() == 0 else f"{os.geteuid()}-{LOCK}"
-        lock = self._cleanup.enter_context(
-            open(os.path.join(folder, name), "w", encoding="ascii"))
-        fcntl.flock(lock, fcntl.LOCK_EX)
+        """One stage a machine: what root changes has fixed names."""
+        if os.geteuid() != 0:
+            return
+        lock = self._cleanup.enter_context(open(LOCK, "w", encoding="ascii"))
+        try:
+            fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+        except BlockingIOError:
+            print("Waiting for another stage on this machine to end.", flush=True)
+            fcntl.flock(lock, fcntl.LOCK_EX)
+        services.remove_leftovers(os.path.join(tempfile.gettempdir(), FOLDER))
 
     def _make_folder(self):
         folder = tempfile.mkdtemp(prefix=FOLDER)
@@ -100,7 +104,6 @@ class Stage:
         return account
 
     def _prepare_machine(self):
-        services.remove_leftovers()
         services.start_disk_services(self._cleanup)
         self._images = os.path.join(self.folder, "images")
         os.mkdir(self._images)

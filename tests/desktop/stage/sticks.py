@@ -27,6 +27,18 @@ def unescaped(path):
     return path.encode().decode("unicode_escape").encode("latin-1").decode()
 
 
+def attached_to(image):
+    """The loop devices of an image file."""
+    return run("losetup", "--noheadings", "--output", "NAME", "--associated", image).split()
+
+
+def detach(device):
+    """Takes a loop device away from under what is mounted of it."""
+    run("losetup", "-d", device)
+    while mounts_of(device):
+        run("umount", "--lazy", mounts_of(device)[0][0])
+
+
 class Stick:
     """A volume in an image file in `folder`."""
 
@@ -58,14 +70,9 @@ class Stick:
         """Takes the stick out, without asking whether it is mounted."""
         if not self.device:
             return
-        run("losetup", "-d", self.device)
-        while mounts_of(self.device):
-            run("umount", "--lazy", mounts_of(self.device)[0][0])
-        wait_for(lambda: not self._is_attached(), f"{self.device} lets go of its image")
+        detach(self.device)
+        wait_for(lambda: not attached_to(self.image), f"{self.device} lets go of its image")
         self.device = None
-
-    def _is_attached(self):
-        return bool(run("losetup", "--associated", self.image))
 
     def mounts(self):
         return mounts_of(self.device)

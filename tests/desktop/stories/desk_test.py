@@ -35,14 +35,34 @@ class Desk(Story):
             return None
 
     def test_a_click_on_the_notification_makes_a_stick_writable(self):
-        self.stage.stop_notifications()
-        self.stage.session.start_notification_server()
+        self.use_real_notifications()
         self.start_brisel()
         stick = self.attach("Data")
-        left, top, width, height = NotificationWindow(self.stage.session).wait_until_shown()
+        self.click_yes()
+        self.wait_for_writable(stick)
+
+    def test_the_desktops_notification_server_may_end_and_come_back(self):
+        self.use_real_notifications()
+        self.start_brisel()
+        first = self.attach("First")
+        self.window.wait_until_shown()
+        self.stage.session.stop_notification_server()
+        self.window.wait_until_gone()
+        # The bus starts the server anew for this one.
+        second = self.attach("Second")
+        self.click_yes()
+        self.wait_for_writable(second)
+        self.assertEqual(first.mounts(), [])
+
+    def use_real_notifications(self):
+        self.stage.stop_notifications()
+        self.stage.session.start_notification_server()
+        self.window = NotificationWindow(self.stage.session)
+
+    def click_yes(self):
+        left, top, width, height = self.window.wait_until_shown()
         self.take_picture("prompt")
         self.stage.session.click(left + width - FIRST_BUTTON[0], top + height - FIRST_BUTTON[1])
-        self.wait_for_writable(stick)
 
     def test_the_icon_follows_the_desktop_into_the_dark(self):
         self.start_brisel()

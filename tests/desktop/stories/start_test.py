@@ -40,10 +40,12 @@ class Start(Story):
         self.tray.wait_for_entry("No NTFS Volumes to re-mount")
         self.assertEqual(self.stage.alerts.windows(), [])
 
-    def test_a_second_start_makes_no_second_icon(self):
+    def test_a_second_start_shows_the_menu_and_makes_no_second_icon(self):
         self.start_brisel()
         second = self.stage.start_brisel()
         self.assertEqual(second.program.wait_for_end(), 0)
+        wait_for(self.stage.alerts.windows, "the menu is shown in a window")
+        self.take_picture("menu")
         self.assertEqual(len(self.tray.all_items()), 1)
         self.assertTrue(self.brisel.program.runs())
 
