@@ -37,6 +37,11 @@ bool isInMountFolder(const std::optional<FileURL>& path) {
     return path && path->path().starts_with(std::string(g_get_home_dir()) + "/.brisel/");
 }
 
+// Where the mount tool has a volume for a moment, until it is in order.
+bool isUnderWay(const std::optional<FileURL>& path) {
+    return path && path->path().starts_with("/run/brisel-");
+}
+
 // The kernel's own driver, once it has been loaded.
 bool hasKernelDriver() {
     std::ifstream names("/proc/filesystems");
@@ -118,7 +123,7 @@ void DiskArbitration::compare() {
 
 void DiskArbitration::compareMounts(const std::string& name, const DiskDescription& before,
                                     const DiskDescription& now) {
-    if (requests_[name] > 0) return;
+    if (requests_[name] > 0 || isUnderWay(now.volumePath)) return;
     reported_[name] = now;
     if (before.volumePath == now.volumePath || isInMountFolder(now.volumePath)) return;
     disappeared_({.bsdName = name, .reported = before});
