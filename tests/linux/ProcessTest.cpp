@@ -1,0 +1,156 @@
+// The process itself: its standard descriptors, its language, its tools, and the volumes it sees.
+// SPDX-License-Identifier: MIT
+#include "platform/linux/Process.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <optional>
+
+#include "platform/linux/Installation.h"
+#include "platform/linux/MountInfo.h"
+#include "platform/linux/ScriptRunner.h"
+#include "platform/linux/VolumeProbe.h"
+#include "tests/linux/TemporaryFolder.h"
+
+namespace brisel::platform::linux {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What `body` returns in a process of its own.
+int inAnotherProcess(const std::function<int()>& body) {
+    const pid_t child = fork();
+    if (child == 0) _exit(body());
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+/// A variable of the environment, for a while.
+class Variable {
+  public:
+    Variable(const char* name, const std::optional<std::string>& value) : name_(name) {
+        if (const char* const before = std::getenv(name)) before_ = before;
+        set(value);
+    }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+    ~Variable() { set(before_); }
+
+  private:
+    void set(const std::optional<std::string>& value) const {
+        value ? setenv(name_, value->c_str(), 1) : unsetenv(name_);
+    }
+
+    const char* name_;
+    std::optional<std::string> before_;
+};
+
+TEST(TheProcess, LeavesItsStandardDescriptorsToNothingElse) {
+    for (const unsigned closed : {0U, 1U, 2U, 4U, 5U, 7U}) {
+        const int firstOpened = inAnotherProcess([closed] {
+            for (int descriptor = 0; descriptor < 3; ++descriptor) {
+                if ((closed >> static_cast<unsigned>(descriptor) & 1U) != 0) close(descriptor);
+            }
+            prepareProcess();
+            return open("/dev/zero", O_RDONLY) > STDERR_FILENO ? 0 : 1;
+        });
+        EXPECT_EQ(firstOpened, 0) << closed;
+    }
+}
+
+TEST(TheProcess, HearsOfItsChildren) {
+    EXPECT_EQ(inAnotherProcess([] {
+                  std::signal(SIGCHLD, SIG_IGN);
+                  prepareProcess();
+                  return inAnotherProcess([] { return 3; });
+              }),
+              3);
+}
+
+TEST(TheUsersLanguage, IsNamedAsTheTablesAre) {
+    const Variable locale("LC_ALL", "");
+    const auto languageFor = [](const char* value) {
+        const Variable language("LANGUAGE", value);
+        return userLanguage();
+    };
+    EXPECT_EQ(languageFor("de_DE.UTF-8"), "de");
+    EXPECT_EQ(languageFor("pt_BR"), "pt");
+    EXPECT_EQ(languageFor("sr_RS@latin"), "sr");
+    EXPECT_EQ(languageFor("zh_CN.UTF-8"), "zh-Hans");
+    EXPECT_EQ(languageFor("fr:de"), "fr");
+}
+
+TEST(TheTools, LieBesideTheProgramOrInItsLibexec) {
+    const auto program = fs::path(ownPath());
+    EXPECT_EQ(program, fs::read_symlink("/proc/self/exe"));
+    const bool inBuild = fs::exists(program.parent_path() / "brisel-dialog");
+    const auto installed = program.parent_path().parent_path() / "libexec/brisel";
+    EXPECT_EQ(fs::path(toolFolder()), inBuild ? program.parent_path() : installed);
+    EXPECT_EQ(toolPath("xattr"), toolFolder() + "/xattr");
+}
+
+TEST(TheTools, ComeFirstForScripts) {
+    const auto folders = [](const std::string& expected) {
+        return ScriptRunner().execute("do shell script \"test '" + expected + "' = $PATH\"").error;
+    };
+    {
+        const Variable path("PATH", "/usr/bin:/bin:/odd");
+        EXPECT_FALSE(folders(toolFolder() + ":/usr/bin:/bin:/odd").has_value());
+    }
+    const Variable path("PATH", std::nullopt);
+    EXPECT_FALSE(folders(toolFolder() + ":/usr/bin:/bin").has_value());
+}
+
+TEST(AVolume, TakesWritingWhereAFileCanBeMade) {
+    static constexpr const char* MemoryFolder = "/dev/shm";
+    if (currentMountState(MemoryFolder) != MountState::ReadWrite || access(MemoryFolder, W_OK) != 0)
+        GTEST_SKIP() << MemoryFolder << " is no mount that can be written.";
+    const auto count = [] {
+        return std::distance(fs::directory_iterator(MemoryFolder), fs::directory_iterator());
+    };
+    const auto before = count();
+    EXPECT_TRUE(takesWriting(MemoryFolder));
+    EXPECT_EQ(count(), before);
+}
+
+TEST(AVolume, TakesNoWritingWhateverTheKernelSaysOfTheMount) {
+    if (currentMountState("/proc") != MountState::ReadWrite)
+        GTEST_SKIP() << "/proc is not mounted read-write.";
+    EXPECT_FALSE(takesWriting("/proc"));
+}
+
+TEST(AVolume, IsNoFolderWithinAnother) {
+    const tests::TemporaryFolder folder;
+    EXPECT_FALSE(takesWriting(folder.path()));
+    EXPECT_FALSE(takesWriting(folder.path() + "/missing"));
+}
+
+TEST(AVolume, IsHibernatedByTheFirstWordOfItsFile) {
+    const tests::TemporaryFolder folder;
+    EXPECT_FALSE(isHibernated(folder.path()));
+    const auto hibernatedWith = [&folder](const std::string& text) {
+        std::ofstream(folder.path() + "/hiberfil.sys", std::ios::binary) << text;
+        return isHibernated(folder.path());
+    };
+    EXPECT_TRUE(hibernatedWith("hibr and more"));
+    EXPECT_TRUE(hibernatedWith("HIBR"));
+    // Woken up; a whole one without a session; too short.
+    EXPECT_FALSE(hibernatedWith("RSTR and more"));
+    EXPECT_FALSE(hibernatedWith(std::string(8192, '\0')));
+    EXPECT_FALSE(hibernatedWith("hib"));
+    EXPECT_FALSE(hibernatedWith(""));
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::linux
