@@ -42,16 +42,6 @@ bool isUnderWay(const std::optional<FileURL>& path) {
     return path && path->path().starts_with("/run/brisel-");
 }
 
-// The kernel's own driver, once it has been loaded.
-bool hasKernelDriver() {
-    std::ifstream names("/proc/filesystems");
-    std::string word;
-    while (names >> word) {
-        if (word == KernelDriver) return true;
-    }
-    return false;
-}
-
 bool mayHaveMinded(const DiskService::CallFailure& failure) {
     return failure.errorName == "org.freedesktop.UDisks2.Error.OptionNotPermitted" ||
            failure.errorName == "org.freedesktop.UDisks2.Error.Failed";
@@ -220,6 +210,16 @@ void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoin
             static_cast<void>(dissenterFor(failure, disk));
             finish(disk, Dissenter{.status = DAReturn::NotWritable}, std::nullopt, completion);
         });
+}
+
+// The kernel's own driver, once it has been loaded.
+bool DiskArbitration::hasKernelDriver() const {
+    std::ifstream names(knownFileSystems_);
+    std::string word;
+    while (names >> word) {
+        if (word == KernelDriver) return true;
+    }
+    return false;
 }
 
 std::optional<Dissenter> DiskArbitration::dissenterFor(

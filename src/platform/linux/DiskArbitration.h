@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/common/Signal.h"
 #include "platform/DiskArbitration.h"
@@ -20,7 +21,10 @@ namespace brisel::platform::linux {
 /// knows of it is true again; one that somebody else unmounts is reported as gone.
 class DiskArbitration final : public platform::DiskArbitration {
   public:
-    explicit DiskArbitration(platform::SystemLog& log) : log_(log) {}
+    /// `knownFileSystems` is the kernel's list of the file systems that it has drivers for.
+    explicit DiskArbitration(platform::SystemLog& log,
+                             std::string knownFileSystems = "/proc/filesystems")
+        : log_(log), knownFileSystems_(std::move(knownFileSystems)) {}
 
     void createSession() override;
     [[nodiscard]] Subscription registerDiskAppearedCallback(DiskCallback callback) override;
@@ -51,7 +55,10 @@ class DiskArbitration final : public platform::DiskArbitration {
     [[nodiscard]] std::optional<Dissenter> dissenterFor(
         const std::optional<DiskService::CallFailure>& failure, const Disk& disk) const;
 
+    [[nodiscard]] bool hasKernelDriver() const;
+
     platform::SystemLog& log_;
+    std::string knownFileSystems_;
     std::unique_ptr<DiskService> service_;
     Subscription firstComparison_;
     bool scheduled_ = false;

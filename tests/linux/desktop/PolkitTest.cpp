@@ -55,10 +55,15 @@ class ThePasswordQuestion : public testing::Test {
         });
     }
     ~ThePasswordQuestion() override {
+        // polkit's library reads what it has freed when the authority goes before the loop has
+        // turned; and GLib frees here what the library has subscribed to.
+        turn();
         program_.run([this] { authority_.reset(); });
+        turn();
         for (const int end : interruption_)
             close(end);
-        // GLib frees here what the library has subscribed to.
+    }
+    void turn() const {
         while (g_main_context_iteration(loop_.context(), FALSE) != FALSE) {
         }
     }
