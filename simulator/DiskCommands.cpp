@@ -48,7 +48,7 @@ Fits setProperty(Disks::Properties& properties, const std::string& key, const st
         description.volumeName = orAbsent(value);
     } else if (key == "path") {
         description.volumePath.reset();
-        if (!value.empty()) description.volumePath.emplace(value);
+        if (!value.empty()) description.volumePath = platform::FileURL(value);
     } else if (key == "media-uuid") {
         description.mediaUUID = uuidOrAbsent(value);
     } else if (key == "volume-uuid") {

@@ -127,7 +127,7 @@ void DiskArbitration::finish(const Disk& disk, const std::optional<Dissenter>& d
     const auto reported = reported_.find(disk.bsdName);
     if (!dissenter && reported != reported_.end()) {
         reported->second.volumePath.reset();
-        if (mountPoint) reported->second.volumePath.emplace(*mountPoint);
+        if (mountPoint) reported->second.volumePath = FileURL(*mountPoint);
     }
     completion(disk, dissenter);
 }
