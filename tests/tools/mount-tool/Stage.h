@@ -72,6 +72,8 @@ class MountToolStage : public testing::Test {
 
     /// Refused for the request's own sake: by this sentence, and nothing is left of it.
     void expectRefusal(const Outcome& run, const std::string& sentence) const;
+    /// Whether no folder that the tool mounts on first is left.
+    [[nodiscard]] static bool stagingIsGone();
     void expectNothingMounted(const Outcome& run, int status, const std::string& sentence) const;
 
     std::string device_;

@@ -31,6 +31,10 @@ class UntrustedDriver : public MountToolStage {
     }
 };
 
+TEST_F(UntrustedDriver, StartsInTheRootWithFilesOfItsOwn) {
+    expectNothingMounted(runWithDriver("pwd; umask; exit 21"), 21, "/\n0077\nFUSE");
+}
+
 TEST_F(UntrustedDriver, ThatMountsNothingIsNotBelieved) {
     expectNothingMounted(runWithDriver("exit 0"), 18, "has not mounted the volume");
 }
@@ -66,8 +70,10 @@ TEST_F(UntrustedDriver, ThatFailsPassesOnItsStatusOrUnknown) {
 }
 
 TEST_F(UntrustedDriver, ThatTalksTooMuchIsCutOffAndCleaned) {
-    const auto run =
-        runWithDriver("printf '\\033[2Jred\\r\\001\\n'; yes | head -c 2000000; exit 13");
+    const auto note = folder() + "/refused";
+    const auto run = runWithDriver(
+        "printf '\\033[2Jred\\r\\001\\n'; yes | head -c 2000000 || touch " + note + "; exit 13");
+    EXPECT_TRUE(fs::exists(note));
     EXPECT_EQ(run.status, 13);
     EXPECT_EQ(run.output.find("?[2Jred??\n"), 0U);
     EXPECT_LT(run.output.size(), 70000U);
