@@ -19,7 +19,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 3> KnownArgu
 
 // Keeps ntfs-3g from clearing the log of a volume that was not unmounted cleanly. The kernel's
 // driver refuses such a volume by itself, and does not know the word.
-constexpr const char* NoRecovery = ",norecover";
+constexpr const char* NoRecovery = "norecover";
 constexpr const char* KernelDriver = "ntfs3";
 
 bool isMountable(const DiskDescription& description) {
@@ -42,6 +42,10 @@ bool isUnderWay(const std::optional<FileURL>& path) {
     return path && path->path().starts_with("/run/brisel-");
 }
 
+std::string withNoRecovery(const std::string& options) {
+    return options.empty() ? NoRecovery : options + "," + NoRecovery;
+}
+
 bool mayHaveMinded(const DiskService::CallFailure& failure) {
     return failure.errorName == "org.freedesktop.UDisks2.Error.OptionNotPermitted" ||
            failure.errorName == "org.freedesktop.UDisks2.Error.Failed";
@@ -50,8 +54,7 @@ bool mayHaveMinded(const DiskService::CallFailure& failure) {
 std::string reasonForReadOnly(const std::string& mountPoint) {
     if (isHibernated(mountPoint)) {
         return "Windows is hibernated on it, or was shut down with its fast start-up. Start "
-               "Windows "
-               "and shut it down fully";
+               "Windows and shut it down fully";
     }
     return "the device is write-protected, or the driver found the volume unsafe to write";
 }
@@ -183,7 +186,7 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
             finishMount(disk, mountPoint, completion);
         }
     };
-    service_->mount(disk.bsdName, {.options = options + NoRecovery, .driver = {}},
+    service_->mount(disk.bsdName, {.options = withNoRecovery(options), .driver = {}},
                     [this, disk, options, done = std::move(done)](const auto& failure,
                                                                   const std::string& mountPoint) {
                         if (failure && mayHaveMinded(*failure) && hasKernelDriver()) {

@@ -141,6 +141,11 @@ TEST_F(AWritableMount, LeavesTheVolumesLogAlone) {
     EXPECT_THAT(disks_.calls, ElementsAre("mount rw,noatime,x-gvfs-hide,norecover -"));
 }
 
+TEST_F(AWritableMount, HasNoEmptyOption) {
+    EXPECT_FALSE(mount({Writable}, {"auto"}).has_value());
+    EXPECT_THAT(disks_.calls, ElementsAre("mount norecover -"));
+}
+
 TEST_F(AWritableMount, IsTheKernelsWhereThatDriverMindsTheOption) {
     knowFileSystems("nodev\tproc\n\text4\n\tntfs3\n");
     for (const char* const error : {Refused, Failed}) {
