@@ -15,10 +15,10 @@ constexpr const char* AnySound = "device-added";
 
 UserNotificationCenter::UserNotificationCenter(NotificationServer& server) : server_(server) {
     actions_ = server_.onActionInvoked(
-        [this](std::uint32_t number, const std::string& key) { respond(number, key); });
+        [this](std::uint32_t number, const std::string& key) { respondFor(number, key); });
     closings_ = server_.onClosed([this](std::uint32_t number, std::uint32_t reason) {
         if (reason == NotificationServer::Dismissed) {
-            respond(number, NotificationDismissActionIdentifier);
+            respondFor(number, NotificationDismissActionIdentifier);
         }
     });
     // Another server numbers its pop-ups anew.
@@ -26,20 +26,6 @@ UserNotificationCenter::UserNotificationCenter(NotificationServer& server) : ser
         for (auto& [identifier, popUp] : popUps_)
             popUp.number = 0;
     });
-}
-
-Subscription UserNotificationCenter::setDelegate(ResponseHandler handler) {
-    return responses_.subscribe(std::move(handler));
-}
-
-void UserNotificationCenter::setNotificationCategories(
-    const std::vector<NotificationCategory>& categories) {
-    categories_ = categories;
-}
-
-void UserNotificationCenter::requestAuthorization(unsigned /*options*/,
-                                                  AuthorizationHandler handler) {
-    handler(true, std::nullopt);
 }
 
 void UserNotificationCenter::addNotificationRequest(const NotificationRequest& request,
@@ -67,18 +53,15 @@ void UserNotificationCenter::finishShow(std::uint32_t number, const std::optiona
 
 Notification UserNotificationCenter::notificationFor(const NotificationRequest& request) const {
     Notification notification{.summary = request.title, .body = request.body};
-    for (const auto& category : categories_) {
-        if (category.identifier != request.categoryIdentifier) continue;
-        for (const auto& [identifier, title] : category.actions)
-            notification.actions.emplace_back(identifier, title);
-    }
+    for (const auto& [identifier, title] : actionsOf(request))
+        notification.actions.emplace_back(identifier, title);
     if (!request.soundName.empty()) notification.soundName = AnySound;
     const auto before = popUps_.find(request.identifier);
     if (before != popUps_.end()) notification.replaces = before->second.number;
     return notification;
 }
 
-void UserNotificationCenter::respond(std::uint32_t number, const std::string& action) {
+void UserNotificationCenter::respondFor(std::uint32_t number, const std::string& action) {
     for (auto& [identifier, popUp] : popUps_) {
         if (number == 0 || popUp.number != number) continue;
         // There is nothing more to come from it: after a choice servers close the pop-up, too.
@@ -87,7 +70,7 @@ void UserNotificationCenter::respond(std::uint32_t number, const std::string& ac
         const NotificationResponse response{.requestIdentifier = identifier,
                                             .actionIdentifier = action,
                                             .userInfo = popUp.userInfo};
-        responses_(response, [] {});
+        respond(response);
         return;
     }
 }

@@ -7,25 +7,19 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <vector>
 
-#include "platform/common/Signal.h"
+#include "platform/common/UserNotificationCenter.h"
 #include "platform/linux/NotificationServer.h"
-#include "platform/UserNotificationCenter.h"
 
 namespace brisel::platform::linux {
 
 /// Main thread only. A request takes the place of the pop-up of an earlier one with the same
 /// identifier. Its delay is not kept: nothing here takes a trigger in the future, and the sooner
 /// the user is asked the better.
-class UserNotificationCenter final : public platform::UserNotificationCenter {
+class UserNotificationCenter final : public common::UserNotificationCenter {
   public:
     explicit UserNotificationCenter(NotificationServer& server);
 
-    [[nodiscard]] Subscription setDelegate(ResponseHandler handler) override;
-    void setNotificationCategories(const std::vector<NotificationCategory>& categories) override;
-    /// Granted: who does not want notifications tells the server.
-    void requestAuthorization(unsigned options, AuthorizationHandler handler) override;
     void addNotificationRequest(const NotificationRequest& request, AddHandler handler) override;
 
   private:
@@ -40,16 +34,14 @@ class UserNotificationCenter final : public platform::UserNotificationCenter {
 
     void showNext();
     void finishShow(std::uint32_t number, const std::optional<Error>& error);
-    void respond(std::uint32_t number, const std::string& action);
+    void respondFor(std::uint32_t number, const std::string& action);
     [[nodiscard]] Notification notificationFor(const NotificationRequest& request) const;
 
     NotificationServer& server_;
-    std::vector<NotificationCategory> categories_;
     /// One at a time is shown: what the next is to replace is known once that one has its number.
     std::deque<Waiting> waiting_;
     /// The latest pop-up of each request identifier.
     std::map<std::string, PopUp> popUps_;
-    common::Signal<const NotificationResponse&, CompletionHandler> responses_;
     Subscription actions_;
     Subscription closings_;
     Subscription vanishing_;

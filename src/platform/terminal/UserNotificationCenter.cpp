@@ -15,20 +15,6 @@ constexpr std::string_view Letters = "yn";
 
 }  // namespace
 
-Subscription UserNotificationCenter::setDelegate(ResponseHandler handler) {
-    return responses_.subscribe(std::move(handler));
-}
-
-void UserNotificationCenter::setNotificationCategories(
-    const std::vector<NotificationCategory>& categories) {
-    categories_ = categories;
-}
-
-void UserNotificationCenter::requestAuthorization(unsigned /*options*/,
-                                                  AuthorizationHandler handler) {
-    handler(true, std::nullopt);
-}
-
 void UserNotificationCenter::addNotificationRequest(const NotificationRequest& request,
                                                     AddHandler handler) {
     latest_ = request;
@@ -47,20 +33,10 @@ bool UserNotificationCenter::answer(const std::string& line) {
     const auto& actions = actionsOf(*latest_);
     if (index >= actions.size()) return false;
     const auto request = *std::exchange(latest_, std::nullopt);
-    responses_({.requestIdentifier = request.identifier,
-                .actionIdentifier = actions[index].identifier,
-                .userInfo = request.userInfo},
-               [] {});
+    respond({.requestIdentifier = request.identifier,
+             .actionIdentifier = actions[index].identifier,
+             .userInfo = request.userInfo});
     return true;
-}
-
-const std::vector<NotificationAction>& UserNotificationCenter::actionsOf(
-    const NotificationRequest& request) const {
-    static const std::vector<NotificationAction> none;
-    for (const auto& category : categories_) {
-        if (category.identifier == request.categoryIdentifier) return category.actions;
-    }
-    return none;
 }
 
 }  // namespace brisel::platform::terminal
