@@ -17,10 +17,8 @@
 
 namespace brisel::mounttool {
 
-namespace {
-
 // Root's alone; goes with whatever is mounted on it. A mount cloned from there stays.
-class StagingFolder {
+class Mount::StagingFolder {
   public:
     StagingFolder() {
         if (mkdtemp(path_.data()) == nullptr) path_.clear();
@@ -39,6 +37,8 @@ class StagingFolder {
   private:
     std::string path_ = "/run/brisel-XXXXXX";
 };
+
+namespace {
 
 Refusal refuseByMountCall(const std::string& sentence) {
     if (errno == ENOSYS)
@@ -72,14 +72,21 @@ bool isOf(int root, const NTFSDevice& device) {
 
 }  // namespace
 
+Mount::Mount(std::unique_ptr<StagingFolder> staging, Descriptor tree)
+    : staging_(std::move(staging)), tree_(std::move(tree)) {}
+
+Mount::Mount(Mount&&) noexcept = default;
+
+Mount::~Mount() = default;
+
 Result<Mount> Mount::make(const NTFSDevice& device, const Person& person) {
-    const StagingFolder staging;
-    if (staging.path().empty()) return refuseByError("No folder can be made below /run");
-    if (const auto refusal = mountWithDriver(device.path(), staging.path(), person))
+    auto staging = std::make_unique<StagingFolder>();
+    if (staging->path().empty()) return refuseByError("No folder can be made below /run");
+    if (const auto refusal = mountWithDriver(device.path(), staging->path(), person))
         return *refusal;
-    Descriptor tree(cloneMount(staging.path().c_str()));
+    Descriptor tree(cloneMount(staging->path().c_str()));
     if (!tree.isOpen()) return refuseByMountCall("The mounted volume cannot be taken over");
-    return Mount(std::move(tree));
+    return Mount(std::move(staging), std::move(tree));
 }
 
 std::optional<Refusal> Mount::complaintAs(const NTFSDevice& device) const {

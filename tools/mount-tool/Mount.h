@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "tools/mount-tool/Descriptor.h"
@@ -13,10 +14,13 @@ namespace brisel::mounttool {
 
 class Mount {
   public:
-    /// Lets the driver mount the device on a private folder below /run, and takes the mount from
-    /// there; the folder is gone afterwards. Unless `putOn` succeeds, the volume is unmounted with
-    /// the object.
+    /// Lets the driver mount the device on a private folder below /run. With the object that folder
+    /// goes, and unless `putOn` has succeeded the volume is unmounted.
     static Result<Mount> make(const NTFSDevice& device, const Person& person);
+
+    Mount(Mount&&) noexcept;
+    Mount& operator=(Mount&&) = delete;
+    ~Mount();
 
     /// Why this is not the read-write mount of the device that was asked for, or none. Does not
     /// rely on anything that the driver says; makes and removes a file on the volume.
@@ -28,8 +32,12 @@ class Mount {
                                                const NTFSDevice& device) const;
 
   private:
-    explicit Mount(Descriptor tree) : tree_(std::move(tree)) {}
+    class StagingFolder;
 
+    Mount(std::unique_ptr<StagingFolder> staging, Descriptor tree);
+
+    // Stays until the end, so that whoever watches the mounts never sees the volume unmounted.
+    std::unique_ptr<StagingFolder> staging_;
     Descriptor tree_;
 };
 

@@ -53,6 +53,11 @@ TEST_F(UntrustedDriver, ThatMountsSomethingElseIsNotBelieved) {
                          "has not mounted");
 }
 
+TEST_F(UntrustedDriver, ThatMountsAnotherFileSystemIsNotBelieved) {
+    expectNothingMounted(runWithDriver("mke2fs -q $3 && exec mount -t ext4 -o nosuid,nodev $3 $4"),
+                         18, "has not mounted");
+}
+
 TEST_F(UntrustedDriver, ThatLeavesOutTheProtectionIsNotBelieved) {
     expectNothingMounted(runWithDriver("exec " + realDriver() + " -o rw,nodev $3 $4"), 18,
                          "without the protection");

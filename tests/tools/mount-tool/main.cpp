@@ -16,8 +16,8 @@ std::string reasonToSkip() {
     using brisel::tests::succeeds;
     const std::string scripts = BRISEL_SCRIPTS;
     auto reason = shell(scripts + "/real-volumes-possible beside-others");
-    for (const char* const tool :
-         {"useradd", "userdel", "setpriv", "unshare", "findmnt", "ntfscp", "pgrep", "python3"}) {
+    for (const char* const tool : {"useradd", "userdel", "setpriv", "unshare", "findmnt", "ntfscp",
+                                   "mke2fs", "pgrep", "python3"}) {
         if (reason.empty() && !succeeds(std::string("command -v ") + tool))
             reason = std::string("there is no ") + tool;
     }
