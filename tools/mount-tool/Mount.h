@@ -20,6 +20,8 @@ class Mount {
 
     Mount(Mount&&) noexcept;
     Mount& operator=(Mount&&) = delete;
+    Mount(const Mount&) = delete;
+    Mount& operator=(const Mount&) = delete;
     ~Mount();
 
     /// Why this is not the read-write mount of the device that was asked for, or none. Does not
