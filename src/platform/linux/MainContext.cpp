@@ -57,11 +57,14 @@ Subscription whenReadable(int descriptor, std::function<void()> work) {
 }
 
 void handTo(GMainContext* context, std::function<void()> work) {
+    // The work may be the last that the context does before its thread ends.
+    auto* const kept = context != nullptr ? g_main_context_ref(context) : nullptr;
     auto* const source = g_idle_source_new();
     g_source_set_priority(source, G_PRIORITY_DEFAULT);
     g_source_set_callback(source, &runOnce, new Work(std::move(work)), &destroyWork);
     g_source_attach(source, context);
     g_source_unref(source);
+    if (kept != nullptr) g_main_context_unref(kept);
 }
 
 Subscription RunLoop::scheduledTimer(std::chrono::milliseconds interval,

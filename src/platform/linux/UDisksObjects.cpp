@@ -56,20 +56,25 @@ void UDisksObjects::connect() {
         tryAgain(error.message());
         return;
     }
-    // The service is started first, if the bus can start it, so that nobody waits for its start.
-    g_dbus_connection_call(connection.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus",
-                           "org.freedesktop.DBus", "StartServiceByName",
-                           g_variant_new("(su)", BusName, 0), nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
-                           cancellable_.get(), &UDisksObjects::finishStart, this);
+    // A service that answers this is running, started by the bus if need be, and in good health:
+    // nobody waits for it in vain.
+    g_dbus_connection_call(connection.get(), BusName, ObjectPath, "org.freedesktop.DBus.Peer",
+                           "Ping", nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
+                           &UDisksObjects::finishPing, this);
 }
 
-void UDisksObjects::finishStart(GObject* connection, GAsyncResult* result, gpointer self) {
+void UDisksObjects::finishPing(GObject* connection, GAsyncResult* result, gpointer self) {
     CallError error;
     const OwnedVariant answer(
         g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, error.receive()));
     // Then the asking object has gone.
     if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE) return;
-    static_cast<UDisksObjects*>(self)->fetch(G_DBUS_CONNECTION(connection));
+    auto& asking = *static_cast<UDisksObjects*>(self);
+    if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_TIMED_OUT) != FALSE) {
+        asking.tryAgain(error.message());
+    } else {
+        asking.fetch(G_DBUS_CONNECTION(connection));
+    }
 }
 
 // At once, though there is an asynchronous way: that one sets the objects up in a thread of GLib's,

@@ -6,6 +6,7 @@
 
 #include <deque>
 #include <fstream>
+#include <memory>
 
 #include "platform/linux/DiskArbitration.h"
 #include "platform/linux/MountInfo.h"
@@ -99,18 +100,20 @@ class FakeDisks {
 class AMount : public testing::Test {
   protected:
     AMount() {
+        machine_.run([this] { disks_ = std::make_unique<FakeDisks>(); });
         arbitration_.createSession();
         turnUntil([this] { return arbitration_.copyDescription(Volume).volumeKind == "ntfs"; });
     }
     ~AMount() override {
         while (g_main_context_iteration(loop_.context(), FALSE) != FALSE) {
         }
+        machine_.run([this] { disks_.reset(); });
     }
     void knowFileSystems(const std::string& names) { std::ofstream(list_) << names; }
     std::optional<Dissenter> mount(const std::vector<std::string>& results,
                                    const std::vector<std::string>& arguments = {"rw", "noatime",
                                                                                 "nobrowse"}) {
-        disks_.results = {results.begin(), results.end()};
+        disks_->results = {results.begin(), results.end()};
         std::optional<std::optional<Dissenter>> outcome;
         arbitration_.mountWithArguments(
             Volume, arguments,
@@ -124,7 +127,9 @@ class AMount : public testing::Test {
     tests::RecordedLog log_;
     tests::TemporaryFolder folder_;
     std::string list_ = folder_.path() + "/filesystems";
-    FakeDisks disks_;
+    /// The objects are fetched while this thread does nothing else.
+    tests::OtherProgram machine_;
+    std::unique_ptr<FakeDisks> disks_;
     DiskArbitration arbitration_{log_, list_};
 };
 
@@ -138,37 +143,37 @@ class AWritableMount : public AMount {
 
 TEST_F(AWritableMount, LeavesTheVolumesLogAlone) {
     EXPECT_FALSE(mount({Writable}).has_value());
-    EXPECT_THAT(disks_.calls, ElementsAre("mount rw,noatime,x-gvfs-hide,norecover -"));
+    EXPECT_THAT(disks_->calls, ElementsAre("mount rw,noatime,x-gvfs-hide,norecover -"));
 }
 
 TEST_F(AWritableMount, HasNoEmptyOption) {
     EXPECT_FALSE(mount({Writable}, {"auto"}).has_value());
-    EXPECT_THAT(disks_.calls, ElementsAre("mount norecover -"));
+    EXPECT_THAT(disks_->calls, ElementsAre("mount norecover -"));
 }
 
 TEST_F(AWritableMount, IsTheKernelsWhereThatDriverMindsTheOption) {
     knowFileSystems("nodev\tproc\n\text4\n\tntfs3\n");
     for (const char* const error : {Refused, Failed}) {
-        disks_.calls.clear();
+        disks_->calls.clear();
         EXPECT_FALSE(mount({error, Writable}).has_value());
-        EXPECT_THAT(disks_.calls, ElementsAre("mount rw,noatime,x-gvfs-hide,norecover -",
-                                              "mount rw,noatime,x-gvfs-hide ntfs3"));
+        EXPECT_THAT(disks_->calls, ElementsAre("mount rw,noatime,x-gvfs-hide,norecover -",
+                                               "mount rw,noatime,x-gvfs-hide ntfs3"));
     }
 }
 
 TEST_F(AMount, IsRefusedOnceWithoutTheKernelsDriver) {
     for (const char* const names : {"nodev\tproc\n\text4\n", "\tntfs\n\tntfs3g\n\txntfs3\n", ""}) {
         knowFileSystems(names);
-        disks_.calls.clear();
+        disks_->calls.clear();
         EXPECT_TRUE(mount({Failed}).has_value());
-        EXPECT_EQ(disks_.calls.size(), 1U) << names;
+        EXPECT_EQ(disks_->calls.size(), 1U) << names;
     }
 }
 
 TEST_F(AMount, IsRefusedOnceForAnyOtherReason) {
     knowFileSystems("\tntfs3\n");
     EXPECT_TRUE(mount({NotAuthorized}).has_value());
-    EXPECT_THAT(disks_.calls, testing::SizeIs(1));
+    EXPECT_THAT(disks_->calls, testing::SizeIs(1));
     EXPECT_THAT(log_.entries(), ElementsAre(HasSubstr("Refused.")));
 }
 
@@ -184,7 +189,7 @@ TEST_F(AMount, ThatTakesNoWritingIsUndone) {
     const auto dissenter = mount({Unwritable});
     ASSERT_TRUE(dissenter.has_value());
     EXPECT_EQ(dissenter->status, DAReturn::NotWritable);
-    EXPECT_THAT(disks_.calls, ElementsAre("mount rw,noatime,x-gvfs-hide,norecover -", "unmount"));
+    EXPECT_THAT(disks_->calls, ElementsAre("mount rw,noatime,x-gvfs-hide,norecover -", "unmount"));
     EXPECT_THAT(log_.entries(), ElementsAre(HasSubstr("sdz1 came up read-only")));
 }
 
