@@ -62,6 +62,13 @@ TEST_F(ALoop, DoesWhatItIsHandedInOrder) {
     EXPECT_THAT(events_, ElementsAre("one", "two", "three"));
 }
 
+TEST_F(ALoop, DoesWhatItIsHandedBeforeWhatHasTime) {
+    const auto patient = whenMainLoopTurns([this] { note("patient"); });
+    handTo(loop_->context(), [this] { note("handed"); });
+    turn();
+    EXPECT_THAT(events_, ElementsAre("handed", "patient"));
+}
+
 TEST_F(ALoop, LeavesGLibsDefaultContextAlone) {
     handTo(nullptr, [this] { note("default"); });
     turn();

@@ -58,6 +58,12 @@ int ShownMenu::idOf(const std::string& label) const {
     return found == items.end() ? 0 : found->id;
 }
 
+void MenuHost::waitUntilThere() {
+    turnUntil([this] {
+        return menu_.call("GetLayout", g_variant_new("(iias)", 0, -1, nullptr)) != nullptr;
+    });
+}
+
 ShownMenu MenuHost::read() {
     waitForDesk();
     ShownMenu menu;

@@ -31,6 +31,8 @@ struct ShownMenu {
 
 class MenuHost {
   public:
+    /// Waits until the menu is on the bus.
+    void waitUntilThere();
     /// The menu as it is; the calling thread does nothing else until it has the answer.
     [[nodiscard]] ShownMenu read();
     /// Clicks, and waits until the click has been taken.

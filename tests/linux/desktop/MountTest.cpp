@@ -72,8 +72,8 @@ class FakeDisks {
         auto& disks = *static_cast<FakeDisks*>(self);
         disks.calls.push_back("mount " + optionIn(options, "options") + " " +
                               optionIn(options, "fstype"));
-        const auto result = disks.results.front();
-        disks.results.pop_front();
+        const auto result = disks.results.empty() ? Failed : disks.results.front();
+        if (!disks.results.empty()) disks.results.pop_front();
         if (result.front() == '/') {
             udisks_filesystem_complete_mount(filesystem, invocation, result.c_str());
         } else {

@@ -149,6 +149,7 @@ TEST_F(ShownPrompts, GiveOneResponseEvenIfTheServerAlsoClosesThem) {
     prompt("mount", "Data");
     desktop_.invoke(1, "DO");
     desktop_.close(1, Dismissed);
+    desktop_.invoke(0, "DO");
     catchUp();
     EXPECT_THAT(responses_, ElementsAre("mount DO Data"));
 }

@@ -53,6 +53,8 @@ SessionBus& SessionBus::shared() {
 }
 
 SessionBus::SessionBus() : address_(start()) {
+    // What GLib takes for a mistake of its caller's is one.
+    g_log_set_always_fatal(static_cast<GLogLevelFlags>(G_LOG_FATAL_MASK | G_LOG_LEVEL_CRITICAL));
     g_setenv("DBUS_SESSION_BUS_ADDRESS", address_.c_str(), TRUE);
     g_setenv("DBUS_SYSTEM_BUS_ADDRESS", address_.c_str(), TRUE);
     CallError error;

@@ -31,6 +31,7 @@ class TheStatusMenu : public tests::StatusItemOnBus {
         login.checked = true;
         menu_.load({title, separator, login, item("Quit", "quit:")});
         item_->setImage("brisel-status-grey-light");
+        host_.waitUntilThere();
         static_cast<void>(host_.newSignals());
     }
     MenuItem item(const std::string& title, std::string_view action) {
