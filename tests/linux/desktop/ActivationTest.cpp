@@ -25,7 +25,7 @@ class AStart : public testing::Test {
             g_dbus_connection_close_sync(bus, nullptr, nullptr);
     }
 
-    OwnMainLoop loop_;
+    tests::TestLoop loop_;
     /// Of two programs.
     tests::OwnedObject<GDBusConnection> first_ = SessionBus::shared().connect();
     tests::OwnedObject<GDBusConnection> second_ = SessionBus::shared().connect();

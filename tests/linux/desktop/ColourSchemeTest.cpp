@@ -42,7 +42,7 @@ class TheColourScheme : public testing::Test {
     }
 
     GDBusConnection* bus_ = tests::SessionBus::shared().program();
-    OwnMainLoop loop_;
+    tests::TestLoop loop_;
     tests::BusCaller observer_{"org.freedesktop.DBus", "/", "org.freedesktop.DBus"};
     std::vector<Scheme> changes_;
     std::unique_ptr<ColourScheme> scheme_;

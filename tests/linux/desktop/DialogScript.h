@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -15,7 +17,8 @@ namespace brisel::tests {
 class DialogScript {
   public:
     explicit DialogScript(const std::string& lines) {
-        std::ofstream(path()) << "#!/bin/sh\ncd " << folder_.path() << " || exit 1\n" << lines;
+        std::ofstream(path()) << "#!/bin/sh\ncd " << folder_.path() << " || exit 1\necho $$ >pid\n"
+                              << lines;
         std::filesystem::permissions(path(), std::filesystem::perms::owner_all);
     }
 
@@ -27,6 +30,12 @@ class DialogScript {
     [[nodiscard]] std::string textIn(const std::string& name) const {
         std::ifstream stream(file(name));
         return {std::istreambuf_iterator<char>(stream), {}};
+    }
+
+    /// Whether it has run, and neither it nor its remains are there any more.
+    [[nodiscard]] bool isGone() const {
+        const auto pid = std::atoi(textIn("pid").c_str());
+        return pid > 0 && kill(pid, 0) != 0;
     }
 
   private:

@@ -105,8 +105,6 @@ class AMount : public testing::Test {
         turnUntil([this] { return arbitration_.copyDescription(Volume).volumeKind == "ntfs"; });
     }
     ~AMount() override {
-        while (g_main_context_iteration(loop_.context(), FALSE) != FALSE) {
-        }
         machine_.run([this] { disks_.reset(); });
     }
     void knowFileSystems(const std::string& names) { std::ofstream(list_) << names; }
@@ -123,7 +121,7 @@ class AMount : public testing::Test {
     }
 
     const Disk Volume{.bsdName = "sdz1", .reported = std::nullopt};
-    OwnMainLoop loop_;
+    tests::TestLoop loop_;
     tests::RecordedLog log_;
     tests::TemporaryFolder folder_;
     std::string list_ = folder_.path() + "/filesystems";

@@ -44,7 +44,7 @@ class Notifications : public testing::Test {
         return {.summary = summary, .body = body};
     }
 
-    OwnMainLoop loop_;
+    tests::TestLoop loop_;
     NotificationServer server_{tests::SessionBus::shared().program()};
 };
 

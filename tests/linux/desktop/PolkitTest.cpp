@@ -57,14 +57,8 @@ class ThePasswordQuestion : public testing::Test {
     }
     ~ThePasswordQuestion() override {
         program_.run([this] { authority_.reset(); });
-        // GLib frees here what polkit's library has subscribed to.
-        turn();
         for (const int end : interruption_)
             close(end);
-    }
-    void turn() const {
-        while (g_main_context_iteration(loop_.context(), FALSE) != FALSE) {
-        }
     }
     void authorityDoes(const tests::FakeService::Method& method) {
         program_.run([&] {
@@ -83,13 +77,12 @@ class ThePasswordQuestion : public testing::Test {
         return Authorization(log_, interruption_[0]).copyRights(nullptr, {}, 0);
     }
 
-    OwnMainLoop loop_;
+    tests::TestLoop loop_;
     tests::RecordedLog log_;
     tests::OtherProgram program_;
     std::optional<tests::FakeService> authority_;
     std::optional<tests::BusCall> waiting_;
     std::array<int, 2> interruption_{};
-    tests::OwnedObject<PolkitAuthority> kept_;
 };
 
 TEST_F(ThePasswordQuestion, IsAskedForThisProgramsAction) {
@@ -135,7 +128,8 @@ TEST_F(ThePasswordQuestion, IsTakenBackWhenTheProgramIsToEnd) {
     });
     // After a question that was taken back polkit's library (122) hears of the authority's end with
     // an object that it has freed. The program ends then; the test does not.
-    kept_.reset(polkit_authority_get_sync(nullptr, nullptr));
+    static const tests::OwnedObject<PolkitAuthority> kept(
+        polkit_authority_get_sync(nullptr, nullptr));
     EXPECT_EQ(ask(), errAuthorizationInternal);
     program_.run([] {});
     EXPECT_TRUE(waiting_.has_value());

@@ -50,7 +50,7 @@ class Prompts : public testing::Test {
     /// What was sent to the program before has arrived after this.
     void catchUp() { static_cast<void>(observer_.newSignals()); }
 
-    OwnMainLoop loop_;
+    tests::TestLoop loop_;
     tests::BusCaller observer_{"org.freedesktop.DBus", "/", "org.freedesktop.DBus"};
     NotificationServer server_{tests::SessionBus::shared().program()};
     UserNotificationCenter center_{server_};

@@ -28,7 +28,7 @@ class TheQueue : public testing::Test {
         queue_->post([this, event] { events_.push_back(event); });
     }
 
-    OwnMainLoop loop_;
+    tests::TestLoop loop_;
     std::unique_ptr<EveryModeQueue> queue_ = std::make_unique<EveryModeQueue>();
     std::vector<std::string> events_;
 };
@@ -92,8 +92,7 @@ TEST_F(TheQueue, LosesNothingOfManyThreads) {
 TEST_F(TheQueue, DropsItsWorkWithItself) {
     post("late");
     queue_.reset();
-    while (g_main_context_iteration(loop_.context(), FALSE) != FALSE) {
-    }
+    loop_.turn();
     EXPECT_THAT(events_, IsEmpty());
 }
 
@@ -117,7 +116,7 @@ TEST(TheDesk, EndsEvenIfItHasHardlyBegun) {
 }
 
 TEST(TheDesk, LeavesTheMainThreadsLoopToIt) {
-    const OwnMainLoop loop;
+    const tests::TestLoop loop;
     DeskThread desk;
     std::thread::id worker;
     bool done = false;

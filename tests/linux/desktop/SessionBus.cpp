@@ -116,6 +116,17 @@ bool turnUntil(const std::function<bool()>& reached) {
     return true;
 }
 
+TestLoop::~TestLoop() {
+    // What was under way to the program arrives before the answer to a question asked now.
+    BusCaller("org.freedesktop.DBus", "/", "org.freedesktop.DBus");
+    turn();
+}
+
+void TestLoop::turn() const {
+    while (g_main_context_iteration(loop_.context(), FALSE) != FALSE) {
+    }
+}
+
 void waitForDesk() {
     using Done = std::shared_ptr<std::promise<void>>;
     const auto done = std::make_shared<std::promise<void>>();

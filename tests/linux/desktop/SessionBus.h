@@ -47,6 +47,23 @@ class SessionBus {
 /// not come to that.
 bool turnUntil(const std::function<bool()>& reached);
 
+/// The loop of a test's thread. Whatever still waits there at the test's end is done, so that GLib
+/// can give up all that belonged to it.
+class TestLoop {
+  public:
+    TestLoop() = default;
+    TestLoop(const TestLoop&) = delete;
+    TestLoop& operator=(const TestLoop&) = delete;
+    ~TestLoop();
+
+    /// Does all that waits now.
+    void turn() const;
+    [[nodiscard]] GMainContext* context() const { return loop_.context(); }
+
+  private:
+    platform::linux::OwnMainLoop loop_;
+};
+
 /// Waits until the default context, on whatever thread it turns, has done all that waits there.
 void waitForDesk();
 

@@ -26,7 +26,7 @@ class StatusItemOnBus : public testing::Test {
     }
 
     GDBusConnection* bus_ = SessionBus::shared().program();
-    platform::linux::OwnMainLoop loop_;
+    TestLoop loop_;
     RecordedLog log_;
     platform::common::Bundle bundle_;
     platform::common::Menu menu_;

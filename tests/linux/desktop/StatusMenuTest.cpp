@@ -55,10 +55,7 @@ class TheStatusMenu : public tests::StatusItemOnBus {
     }
     void removeVolumes() { menu_.removeItemsWithTags(std::array{VolumeTag}); }
     /// Lets the menu's changes out.
-    void turn() {
-        while (g_main_context_iteration(loop_.context(), FALSE) != FALSE) {
-        }
-    }
+    void turn() const { loop_.turn(); }
     tests::ShownMenu read() {
         turn();
         return host_.read();

@@ -37,7 +37,7 @@ class TheTrayIcon : public testing::Test {
     }
 
     GDBusConnection* bus_ = tests::SessionBus::shared().program();
-    OwnMainLoop loop_;
+    tests::TestLoop loop_;
     tests::RecordedLog log_;
     const std::string name_ = "org.kde.StatusNotifierItem-" + std::to_string(getpid()) + "-1";
     std::unique_ptr<TrayIcon> icon_;
