@@ -52,9 +52,16 @@ class Tray:
         except GLib.Error:
             return False
 
+    def _has_menu(self):
+        try:
+            return bool(self.menu())
+        except GLib.Error:
+            return False
+
     def wait_until_shown(self):
-        """Waits until the panel has taken the icon."""
+        """Waits until the panel has taken the icon, and there is a menu to it."""
         wait_for(self._registered, f"{self._name} is in the panel")
+        wait_for(self._has_menu, f"{self._name} has a menu")
 
     def property(self, name):
         return bus.properties(self._connection, self._name, ITEM_PATH, ITEM)[name]

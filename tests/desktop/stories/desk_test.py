@@ -19,8 +19,8 @@ class Desk(Story):
 
     def test_a_click_in_the_panels_menu_makes_a_stick_writable(self):
         self.start_brisel()
-        stick = self.attach("Data")
-        self.tray.wait_for_entry("re-mount Data")
+        stick = self.attach("StageData")
+        self.tray.wait_for_entry("re-mount StageData")
         left, top, width, _height = wait_for(self.open_menu, "the panel shows the menu")
         self.take_picture("menu")
         self.stage.session.click(left + width // 2, top + FIRST_ENTRY)
@@ -37,19 +37,19 @@ class Desk(Story):
     def test_a_click_on_the_notification_makes_a_stick_writable(self):
         self.use_real_notifications()
         self.start_brisel()
-        stick = self.attach("Data")
+        stick = self.attach("StageData")
         self.click_yes()
         self.wait_for_writable(stick)
 
     def test_the_desktops_notification_server_may_end_and_come_back(self):
         self.use_real_notifications()
         self.start_brisel()
-        first = self.attach("First")
+        first = self.attach("StageFirst")
         self.window.wait_until_shown()
         self.stage.session.stop_notification_server()
         self.window.wait_until_gone()
         # The bus starts the server anew for this one.
-        second = self.attach("Second")
+        second = self.attach("StageSecond")
         self.click_yes()
         self.wait_for_writable(second)
         self.assertEqual(first.mounts(), [])
@@ -69,7 +69,7 @@ class Desk(Story):
         self.tray.wait_for_icon("brisel-status-grey-light")
         self.stage.portal.choose(portal.DARK)
         self.tray.wait_for_icon("brisel-status-grey-dark")
-        self.attach("Data")
+        self.attach("StageData")
         self.tray.wait_for_icon("brisel-status-green-dark")
         self.take_picture("dark")
         self.stage.portal.choose(portal.LIGHT)
@@ -84,7 +84,7 @@ class Desk(Story):
         self.start_brisel()
         self.tray.wait_for_colour("grey")
         nothing = self.tray.property("IconAccessibleDesc")
-        self.attach("Data")
+        self.attach("StageData")
         self.tray.wait_for_colour("green")
         something = self.tray.property("IconAccessibleDesc")
         self.assertTrue(nothing and something)

@@ -16,7 +16,7 @@ class Mishaps(Story):
 
     def test_a_stick_pulled_while_writable_leaves_the_menu_and_comes_back(self):
         self.start_brisel()
-        stick = self.attach("Data")
+        stick = self.attach("StageData")
         self.make_writable(stick)
         node = stick.node
         posted = len(self.notifications.posted)
@@ -30,14 +30,14 @@ class Mishaps(Story):
 
     def test_the_disk_service_may_end_and_come_back(self):
         self.start_brisel()
-        stick = self.attach("Data")
-        self.notifications.wait_for("Data detected")
+        stick = self.attach("StageData")
+        self.notifications.wait_for("StageData detected")
         self.end_disk_service()
         self.brisel.wait_for_log("The disk service UDisks2 has gone; waiting for it.")
         self.resume_disk_service()
         self.brisel.wait_for_log("The disk service UDisks2 is back.")
         self.assertFalse(self.brisel.has_logged("disappeared"))
-        self.tray.choose("re-mount Data")
+        self.tray.choose("re-mount StageData")
         self.wait_for_writable(stick)
 
     def end_disk_service(self):
@@ -56,12 +56,12 @@ class Mishaps(Story):
 
     def test_the_panel_may_end_and_come_back(self):
         self.start_brisel()
-        self.attach("Data")
-        self.notifications.wait_for("Data detected")
+        self.attach("StageData")
+        self.notifications.wait_for("StageData detected")
         self.stage.session.stop_panel()
         self.stage.session.start_panel()
         self.tray.wait_until_shown()
-        self.assertEqual(self.tray.labels()[0], "re-mount Data")
+        self.assertEqual(self.tray.labels()[0], "re-mount StageData")
 
     def test_the_icon_shows_up_when_the_panel_starts_last(self):
         self.stage.session.stop_panel()
@@ -76,12 +76,12 @@ class Mishaps(Story):
 
     def test_the_notification_server_may_end_and_come_back(self):
         self.start_brisel()
-        first = self.attach("First")
-        self.notifications.wait_for("First detected")
+        first = self.attach("StageFirst")
+        self.notifications.wait_for("StageFirst detected")
         self.stage.start_notification_mock()
-        second = self.attach("Second")
+        second = self.attach("StageSecond")
         self.accept_prompt(second)
         second.wait_until_writable()
-        self.tray.wait_for_entry("show Second in Finder")
+        self.tray.wait_for_entry("show StageSecond in Finder")
         self.assertEqual(first.mounts(), [])
         self.assertTrue(self.brisel.program.runs())

@@ -13,14 +13,14 @@ class MountTool(Story):
     def start_with_stick(self):
         self.use_mount_tool()
         self.start_brisel()
-        return self.attach("Data")
+        return self.attach("StageData")
 
     def assert_nothing_mounted(self, stick):
         self.assertEqual(stick.mounts(), [])
         self.assertFalse(os.path.exists(self.mount_point()))
 
     def mount_point(self):
-        return f"{self.stage.account.home}/.brisel/Data"
+        return f"{self.stage.account.home}/.brisel/StageData"
 
     @on_real_disks_only(REASON)
     def test_the_right_password_makes_a_stick_writable(self):
@@ -70,14 +70,14 @@ class MountTool(Story):
     def test_a_hibernated_stick_is_reported_and_left_unmounted(self):
         self.use_mount_tool()
         self.start_brisel()
-        stick = self.stage.new_stick("Data")
+        stick = self.stage.new_stick("StageData")
         stick.hibernate()
         stick.attach()
         prompt = self.stage.password_prompt(self.brisel.pid)
         self.accept_prompt(stick)
         prompt.type(self.stage.account.password)
         self.brisel.wait_for_log("mount will fail, there is a termination status report:")
-        alert = self.stage.alerts.wait_for('Volume "Data" not re-mountable')
+        alert = self.stage.alerts.wait_for('Volume "StageData" not re-mountable')
         self.assertEqual(stick.mounts(), [])
         self.stage.alerts.answer(alert, "Return")
         self.tray.wait_for_entry("No NTFS Volumes to re-mount")
@@ -92,5 +92,5 @@ class MountTool(Story):
         prompt.type(self.stage.account.password)
         self.brisel.wait_for_log("mount will fail, there is a termination status report:")
         self.assertTrue(self.brisel.program.runs())
-        self.assertEqual(os.listdir(os.path.dirname(self.mount_point())), ["Data"])
+        self.assertEqual(os.listdir(os.path.dirname(self.mount_point())), ["StageData"])
         self.assertFalse(os.path.ismount(self.mount_point()))

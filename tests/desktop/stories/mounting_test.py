@@ -17,17 +17,17 @@ class Mounting(Story):
         self.start_brisel()
         self.tray.wait_for_colour("grey")
         self.assertEqual(self.tray.labels(), UNMOUNTED_MENU)
-        stick = self.attach("Data")
-        prompt = self.notifications.wait_for("Data detected")
+        stick = self.attach("StageData")
+        prompt = self.notifications.wait_for("StageData detected")
         self.assertEqual(prompt.body, "Re-mount it read-write?")
         self.assertEqual(prompt.actions, {"DO_MOUNT": "Yes, sure!", "NOTHING": "No, thanks."})
         self.tray.wait_for_colour("green")
-        self.assertEqual(self.tray.labels()[0], "re-mount Data")
+        self.assertEqual(self.tray.labels()[0], "re-mount StageData")
         self.take_picture("prompt")
         self.notifications.press(prompt, "DO_MOUNT")
         folder = self.wait_for_writable(stick)
         self.assertEqual(self.tray.labels()[:5], [
-            "show Data in Finder", "unmount", "remove all extended attributes",
+            "show StageData in Finder", "unmount", "remove all extended attributes",
             "mount automatically", None])
         self.wait_until_shown(folder)
         self.write_greeting(folder)
@@ -48,21 +48,21 @@ class Mounting(Story):
 
     def test_the_menu_shows_the_folder_again(self):
         self.start_brisel()
-        stick = self.attach("Data")
+        stick = self.attach("StageData")
         folder = self.make_writable(stick)
         self.wait_until_shown(folder)
         before = len(self.folders_shown())
-        self.tray.choose("show Data in Finder")
+        self.tray.choose("show StageData in Finder")
         wait_for(lambda: len(self.folders_shown()) > before, "the folder is shown again")
         self.wait_until_shown(folder)
 
     @on_real_disks_only("nothing is mounted beforehand by a mocked disk service")
     def test_a_stick_mounted_read_only_is_mounted_again(self):
-        stick = self.attach("Data")
+        stick = self.attach("StageData")
         stick.mount_read_only(self.stage.session)
         self.start_brisel()
         self.tray.wait_for_colour("green")
-        self.tray.choose("re-mount Data")
+        self.tray.choose("re-mount StageData")
         folder = self.wait_for_writable(stick)
         self.write_greeting(folder)
         self.unmount(stick)
@@ -70,15 +70,15 @@ class Mounting(Story):
 
     def test_a_no_to_the_prompt_leaves_the_stick_alone(self):
         self.start_brisel()
-        stick = self.attach("Data")
-        prompt = self.notifications.wait_for("Data detected")
+        stick = self.attach("StageData")
+        prompt = self.notifications.wait_for("StageData detected")
         self.notifications.press(prompt, "NOTHING")
-        stays(lambda: self.tray.labels()[0] == "re-mount Data", "the stick is read-only")
+        stays(lambda: self.tray.labels()[0] == "re-mount StageData", "the stick is read-only")
         self.assertEqual(stick.mounts(), [])
 
     def test_a_stick_chosen_for_it_is_mounted_without_a_question(self):
         self.start_brisel()
-        stick = self.attach("Data")
+        stick = self.attach("StageData")
         self.make_writable(stick)
         self.tray.choose("mount automatically")
         self.tray.wait_for_entry("mount manually")
@@ -95,12 +95,12 @@ class Mounting(Story):
 
     def test_a_stick_in_use_stays_mounted_and_that_is_said(self):
         self.start_brisel()
-        stick = self.attach("Data")
+        stick = self.attach("StageData")
         folder = self.make_writable(stick)
         with self.in_use(stick, folder):
             self.tray.choose("unmount")
             self.brisel.wait_for_log(f"kDAReturnBusy for volume {stick.node}")
-            alert = self.stage.alerts.wait_for('Volume "Data" not unmountable')
+            alert = self.stage.alerts.wait_for('Volume "StageData" not unmountable')
             self.tray.wait_for_colour("red")
             self.take_picture("alert")
             self.stage.alerts.answer(alert, "Return")
@@ -115,12 +115,12 @@ class Mounting(Story):
 
     def test_a_hibernated_stick_is_reported_and_left_unmounted(self):
         self.start_brisel()
-        stick = self.stage.new_stick("Data")
+        stick = self.stage.new_stick("StageData")
         stick.hibernate()
         stick.attach()
         self.accept_prompt(stick)
         self.brisel.wait_for_log(f"kDAReturnNotWritable for volume {stick.node}")
-        alert = self.stage.alerts.wait_for('Volume "Data" not re-mountable')
+        alert = self.stage.alerts.wait_for('Volume "StageData" not re-mountable')
         self.tray.wait_for_colour("red")
         self.assertEqual(stick.mounts(), [])
         self.stage.alerts.answer(alert, "Return")
@@ -129,21 +129,21 @@ class Mounting(Story):
 
     def test_two_sticks_of_one_label_are_told_apart(self):
         self.start_brisel()
-        first = self.attach("Data")
-        self.tray.wait_for_entry("re-mount Data")
-        second = self.attach("Data")
-        self.tray.wait_for_entry(f"re-mount Data-{second.node}")
-        self.tray.wait_for_entry("re-mount Data")
-        self.tray.choose(f"re-mount Data-{second.node}")
+        first = self.attach("StageData")
+        self.tray.wait_for_entry("re-mount StageData")
+        second = self.attach("StageData")
+        self.tray.wait_for_entry(f"re-mount StageData-{second.node}")
+        self.tray.wait_for_entry("re-mount StageData")
+        self.tray.choose(f"re-mount StageData-{second.node}")
         second.wait_until_writable()
-        self.tray.wait_for_entry(f"show Data-{second.node} in Finder")
+        self.tray.wait_for_entry(f"show StageData-{second.node} in Finder")
         self.assertEqual(first.mounts(), [])
-        self.tray.wait_for_entry("re-mount Data")
+        self.tray.wait_for_entry("re-mount StageData")
 
     @on_real_disks_only("alternate streams need a real volume")
     def test_extended_attributes_are_removed(self):
         self.start_brisel()
-        stick = self.attach("Data")
+        stick = self.attach("StageData")
         folder = self.make_writable(stick)
         self.write_greeting(folder)
         file = f"{folder}/greeting.txt"

@@ -66,7 +66,7 @@ class Story(unittest.TestCase):
         self.brisel.wait_until_ready()
 
     def attach(self, label):
-        """A new stick, attached."""
+        """A new stick, attached. Its label must be one that nobody's own disk has."""
         stick = self.stage.new_stick(label)
         stick.attach()
         return stick
