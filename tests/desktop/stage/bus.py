@@ -42,7 +42,14 @@ class PrivateBus:
             ["dbus-daemon", "--nofork", f"--config-file={configuration}"], account,
             {**environment, "DBUS_SESSION_BUS_ADDRESS": self.address},
             os.path.join(folder, f"{name}.log"))
-        wait_for(lambda: os.path.exists(socket), f"the bus {name} listens")
+        wait_for(self._listens, f"the bus {name} listens")
+
+    def _listens(self):
+        try:
+            connect(self.address).close_sync()
+            return True
+        except GLib.Error:
+            return False
 
     def offer(self, service_file):
         """Lets the bus start a service that the machine has."""
