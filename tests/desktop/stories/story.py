@@ -82,11 +82,11 @@ class Story(unittest.TestCase):
         return self.wait_for_writable(stick)
 
     def wait_for_writable(self, stick):
-        """Waits for the mount, the menu and the icon; the folder."""
-        folder = stick.wait_until_writable()
+        """Waits for the menu, the icon and the mount; the folder."""
         self.tray.wait_for_entry(f"show {stick.label} in Finder")
         self.tray.wait_for_colour("blue")
-        return folder
+        # Last, for the mount tool prepares a volume elsewhere before it puts it in its place.
+        return stick.wait_until_writable()
 
     def unmount(self, stick):
         self.tray.choose("unmount", below=f"show {stick.label} in Finder")
