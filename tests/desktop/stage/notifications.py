@@ -2,6 +2,8 @@
 # SPDX-License-Identifier: MIT
 from dataclasses import dataclass
 
+from gi.repository import GLib
+
 from . import bus
 from .session import NOTIFICATIONS
 from .waiting import NeverHappened, wait_for
@@ -86,8 +88,13 @@ class NotificationServer(bus.Service):
         """Presses the button with that action, upon which the notification goes."""
         if action not in notification.actions:
             raise AssertionError(f"{notification} has no button for {action}")
-        self.emit(NOTIFICATIONS, "ActionInvoked", "(us)", notification.id, action)
-        self._closed(notification.id, DISMISSED)
+        # In the thread that answers, and so not before the number has been told.
+        GLib.idle_add(self._invoke, notification.id, action)
+
+    def _invoke(self, number, action):
+        self.emit(NOTIFICATIONS, "ActionInvoked", "(us)", number, action)
+        self._closed(number, DISMISSED)
+        return GLib.SOURCE_REMOVE
 
 
 class NotificationWindow:
