@@ -29,8 +29,8 @@ MOUNT_OPTIONS = "rw,noatime,x-gvfs-hide,norecover"
 
 MOST_MEMORY = 4096
 MOST_MEMORY_SHARE = 0.1
-# What a measurement of the same process varies by itself.
-MOST_GROWTH = 0.03
+# Some pages that the allocator fills only by and by.
+MOST_GROWTH = 0.05
 MOST_WAKE_UPS = 0
 MOST_PROMPT_TIME = 25
 MOST_REMOUNT_RATIO = 1.15
@@ -104,9 +104,9 @@ class Comparison:
         self.table.target("at most a tenth of udiskie's", ours <= theirs * MOST_MEMORY_SHARE)
 
     def idle(self, seconds):
-        before = self._both(processes.wake_ups)
+        before = self._both(processes.sleeps)
         time.sleep(seconds)
-        ours, theirs = (now - then for now, then in zip(self._both(processes.wake_ups), before))
+        ours, theirs = map(processes.wake_ups, before, self._both(processes.sleeps))
         self.table.row(f"wake-ups in {seconds} idle seconds", ours, theirs)
         self.table.target("no wake-up", ours <= MOST_WAKE_UPS)
 
@@ -123,14 +123,16 @@ class Comparison:
         # What is loaded and set up once, at the first stick, is no growth.
         self._attach_and_detach(stick, 10)
         time.sleep(SETTLE_SECONDS)
-        before = self._both(processes.memory)
+        before = self._both(processes.allocated)
         self._attach_and_detach(stick, times)
         time.sleep(SETTLE_SECONDS)
-        after = self._both(processes.memory)
-        self.table.row("memory after the first 10 attach and detach, kB", *before)
-        self.table.row(f"memory after {times} more, kB", *after)
+        after = self._both(processes.allocated)
+        ours, theirs = self._both(processes.memory)
+        self.table.row("allocated after 10 times attach and detach, kB", *before)
+        self.table.row(f"allocated after {times} more, kB", *after)
         self.table.target("no growth", after[0] <= before[0] * (1 + MOST_GROWTH))
-        self.table.target(f"at most {MOST_MEMORY} kB", after[0] <= MOST_MEMORY)
+        self.table.row("memory (PSS) then, kB", ours, theirs)
+        self.table.target(f"at most {MOST_MEMORY} kB", ours <= MOST_MEMORY)
 
     def prompts(self):
         stick = self.stage.new_stick("Prompt")

@@ -12,12 +12,21 @@ def _read(path):
         return file.read()
 
 
-def memory(pid):
-    """The proportional set size, in kB."""
+def _memory(pid, part):
     for line in _read(f"/proc/{pid}/smaps_rollup").splitlines():
-        if line.startswith("Pss:"):
+        if line.startswith(f"{part}:"):
             return int(line.split()[1])
-    raise RuntimeError(f"/proc/{pid}/smaps_rollup tells no Pss")
+    raise RuntimeError(f"/proc/{pid}/smaps_rollup tells no {part}")
+
+
+def memory(pid):
+    """The proportional set size, in kB. It also varies with who else maps the same files."""
+    return _memory(pid, "Pss")
+
+
+def allocated(pid):
+    """The part of it that stands for no file, in kB: what the process has taken for itself."""
+    return _memory(pid, "Pss_Anon")
 
 
 def processor_time(pid):
@@ -25,8 +34,14 @@ def processor_time(pid):
     return sum(int(_read(f"{task}/schedstat").split()[0]) for task in _tasks(pid)) / 1e6
 
 
-def wake_ups(pid):
-    """How often the threads have gone to sleep by themselves, and so were woken again."""
-    return sum(int(line.split()[1]) for task in _tasks(pid)
-               for line in _read(f"{task}/status").splitlines()
-               if line.startswith("voluntary_ctxt_switches"))
+def sleeps(pid):
+    """How often each thread has gone to sleep by itself so far."""
+    return {task: int(line.split()[1]) for task in _tasks(pid)
+            for line in _read(f"{task}/status").splitlines()
+            if line.startswith("voluntary_ctxt_switches")}
+
+
+def wake_ups(before, after):
+    """How often threads were woken between two looks at their sleeps; those that have ended since
+    do not count."""
+    return sum(count - before.get(task, 0) for task, count in after.items())

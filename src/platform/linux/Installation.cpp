@@ -37,6 +37,12 @@ std::string toolPath(const std::string& name) {
     return toolFolder() + "/" + name;
 }
 
+std::string applicationIcon() {
+    const auto icons = iconThemePath();
+    return icons.empty() ? "org.brisel.Brisel"
+                         : icons + "/hicolor/scalable/apps/org.brisel.Brisel.svg";
+}
+
 std::string iconThemePath() {
     constexpr const char* AnIcon = "hicolor/scalable/status/brisel-status-grey-dark.svg";
     const auto prefix = program().parent_path().parent_path();

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/linux/BusText.h"
+#include "platform/linux/Installation.h"
 
 namespace brisel::platform::linux {
 
@@ -13,7 +14,7 @@ namespace {
 constexpr const char* Name = "org.freedesktop.Notifications";
 constexpr const char* Path = "/org/freedesktop/Notifications";
 constexpr const char* ProgramName = "Brisel";
-constexpr const char* IconName = "org.brisel.Brisel";
+constexpr const char* DesktopEntry = "org.brisel.Brisel";
 constexpr gint32 ServersOwnTime = -1;
 
 void addHint(GVariantBuilder& hints, const char* name, GVariant* value) {
@@ -66,7 +67,7 @@ GVariant* NotificationServer::hintsFor(const Notification& notification) const {
     GVariantBuilder hints;
     g_variant_builder_init(&hints, G_VARIANT_TYPE_VARDICT);
     addHint(hints, "urgency", g_variant_new_byte(static_cast<guchar>(notification.urgency)));
-    addHint(hints, "desktop-entry", g_variant_new_string(IconName));
+    addHint(hints, "desktop-entry", g_variant_new_string(DesktopEntry));
     if (!notification.soundName.empty() && can("sound")) {
         addHint(hints, "sound-name", g_variant_new_string(notification.soundName.c_str()));
     }
@@ -75,8 +76,8 @@ GVariant* NotificationServer::hintsFor(const Notification& notification) const {
 
 GVariant* NotificationServer::argumentsFor(const Notification& notification) const {
     const auto body = busText(notification.body);
-    return g_variant_new("(susss@as@a{sv}i)", ProgramName, notification.replaces, IconName,
-                         busText(notification.summary).c_str(),
+    return g_variant_new("(susss@as@a{sv}i)", ProgramName, notification.replaces,
+                         applicationIcon().c_str(), busText(notification.summary).c_str(),
                          (can("body-markup") ? escaped(body) : body).c_str(),
                          actionList(notification.actions), hintsFor(notification), ServersOwnTime);
 }

@@ -1,6 +1,7 @@
 # Notifications: a server that shows them to the stage, and the hand on the desktop's own.
 # SPDX-License-Identifier: MIT
-from dataclasses import dataclass
+import time
+from dataclasses import dataclass, field
 
 from gi.repository import GLib
 
@@ -23,6 +24,7 @@ class Notification:
     actions: dict
     replaced: int
     hints: dict
+    moment: float = field(default_factory=time.monotonic)
 
 
 class NotificationServer(bus.Service):
