@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <string>
 
 #include "tests/linux/TemporaryFolder.h"
@@ -29,7 +30,9 @@ class DialogScript {
     /// What the script has written to its file of this name.
     [[nodiscard]] std::string textIn(const std::string& name) const {
         std::ifstream stream(file(name));
-        return {std::istreambuf_iterator<char>(stream), {}};
+        std::ostringstream text;
+        text << stream.rdbuf();
+        return text.str();
     }
 
     /// Whether it has run, and neither it nor its remains are there any more.

@@ -71,7 +71,7 @@ class ThePasswordQuestion : public testing::Test {
             [result](const auto& call) { call.answer(g_variant_new_parsed(result.c_str())); });
     }
     OSStatus ask() {
-        // The libraries' connection is there before nobody asks for it.
+        // The connection is there before nobody asks for it.
         static_cast<void>(tests::SessionBus::shared());
         const Nobody nobody;
         return Authorization(log_, interruption_[0]).copyRights(nullptr, {}, 0);

@@ -19,7 +19,7 @@
 #include <optional>
 #include <utility>
 
-#include "tests/linux/TemporaryFolder.h"
+#include "platform/Format.h"
 
 namespace brisel::tests {
 
@@ -32,7 +32,7 @@ constexpr std::chrono::seconds Patience{20};
 // No service files: the bus must start nothing of this machine's.
 constexpr const char* Configuration = R"(<busconfig>
   <type>session</type>
-  <listen>unix:tmpdir=/tmp</listen>
+  <listen>unix:dir=%@</listen>
   <policy context='default'>
     <allow user='*'/>
     <allow send_destination='*' eavesdrop='true'/>
@@ -59,6 +59,8 @@ SessionBus::SessionBus() : address_(start()) {
     g_setenv("DBUS_SYSTEM_BUS_ADDRESS", address_.c_str(), TRUE);
     CallError error;
     program_.reset(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, error.receive()));
+    // Libraries get the same one as long as it is there.
+    system_.reset(g_bus_get_sync(G_BUS_TYPE_SYSTEM, nullptr, nullptr));
     if (!program_) std::cerr << "There is no message bus: " << error.message() << '\n';
     g_dbus_connection_set_exit_on_close(program_.get(), FALSE);
 }
@@ -70,9 +72,8 @@ SessionBus::~SessionBus() {
 
 // Starts the bus and returns its address.
 std::string SessionBus::start() {
-    const TemporaryFolder folder;
-    const auto file = folder.path() + "/bus.conf";
-    std::ofstream(file) << Configuration;
+    const auto file = folder_.path() + "/bus.conf";
+    std::ofstream(file) << platform::stringWithFormat(Configuration, folder_.path());
     const auto option = "--config-file=" + file;
     std::array<int, 2> ends{-1, -1};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return {};

@@ -12,6 +12,7 @@
 
 #include "platform/linux/GLibOwners.h"
 #include "platform/linux/MainContext.h"
+#include "tests/linux/TemporaryFolder.h"
 
 namespace brisel::tests {
 
@@ -38,9 +39,11 @@ class SessionBus {
 
     [[nodiscard]] std::string start();
 
+    TemporaryFolder folder_;
     pid_t daemon_ = 0;
     std::string address_;
     OwnedObject<GDBusConnection> program_;
+    OwnedObject<GDBusConnection> system_;
 };
 
 /// Turns the calling thread's loop until that is so. False, and a failure of the test, when it does
