@@ -136,16 +136,13 @@ class Comparison:
 
     def prompts(self):
         stick = self.stage.new_stick("Prompt")
-        posted = self.stage.notifications.posted
         times = []
-        for _ in range(ROUNDS):
+        for count in range(ROUNDS):
             self.reports.forget()
-            count = len(posted)
             stick.attach()
             reported = self.reports.wait_for(stick.node)
-            prompt = wait_for(lambda: next((one for one in posted[count:]
-                                            if one.summary == "Prompt detected"), None),
-                              "the prompt comes")
+            prompt = wait_for(lambda wanted=count: self._offers(stick)[wanted:],
+                              "the prompt comes")[0]
             times.append((prompt.moment - reported) * 1000)
             stick.pull()
         median = statistics.median(times)
@@ -168,12 +165,12 @@ class Comparison:
                           ratio <= MOST_REMOUNT_RATIO)
 
     def _remount(self, stick, how):
-        count = len(self.stage.notifications.posted)
+        before = len(self._offers(stick))
         stick.attach()
-        prompt = self.stage.notifications.wait_for("Remount detected", count)
         stick.mount_read_only(self.stage.session)
-        wait_for(lambda: len(self.stage.notifications.posted) > count + 1, "it is offered anew")
-        prompt = self.stage.notifications.posted[-1]
+        # Once when it comes, and once when somebody has mounted it.
+        wait_for(lambda: len(self._offers(stick)) == before + 2, "it is offered anew")
+        prompt = self._offers(stick)[-1]
         start = time.monotonic()
         how(stick, prompt)
         end = moments.wait_for_mounts(
@@ -183,6 +180,10 @@ class Comparison:
         time.sleep(0.3)
         stick.pull()
         return (end - start) * 1000
+
+    def _offers(self, stick):
+        return [one for one in self.stage.notifications.posted
+                if one.summary == f"{stick.label} detected"]
 
     def _say_yes(self, _stick, prompt):
         self.stage.notifications.press(prompt, "DO_MOUNT")

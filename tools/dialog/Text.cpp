@@ -29,8 +29,11 @@ bool turnsDirection(gunichar letter) {
 
 gunichar shownAs(gunichar letter) {
     constexpr gunichar Replacement = 0xfffd;
+    constexpr gunichar LineSeparator = 0x2028;
+    constexpr gunichar ParagraphSeparator = 0x2029;
     if (letter == '\n') return letter;
-    if (letter == '\t' || letter == '\r') return ' ';
+    const bool separatesLines = letter == LineSeparator || letter == ParagraphSeparator;
+    if (letter == '\t' || letter == '\r' || separatesLines) return ' ';
     const bool isControl = g_unichar_iscntrl(letter) != FALSE;
     return isControl || turnsDirection(letter) ? Replacement : letter;
 }

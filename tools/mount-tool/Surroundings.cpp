@@ -12,6 +12,7 @@
 #include <climits>
 #include <csignal>
 #include <cstdlib>
+#include <utility>
 
 namespace brisel::mounttool {
 
@@ -40,10 +41,16 @@ void blockSignals() {
 
 // The driver lives on with them: a limit on its time would kill it while it writes.
 void liftLimits() {
-    constexpr std::array Limits{RLIMIT_CPU, RLIMIT_FSIZE, RLIMIT_DATA, RLIMIT_AS};
-    for (const auto limit : Limits) {
-        const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
-        if (setrlimit(limit, &none) == 0) continue;
+    // A stack without a limit would make the kernel lay out memory in the old, predictable way.
+    constexpr rlim_t UsualStack = 8U << 20U;
+    constexpr std::array Limits{
+        std::pair{RLIMIT_CPU, RLIM_INFINITY},   std::pair{RLIMIT_RTTIME, RLIM_INFINITY},
+        std::pair{RLIMIT_FSIZE, RLIM_INFINITY}, std::pair{RLIMIT_DATA, RLIM_INFINITY},
+        std::pair{RLIMIT_AS, RLIM_INFINITY},    std::pair{RLIMIT_STACK, UsualStack},
+        std::pair{RLIMIT_NOFILE, RLIM_INFINITY}};
+    for (const auto& [limit, value] : Limits) {
+        const rlimit wanted{value, value};
+        if (setrlimit(limit, &wanted) == 0) continue;
         rlimit most{};
         getrlimit(limit, &most);
         most.rlim_cur = most.rlim_max;

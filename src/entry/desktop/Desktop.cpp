@@ -43,7 +43,7 @@ int Desktop::run() {
         return EXIT_SUCCESS;
     }
     if (activation_.place() == Place::Second && activation_.activateFirst()) return EXIT_SUCCESS;
-    systemLog_.log("Brisel runs already, or the session bus does not say; it does not answer.");
+    systemLog_.log("Another Brisel refuses to show itself, or the session bus is out of order.");
     return EXIT_FAILURE;
 }
 

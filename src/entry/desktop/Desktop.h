@@ -65,7 +65,7 @@ class Desktop {
                                    .notifications = notifications_,
                                    .interruption = interruption_.descriptor(),
                                    .dialog = dialog_}};
-    platform::linux::Application application_{dialog_};
+    platform::linux::Application application_{systemLog_, dialog_};
     platform::linux::Authorization authorization_{systemLog_, interruption_.descriptor()};
     platform::linux::DiskArbitration diskArbitration_{systemLog_};
     platform::linux::FileManager fileManager_;
@@ -78,7 +78,7 @@ class Desktop {
                                                 platform::linux::UserDefaults::defaultPath()};
     platform::linux::UserNotificationCenter userNotificationCenter_{notifications_};
     platform::linux::Workspace workspace_{systemLog_};
-    platform::linux::MenuWindow menuWindow_{statusItem_, dialog_};
+    platform::linux::MenuWindow menuWindow_{statusItem_, systemLog_, dialog_};
     const platform::Platform platform_{.alert = alert_,
                                        .application = application_,
                                        .authorization = authorization_,

@@ -4,7 +4,7 @@
 #include <malloc.h>
 
 #include <clocale>
-#include <csignal>
+#include <cstdlib>
 #include <iostream>
 #include <string_view>
 

@@ -23,7 +23,7 @@ constexpr guint32 DoNotQueue = 4;
 constexpr guint32 PrimaryOwner = 1;
 constexpr guint32 Exists = 3;
 
-// The first one may be held up by an alert; it gets the call all the same.
+// The first one may be held up by an alert; it gets the call all the same, only later.
 constexpr int MillisecondsToAnswer = 5000;
 
 Activation::Place takeName(GDBusConnection* bus) {
@@ -37,35 +37,49 @@ Activation::Place takeName(GDBusConnection* bus) {
     return place == Exists ? Activation::Place::Second : Activation::Place::Unknown;
 }
 
-void answerActivate(GDBusConnection* /*bus*/, const gchar* /*sender*/, const gchar* /*path*/,
-                    const gchar* /*interface*/, const gchar* /*method*/, GVariant* /*arguments*/,
-                    GDBusMethodInvocation* invocation, gpointer activated) {
-    g_dbus_method_invocation_return_value(invocation, nullptr);
-    (*static_cast<std::function<void()>*>(activated))();
-}
-
 }  // namespace
 
-Activation::Activation(GDBusConnection* bus) : bus_(bus), place_(takeName(bus)) {}
+// The object comes before the name: who finds the name finds somebody to talk to.
+Activation::Activation(GDBusConnection* bus)
+    : bus_(bus), object_(exportObject()), place_(takeName(bus)) {}
 
 Activation::~Activation() {
     if (object_ != 0) g_dbus_connection_unregister_object(bus_, object_);
 }
 
+guint Activation::exportObject() {
+    const auto answer = [](GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar*,
+                           GVariant*, GDBusMethodInvocation* invocation, gpointer self) {
+        g_dbus_method_invocation_return_value(invocation, nullptr);
+        static_cast<Activation*>(self)->noteStart();
+    };
+    static const GDBusInterfaceVTable Answers{answer, nullptr, nullptr, {}};
+    auto* const node = g_dbus_node_info_new_for_xml(Introspection, nullptr);
+    const auto object = g_dbus_connection_register_object(bus_, Path, *node->interfaces, &Answers,
+                                                          this, nullptr, nullptr);
+    g_dbus_node_info_unref(node);
+    return object;
+}
+
+void Activation::noteStart() {
+    if (activated_) {
+        activated_();
+    } else {
+        startedMeanwhile_ = true;
+    }
+}
+
 bool Activation::activateFirst() const {
+    CallError error;
     const OwnedVariant answer(g_dbus_connection_call_sync(
         bus_, Name, Path, Interface, "Activate", g_variant_new("(a{sv})", nullptr), nullptr,
-        G_DBUS_CALL_FLAGS_NO_AUTO_START, MillisecondsToAnswer, nullptr, nullptr));
-    return answer != nullptr;
+        G_DBUS_CALL_FLAGS_NO_AUTO_START, MillisecondsToAnswer, nullptr, error.receive()));
+    return answer || g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_TIMED_OUT) != FALSE;
 }
 
 void Activation::listen(std::function<void()> activated) {
-    static constexpr GDBusInterfaceVTable Answers{&answerActivate, nullptr, nullptr, {}};
     activated_ = std::move(activated);
-    auto* const node = g_dbus_node_info_new_for_xml(Introspection, nullptr);
-    object_ = g_dbus_connection_register_object(bus_, Path, *node->interfaces, &Answers,
-                                                &activated_, nullptr, nullptr);
-    g_dbus_node_info_unref(node);
+    if (std::exchange(startedMeanwhile_, false)) activated_();
 }
 
 }  // namespace brisel::platform::linux

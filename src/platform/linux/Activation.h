@@ -25,16 +25,22 @@ class Activation {
 
     /// Whether this program has the name, or another one, or the bus would not say.
     [[nodiscard]] Place place() const { return place_; }
-    /// Tells the program that has the name that it was started again; false if it does not answer.
+    /// Tells the program that has the name that it was started again; false if it refuses. One that
+    /// is busy for some seconds will hear of it later.
     [[nodiscard]] bool activateFirst() const;
-    /// From now on calls `activated`, on the calling thread's loop, when there was another start.
+    /// From now on calls `activated`, on the loop of the thread that made this, for every other
+    /// start; at once for those so far.
     void listen(std::function<void()> activated);
 
   private:
+    [[nodiscard]] guint exportObject();
+    void noteStart();
+
     GDBusConnection* bus_;
-    Place place_;
     std::function<void()> activated_;
-    guint object_ = 0;
+    bool startedMeanwhile_ = false;
+    guint object_;
+    Place place_;
 };
 
 }  // namespace brisel::platform::linux

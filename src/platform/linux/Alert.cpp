@@ -40,14 +40,14 @@ int Alert::runModal(const AlertContent& content) {
     std::vector<std::string> arguments{"alert", content.messageText, content.informativeText};
     arguments.insert(arguments.end(), buttons.begin(), buttons.end());
     DialogProcess window(surroundings_.dialog, arguments);
-    waitFor(window);
+    const auto waiting = waitFor(window);
     const int pressed = window.pressed().value_or(NothingPressed);
     if (pressed >= 0 && pressed < std::ssize(buttons)) return AlertFirstButtonReturn + pressed;
-    if (!window.wasShown()) tellOtherwise(content);
+    if (waiting == Waiting::Ended && !window.wasShown()) tellOtherwise(content);
     return buttons.size() > 1 ? NothingPressed : AlertFirstButtonReturn;
 }
 
-void Alert::waitFor(DialogProcess& window) const {
+Alert::Waiting Alert::waitFor(DialogProcess& window) const {
     const auto latestShown = Clock::now() + surroundings_.patience;
     while (isWaiting(window)) {
         std::array<pollfd, 3> awaited{
@@ -56,10 +56,12 @@ void Alert::waitFor(DialogProcess& window) const {
             pollfd{.fd = surroundings_.interruption, .events = POLLIN, .revents = 0}};
         const int ready = poll(awaited.data(), awaited.size(), patienceWith(window, latestShown));
         if (ready < 0 && errno == EINTR) continue;
-        if (ready <= 0 || awaited[2].revents != 0) return;
+        if (ready <= 0) return Waiting::Ended;
+        if (awaited[2].revents != 0) return Waiting::Interrupted;
         if (awaited[1].revents != 0) surroundings_.mainThread.work();
         if (awaited[0].revents != 0) window.takeIn();
     }
+    return Waiting::Ended;
 }
 
 void Alert::tellOtherwise(const AlertContent& content) const {

@@ -40,8 +40,10 @@ class Alert final : public platform::Alert {
     int runModal(const AlertContent& content) override;
 
   private:
+    enum class Waiting { Ended, Interrupted };
+
     /// Waits for an answer, for the window only so long.
-    void waitFor(DialogProcess& window) const;
+    [[nodiscard]] Waiting waitFor(DialogProcess& window) const;
     void tellOtherwise(const AlertContent& content) const;
 
     Surroundings surroundings_;

@@ -13,7 +13,8 @@ namespace brisel::platform::linux {
 class Application final : public common::Application {
   public:
     /// `dialog` is the path of the dialog program.
-    explicit Application(std::string dialog) : aboutPanel_(std::move(dialog)) {}
+    Application(platform::SystemLog& log, std::string dialog)
+        : aboutPanel_(log, std::move(dialog)) {}
 
     void orderFrontStandardAboutPanel() override { aboutPanel_.show({"about"}, {}, {}); }
 

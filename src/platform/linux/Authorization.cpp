@@ -88,6 +88,9 @@ OSStatus Authorization::askPolkit() const {
         return errAuthorizationInternal;
     }
     const auto answer = PolkitQuestion().ask(authority.get(), interruption_, error);
+    if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE) {
+        return errAuthorizationDenied;
+    }
     if (!answer) {
         log_.log("polkit did not answer: %@", error.message());
         return errAuthorizationInternal;

@@ -32,7 +32,7 @@ class BusClient {
     /// Reads a property of the object's interface; the answer is the bare value.
     void readProperty(const char* name, Done done);
 
-    /// Gets the arguments of a signal of the object's interface, from the service alone.
+    /// Gets the arguments of a signal of the object's interface, sent by the service.
     [[nodiscard]] Subscription onSignal(const char* signal,
                                         std::function<void(GVariant* arguments)> received);
     /// Tells whenever the service has an owner, also now, and whenever it has lost it.

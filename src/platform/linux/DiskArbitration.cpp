@@ -3,7 +3,9 @@
 #include "platform/linux/DiskArbitration.h"
 
 #include <array>
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 #include <utility>
 
 #include "platform/linux/MainContext.h"
@@ -32,9 +34,12 @@ bool isSameVolume(const DiskDescription& one, const DiskDescription& other) {
            one.mediaUUID == other.mediaUUID;
 }
 
-// What is mounted there was mounted for the program, by the mount tool behind UDisks2's back.
+// What is mounted there was mounted for the program, by the mount tool behind UDisks2's back. The
+// kernel tells of mounts by the paths without links.
 bool isInMountFolder(const std::optional<FileURL>& path) {
-    return path && path->path().starts_with(std::string(g_get_home_dir()) + "/.brisel/");
+    std::error_code code;
+    const auto home = std::filesystem::weakly_canonical(g_get_home_dir(), code);
+    return path && path->path().starts_with(home.string() + "/.brisel/");
 }
 
 // Where the mount tool has a volume for a moment, until it is in order.
@@ -86,7 +91,7 @@ Subscription DiskArbitration::registerDiskDisappearedCallback(DiskCallback callb
 }
 
 void DiskArbitration::scheduleWithRunLoop() {
-    firstComparison_ = whenMainLoopTurns([this] {
+    nextComparison_ = whenMainLoopTurns([this] {
         scheduled_ = true;
         compare();
     });
@@ -132,6 +137,8 @@ void DiskArbitration::finish(const Disk& disk, const std::optional<Dissenter>& d
         reported->second.volumePath.reset();
         if (mountPoint) reported->second.volumePath = FileURL(*mountPoint);
     }
+    // What others have mounted or unmounted meanwhile was passed over.
+    if (dissenter) nextComparison_ = whenMainLoopTurns([this] { compare(); });
     completion(disk, dissenter);
 }
 
@@ -190,6 +197,7 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
                     [this, disk, options, done = std::move(done)](const auto& failure,
                                                                   const std::string& mountPoint) {
                         if (failure && mayHaveMinded(*failure) && hasKernelDriver()) {
+                            static_cast<void>(dissenterFor(failure, disk));
                             service_->mount(disk.bsdName,
                                             {.options = options, .driver = KernelDriver}, done);
                         } else {

@@ -60,7 +60,7 @@ class DiskArbitration final : public platform::DiskArbitration {
     platform::SystemLog& log_;
     std::string knownFileSystems_;
     std::unique_ptr<DiskService> service_;
-    Subscription firstComparison_;
+    Subscription nextComparison_;
     bool scheduled_ = false;
     /// How many of the program's own requests are under way, by BSD name.
     std::map<std::string, int> requests_;

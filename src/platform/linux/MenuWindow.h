@@ -14,8 +14,8 @@ namespace brisel::platform::linux {
 class MenuWindow {
   public:
     /// `dialog` is the path of the dialog program.
-    MenuWindow(StatusItem& statusItem, std::string dialog)
-        : statusItem_(statusItem), window_(std::move(dialog)) {}
+    MenuWindow(StatusItem& statusItem, platform::SystemLog& log, std::string dialog)
+        : statusItem_(statusItem), window_(log, std::move(dialog)) {}
 
     /// Shows the menu as it is now, instead of a window that is still open.
     void show();

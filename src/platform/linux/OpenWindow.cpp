@@ -15,13 +15,19 @@ void OpenWindow::show(const std::vector<std::string>& arguments, const std::stri
     pressed_ = std::move(pressed);
     if (window_->descriptor() >= 0) {
         reading_ = whenReadable(window_->descriptor(), [this] { takeIn(); });
+    } else {
+        end();
     }
 }
 
 void OpenWindow::takeIn() {
     window_->takeIn();
+    if (window_->pressed() || window_->descriptor() < 0) end();
+}
+
+void OpenWindow::end() {
     const auto number = window_->pressed();
-    if (!number && window_->descriptor() >= 0) return;
+    if (!number && !window_->wasShown()) log_.log("%@ could not show a window.", program_);
     reading_.reset();
     window_.reset();
     const auto pressed = std::exchange(pressed_, nullptr);

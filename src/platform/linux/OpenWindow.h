@@ -10,6 +10,7 @@
 
 #include "platform/linux/DialogProcess.h"
 #include "platform/Subscription.h"
+#include "platform/SystemLog.h"
 
 namespace brisel::platform::linux {
 
@@ -17,17 +18,20 @@ namespace brisel::platform::linux {
 class OpenWindow {
   public:
     /// `program` is the path of the dialog program.
-    explicit OpenWindow(std::string program) : program_(std::move(program)) {}
+    OpenWindow(platform::SystemLog& log, std::string program)
+        : log_(log), program_(std::move(program)) {}
 
     using Pressed = std::function<void(int number)>;
 
     /// Opens the window (see DialogProcess), instead of one that is still open. `pressed` gets what
-    /// is pressed in it, if anything.
+    /// is pressed in it, if anything. The log tells of a window that could not be shown.
     void show(const std::vector<std::string>& arguments, const std::string& input, Pressed pressed);
 
   private:
     void takeIn();
+    void end();
 
+    platform::SystemLog& log_;
     std::string program_;
     std::unique_ptr<DialogProcess> window_;
     Subscription reading_;

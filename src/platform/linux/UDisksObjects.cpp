@@ -56,14 +56,15 @@ void UDisksObjects::connect() {
         tryAgain(error.message());
         return;
     }
-    // A service that answers this is running, started by the bus if need be, and in good health:
-    // nobody waits for it in vain.
-    g_dbus_connection_call(connection.get(), BusName, ObjectPath, "org.freedesktop.DBus.Peer",
-                           "Ping", nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
-                           &UDisksObjects::finishPing, this);
+    // A service that answers this has been started, by the bus if need be, and its loop turns: the
+    // same question will be answered once more, without delay.
+    g_dbus_connection_call(connection.get(), BusName, ObjectPath,
+                           "org.freedesktop.DBus.ObjectManager", "GetManagedObjects", nullptr,
+                           nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
+                           &UDisksObjects::finishFirstQuestion, this);
 }
 
-void UDisksObjects::finishPing(GObject* connection, GAsyncResult* result, gpointer self) {
+void UDisksObjects::finishFirstQuestion(GObject* connection, GAsyncResult* result, gpointer self) {
     CallError error;
     const OwnedVariant answer(
         g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, error.receive()));

@@ -41,7 +41,7 @@ class UDisksObjects {
     void tryAgain(const std::string& reason);
     void noteOwner();
     void askForRestart() const;
-    static void finishPing(GObject* connection, GAsyncResult* result, gpointer self);
+    static void finishFirstQuestion(GObject* connection, GAsyncResult* result, gpointer self);
 
     platform::SystemLog& log_;
     Changed changed_;

@@ -30,7 +30,15 @@ UserNotificationCenter::UserNotificationCenter(NotificationServer& server) : ser
 
 void UserNotificationCenter::addNotificationRequest(const NotificationRequest& request,
                                                     AddHandler handler) {
-    waiting_.push_back({.request = request, .handler = std::move(handler)});
+    // Asked again before the server has answered, it is shown once all the same.
+    for (auto& waiting : waiting_) {
+        if (waiting.request.identifier != request.identifier ||
+            waiting.request.userInfo != request.userInfo)
+            continue;
+        waiting.handlers.push_back(std::move(handler));
+        return;
+    }
+    waiting_.push_back({.request = request, .handlers = {std::move(handler)}});
     if (waiting_.size() == 1) showNext();
 }
 
@@ -41,13 +49,15 @@ void UserNotificationCenter::showNext() {
 }
 
 void UserNotificationCenter::finishShow(std::uint32_t number, const std::optional<Error>& error) {
-    const auto shown = std::move(waiting_.front());
+    const auto shown = std::exchange(waiting_.front().handlers, {});
+    const auto& request = waiting_.front().request;
     if (!error) {
-        popUps_[shown.request.identifier] = {.number = number, .userInfo = shown.request.userInfo};
+        popUps_[request.identifier] = {.number = number, .userInfo = request.userInfo};
     }
-    shown.handler(error);
+    for (const auto& handler : shown)
+        handler(error);
     // Not before: what the handler asks for has to wait its turn too.
-    waiting_.pop_front();
+    if (waiting_.front().handlers.empty()) waiting_.pop_front();
     showNext();
 }
 

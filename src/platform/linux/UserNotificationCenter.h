@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/common/UserNotificationCenter.h"
 #include "platform/linux/NotificationServer.h"
@@ -25,7 +26,8 @@ class UserNotificationCenter final : public common::UserNotificationCenter {
   private:
     struct Waiting {
         NotificationRequest request;
-        AddHandler handler;
+        /// Of everybody who has asked for the same.
+        std::vector<AddHandler> handlers;
     };
     struct PopUp {
         std::uint32_t number = 0;
@@ -38,7 +40,8 @@ class UserNotificationCenter final : public common::UserNotificationCenter {
     [[nodiscard]] Notification notificationFor(const NotificationRequest& request) const;
 
     NotificationServer& server_;
-    /// One at a time is shown: what the next is to replace is known once that one has its number.
+    /// The first of them is being shown, one at a time: what the next is to replace is known once
+    /// that one has its number.
     std::deque<Waiting> waiting_;
     /// The latest pop-up of each request identifier.
     std::map<std::string, PopUp> popUps_;

@@ -2,24 +2,34 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/Workspace.h"
 
-#include "platform/linux/GLibOwners.h"
+#include <memory>
 
 namespace brisel::platform::linux {
 
 namespace {
 
-void finishOpening(GObject* /*source*/, GAsyncResult* result, gpointer log) {
+/// A folder that is being opened. Whoever asked for it has gone once it is cancelled.
+struct Opening {
+    platform::SystemLog& log;
+    OwnedObject<GCancellable> cancellable;
+};
+
+void finishOpening(GObject* /*source*/, GAsyncResult* result, gpointer data) {
+    const std::unique_ptr<Opening> opening(static_cast<Opening*>(data));
     CallError error;
-    if (g_app_info_launch_default_for_uri_finish(result, error.receive()) != FALSE) return;
-    static_cast<platform::SystemLog*>(log)->log("The folder cannot be shown: %@", error.message());
+    const bool opened = g_app_info_launch_default_for_uri_finish(result, error.receive()) != FALSE;
+    if (opened || g_cancellable_is_cancelled(opening->cancellable.get()) != FALSE) return;
+    opening->log.log("The folder cannot be shown: %@", error.message());
 }
 
 }  // namespace
 
 void Workspace::openURL(const std::optional<FileURL>& url) {
     if (!url) return;
-    g_app_info_launch_default_for_uri_async(url->absoluteString().c_str(), nullptr, nullptr,
-                                            &finishOpening, &log_);
+    auto* const cancellable = static_cast<GCancellable*>(g_object_ref(cancellable_.get()));
+    g_app_info_launch_default_for_uri_async(
+        url->absoluteString().c_str(), nullptr, cancellable, &finishOpening,
+        new Opening{.log = log_, .cancellable = OwnedObject<GCancellable>(cancellable)});
 }
 
 }  // namespace brisel::platform::linux

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/linux/GLibOwners.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
 
@@ -10,12 +11,16 @@ namespace brisel::platform::linux {
 class Workspace final : public platform::Workspace {
   public:
     explicit Workspace(platform::SystemLog& log) : log_(log) {}
+    Workspace(const Workspace&) = delete;
+    Workspace& operator=(const Workspace&) = delete;
+    ~Workspace() override { g_cancellable_cancel(cancellable_.get()); }
 
     /// Opens the folder in whatever the desktop has set for folders; waits for nothing.
     void openURL(const std::optional<FileURL>& url) override;
 
   private:
     platform::SystemLog& log_;
+    OwnedObject<GCancellable> cancellable_{g_cancellable_new()};
 };
 
 }  // namespace brisel::platform::linux

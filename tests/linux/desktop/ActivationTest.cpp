@@ -58,9 +58,18 @@ TEST_F(AStart, IsTheFirstAgainOnceTheFirstHasEnded) {
     turnUntil([this] { return Activation(second_.get()).place() == Place::First; });
 }
 
-TEST_F(AStart, FindsNobodyWhereNobodyListens) {
-    const Activation first(first_.get());
-    EXPECT_FALSE(Activation(second_.get()).activateFirst());
+TEST_F(AStart, BeforeTheFirstListensIsNotLost) {
+    Activation first(first_.get());
+    const Activation second(second_.get());
+    auto answered = std::async(std::launch::async, [&] { return second.activateFirst(); });
+    turnUntil(
+        [&] { return answered.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    EXPECT_TRUE(answered.get());
+    int activated = 0;
+    first.listen([&activated] { ++activated; });
+    EXPECT_EQ(activated, 1);
+    first.listen([&activated] { ++activated; });
+    EXPECT_EQ(activated, 1);
 }
 
 TEST_F(AStart, KnowsNoPlaceWithoutABus) {

@@ -1,5 +1,6 @@
 // Pop-ups on the bus: what is sent of them, and what servers make of them.
 // SPDX-License-Identifier: MIT
+#include "platform/linux/Installation.h"
 #include "platform/linux/NotificationServer.h"
 
 #include <gmock/gmock.h>
@@ -58,7 +59,8 @@ TEST_F(Notifications, SayWhoseTheyAre) {
     ASSERT_EQ(desktop.calls().size(), 1U);
     const auto& call = desktop.calls().front();
     EXPECT_EQ(call.program, "Brisel");
-    EXPECT_EQ(call.icon, "org.brisel.Brisel");
+    EXPECT_EQ(call.icon, applicationIcon());
+    EXPECT_THAT(call.icon, HasSubstr("org.brisel.Brisel"));
     EXPECT_EQ(call.summary, "Found");
     EXPECT_EQ(call.body, "Go?");
     EXPECT_EQ(call.replaces, 0U);

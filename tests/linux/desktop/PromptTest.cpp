@@ -10,6 +10,7 @@ namespace brisel::platform::linux {
 
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using tests::FakeNotifications;
@@ -125,6 +126,29 @@ TEST_F(ShownPrompts, ThatComeTogetherReplaceEachOtherInOrder) {
     desktop_.invoke(5, "DO");
     turnUntil([this] { return !responses_.empty(); });
     EXPECT_THAT(responses_, ElementsAre("mount DO Third"));
+}
+
+// As two sticks at once bring it about: each new one has the menu rebuilt, which asks for both.
+TEST_F(ShownPrompts, AskedForAgainBeforeTheyAreThereAreShownOnce) {
+    for (const char* const volume : {"First", "First", "Second", "First", "Second"})
+        add(request("mount", volume));
+    waitForResults(5);
+    ASSERT_EQ(desktop_.calls().size(), 2U);
+    EXPECT_EQ(desktop_.calls()[0].summary, "First detected");
+    EXPECT_EQ(desktop_.calls()[1].summary, "Second detected");
+    EXPECT_THAT(results_, Each("shown"));
+    prompt("mount", "First");
+    EXPECT_EQ(desktop_.calls().size(), 3U);
+}
+
+TEST_F(ShownPrompts, AskedForByTheirOwnEndAreShownAgain) {
+    center_.addNotificationRequest(request("mount", "Data"), [this](const auto& /*error*/) {
+        results_.emplace_back("first");
+        add(request("mount", "Data"));
+    });
+    waitForResults(2);
+    EXPECT_THAT(results_, ElementsAre("first", "shown"));
+    EXPECT_EQ(desktop_.calls().size(), 2U);
 }
 
 TEST_F(ShownPrompts, AskedForByTheEndOfAnotherAreShownOnce) {

@@ -15,8 +15,10 @@ namespace brisel::platform::linux {
 
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 using tests::DialogScript;
 using tests::turnUntil;
 
@@ -30,12 +32,13 @@ class AWindow : public testing::Test {
     }
 
     tests::TestLoop loop_;
+    tests::RecordedLog log_;
     std::vector<int> pressed_;
 };
 
 TEST_F(AWindow, TellsWhatIsPressedInIt) {
     const DialogScript dialog("cat >input; echo \"$@\" >given; echo shown; echo pressed 42");
-    OpenWindow window(dialog.path());
+    OpenWindow window(log_, dialog.path());
     window.show({"menu", "Title"}, "some input\n", note());
     turnUntil([this] { return !pressed_.empty(); });
     EXPECT_THAT(pressed_, ElementsAre(42));
@@ -46,16 +49,17 @@ TEST_F(AWindow, TellsWhatIsPressedInIt) {
 
 TEST_F(AWindow, TellsNothingWhenItIsClosed) {
     const DialogScript dialog("echo shown");
-    OpenWindow window(dialog.path());
+    OpenWindow window(log_, dialog.path());
     window.show({"menu"}, {}, note());
     waitForEnd(dialog);
     EXPECT_THAT(pressed_, IsEmpty());
+    EXPECT_THAT(log_.entries(), IsEmpty());
 }
 
 TEST_F(AWindow, GivesWayToANewerOne) {
     const DialogScript dialog(
         "echo shown; echo $$ >>pids; [ -e second ] && echo pressed 2; exec sleep 100");
-    OpenWindow window(dialog.path());
+    OpenWindow window(log_, dialog.path());
     window.show({"menu"}, {}, note());
     turnUntil([&] { return !dialog.textIn("pids").empty(); });
     const auto first = std::stoi(dialog.textIn("pids"));
@@ -70,7 +74,7 @@ TEST_F(AWindow, GivesWayToANewerOne) {
 TEST_F(AWindow, GoesWithItsOwner) {
     const DialogScript dialog("exec sleep 100");
     {
-        OpenWindow window(dialog.path());
+        OpenWindow window(log_, dialog.path());
         window.show({"menu"}, {}, note());
         turnUntil([&] { return !dialog.textIn("pid").empty(); });
         EXPECT_FALSE(dialog.isGone());
@@ -79,18 +83,20 @@ TEST_F(AWindow, GoesWithItsOwner) {
 }
 
 TEST_F(AWindow, WithoutAProgramIsNothing) {
-    OpenWindow window("/nonexistent/dialog");
+    OpenWindow window(log_, "/nonexistent/dialog");
     const auto before = tests::openDescriptors();
     constexpr int Times = 20;
     for (int time = 0; time < Times; ++time)
         window.show({"menu"}, {}, note());
     EXPECT_LT(tests::openDescriptors(), before + Times);
+    EXPECT_THAT(log_.entries(), SizeIs(Times));
+    EXPECT_THAT(log_.entries(), Each("/nonexistent/dialog could not show a window."));
     EXPECT_THAT(pressed_, IsEmpty());
 }
 
 TEST_F(AWindow, TakesMoreInputThanAPipeHolds) {
     const DialogScript dialog("wc -c >count; echo pressed 1");
-    OpenWindow window(dialog.path());
+    OpenWindow window(log_, dialog.path());
     window.show({"menu"}, std::string(1 << 20, 'x'), note());
     turnUntil([this] { return !pressed_.empty(); });
     EXPECT_EQ(std::stoi(dialog.textIn("count")), 1 << 20);
@@ -98,7 +104,7 @@ TEST_F(AWindow, TakesMoreInputThanAPipeHolds) {
 
 TEST_F(AWindow, MayBeShownAgainByWhatIsPressedInIt) {
     const DialogScript dialog("echo shown; echo pressed 1");
-    OpenWindow window(dialog.path());
+    OpenWindow window(log_, dialog.path());
     window.show({"menu"}, {}, [&](int number) {
         pressed_.push_back(number);
         window.show({"menu"}, {}, note());
@@ -109,10 +115,11 @@ TEST_F(AWindow, MayBeShownAgainByWhatIsPressedInIt) {
 
 TEST_F(AWindow, ShowsWhatTheProgramIs) {
     const DialogScript dialog("echo \"$@\" >given; echo shown");
-    Application application(dialog.path());
+    Application application(log_, dialog.path());
     application.orderFrontStandardAboutPanel();
     turnUntil([&] { return dialog.textIn("given") == "about\n"; });
     waitForEnd(dialog);
+    EXPECT_THAT(log_.entries(), IsEmpty());
 }
 
 class TheMenuWindow : public tests::StatusItemOnBus {
@@ -137,7 +144,7 @@ TEST_F(TheMenuWindow, ShowsTheMenuAndChoosesInIt) {
     login.checked = true;
     menu_.load({title, separator, login, item("My_Data", "mount:")});
     const DialogScript dialog("cat >input; echo shown; echo pressed 4");
-    MenuWindow window(*item_, dialog.path());
+    MenuWindow window(*item_, log_, dialog.path());
     window.show();
     turnUntil([this] { return !chosen_.empty(); });
     EXPECT_THAT(chosen_, ElementsAre("My_Data"));
@@ -151,7 +158,7 @@ TEST_F(TheMenuWindow, ChoosesNothingThatHasLeftTheMenu) {
     const DialogScript dialog(
         "echo shown; for try in $(seq 500); do\n"
         "[ -e gone ] && { echo pressed 1; exit; }; sleep 0.02; done");
-    MenuWindow window(*item_, dialog.path());
+    MenuWindow window(*item_, log_, dialog.path());
     window.show();
     menu_.load({item("Other", "mount:")});
     std::ofstream(dialog.file("gone"));

@@ -24,6 +24,10 @@ TEST(AText, LosesControlCharacters) {
     EXPECT_EQ(textOf("\x1b[31m\x7f\xc2\x9b"), Replacement + "[31m" + Replacement + Replacement);
     EXPECT_EQ(textOf(std::string_view("a\0b", 3)), "a" + Replacement + "b");
     EXPECT_EQ(textOf("a\tb\r\nc"), "a b \nc");
+    EXPECT_EQ(textOf("a\xe2\x80\xa8"
+                     "b\xe2\x80\xa9"
+                     "c"),
+              "a b c");
 }
 
 TEST(AText, CannotTurnTheDirectionOfTheTextAroundIt) {
