@@ -25,6 +25,8 @@ class FilesystemReports:
     def _listen(self, ready):
         self._context.push_thread_default()
         bus = Gio.bus_get_sync(Gio.BusType.SYSTEM)
+        # The stage may end the bus before this program ends.
+        bus.set_exit_on_close(False)
         bus.signal_subscribe(UDISKS, "org.freedesktop.DBus.ObjectManager", "InterfacesAdded", None,
                              None, Gio.DBusSignalFlags.NONE, self._note)
         ready.set()
