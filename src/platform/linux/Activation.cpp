@@ -53,9 +53,9 @@ guint Activation::exportObject() {
         g_dbus_method_invocation_return_value(invocation, nullptr);
         static_cast<Activation*>(self)->noteStart();
     };
-    static const GDBusInterfaceVTable Answers{answer, nullptr, nullptr, {}};
+    static const GDBusInterfaceVTable answers{answer, nullptr, nullptr, {}};
     auto* const node = g_dbus_node_info_new_for_xml(Introspection, nullptr);
-    const auto object = g_dbus_connection_register_object(bus_, Path, *node->interfaces, &Answers,
+    const auto object = g_dbus_connection_register_object(bus_, Path, *node->interfaces, &answers,
                                                           this, nullptr, nullptr);
     g_dbus_node_info_unref(node);
     return object;
