@@ -23,7 +23,9 @@ SUBSYSTEM=="block", KERNEL=="loop*", ATTR{{loop/backing_file}}=="{folder}/*", \\
 """
 POLKIT_RULES = "/etc/polkit-1/rules.d/10-brisel-stage.rules"
 # What somebody who sits at the machine may do without a password, or has in hand as its owner.
-ALLOWED = ("org.freedesktop.udisks2.filesystem-mount-other-seat",
+# Without a login manager there are no seats to tell apart.
+ALLOWED = ("org.freedesktop.udisks2.filesystem-mount",
+           "org.freedesktop.udisks2.filesystem-mount-other-seat",
            "org.freedesktop.udisks2.filesystem-unmount-others")
 POLKIT_TEXT = """// For tests of Brisel: its person may use sticks, and is the administrator.
 polkit.addRule(function(action, subject) {{
