@@ -20,6 +20,7 @@ from .sticks import Stick
 SYSTEM_PATH = "/usr/local/bin:/usr/bin:/bin:/usr/local/sbin:/usr/sbin:/sbin"
 LOCK = "/run/brisel-stage.lock"
 FOLDER = "brisel-stage-"
+PROGRAMS = ("brisel", "brisel-dialog", "xattr", "mount_ntfs")
 DESKTOP_PROGRAMS = (
     "Xvfb", "xfce4-panel", "dbus-daemon", "xdotool", "xprop", "import", "setpriv")
 
@@ -47,7 +48,7 @@ class Stage:
     """Brings everything up, and takes it down by `close`."""
 
     def __init__(self, programs, mocked):
-        self.programs = os.path.realpath(programs)
+        self._built = os.path.realpath(programs)
         self.mocked = mocked
         self.disk_service = None
         self._bus_of_disks = None
@@ -65,6 +66,7 @@ class Stage:
         self._wait_for_other_stages()
         self.folder = self._make_folder()
         self.account = self._make_account()
+        self.programs = self._copy_programs()
         self._cleanup.enter_context(closing(Answers()))
         address = self._mock_machine() if self.mocked else self._prepare_machine()
         path = f"{self.programs}:{SYSTEM_PATH}"
@@ -96,6 +98,19 @@ class Stage:
         self._cleanup.callback(shutil.rmtree, folder, ignore_errors=True)
         os.chmod(folder, 0o755)
         return folder
+
+    def _copy_programs(self):
+        """The programs and their icons where the person can reach them, whoever owns the build."""
+        programs = os.path.join(self.folder, "bin")
+        os.mkdir(programs, 0o755)
+        for name in PROGRAMS:
+            built = os.path.join(self._built, name)
+            if os.path.exists(built):
+                shutil.copy(built, programs)
+        icons = os.path.join(os.path.dirname(self._built), "share")
+        if os.path.exists(icons):
+            shutil.copytree(icons, os.path.join(self.folder, "share"))
+        return programs
 
     def _make_account(self):
         account = own_account(self.folder) if os.geteuid() else \
