@@ -197,7 +197,7 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
                     [this, disk, options, done = std::move(done)](const auto& failure,
                                                                   const std::string& mountPoint) {
                         if (failure && mayHaveMinded(*failure) && hasKernelDriver()) {
-                            static_cast<void>(dissenterFor(failure, disk));
+                            logFailure(*failure, disk);
                             service_->mount(disk.bsdName,
                                             {.options = options, .driver = KernelDriver}, done);
                         } else {
@@ -218,7 +218,7 @@ void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoin
              reasonForReadOnly(mountPoint));
     service_->unmount(
         disk.bsdName, [this, disk, completion](const auto& failure, const auto& /*result*/) {
-            static_cast<void>(dissenterFor(failure, disk));
+            if (failure) logFailure(*failure, disk);
             finish(disk, Dissenter{.status = DAReturn::NotWritable}, std::nullopt, completion);
         });
 }
@@ -233,10 +233,14 @@ bool DiskArbitration::hasKernelDriver() const {
     return false;
 }
 
+void DiskArbitration::logFailure(const DiskService::CallFailure& failure, const Disk& disk) const {
+    log_.log("UDisks2 on %@: %@", disk.bsdName, failure.message);
+}
+
 std::optional<Dissenter> DiskArbitration::dissenterFor(
     const std::optional<DiskService::CallFailure>& failure, const Disk& disk) const {
     if (!failure) return std::nullopt;
-    log_.log("UDisks2 on %@: %@", disk.bsdName, failure->message);
+    logFailure(*failure, disk);
     return Dissenter{.status = statusOfError(failure->errorName)};
 }
 

@@ -52,6 +52,8 @@ class DiskArbitration final : public platform::DiskArbitration {
     void finish(const Disk& disk, const std::optional<Dissenter>& dissenter,
                 const std::optional<std::string>& mountPoint, const Completion& completion);
     void finishMount(const Disk& disk, const std::string& mountPoint, const Completion& completion);
+    void logFailure(const DiskService::CallFailure& failure, const Disk& disk) const;
+    /// Logs the failure, too.
     [[nodiscard]] std::optional<Dissenter> dissenterFor(
         const std::optional<DiskService::CallFailure>& failure, const Disk& disk) const;
 

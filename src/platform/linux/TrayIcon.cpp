@@ -41,7 +41,6 @@ constexpr const char* Introspection = R"(
   <signal name='NewTitle'/>
   <signal name='NewIcon'/>
   <signal name='NewToolTip'/>
-  <signal name='NewStatus'><arg type='s'/></signal>
 </interface></node>)";
 
 // The host shows the menu by itself; there is nothing to do for a click.
