@@ -26,7 +26,7 @@ std::string itemLine(const platform::MenuItem& item) {
 }
 
 void showMenu(const Stage& stage) {
-    for (const auto& item : stage.mac.statusMenu.items()) {
+    for (const auto& item : stage.program.menuItems()) {
         stage.mac.transcript.write(itemLine(item));
     }
 }

@@ -54,10 +54,12 @@ Complaint choose(Stage& stage, const Words& arguments) {
     const auto number = counted ? parseNumber(arguments[1]) : 1;
     if ((arguments.size() != 1 && !counted) || !number || *number < 1) return misused("choose");
     auto left = *number;
-    for (const auto& item : stage.mac.statusMenu.items()) {
+    const auto items = stage.program.menuItems();
+    for (std::size_t index = 0; index < items.size(); ++index) {
+        const auto& item = items[index];
         if (item.separator || item.title != arguments[0] || --left > 0) continue;
         if (item.action.empty()) return "that menu item has no action";
-        platform::common::choose(item);
+        stage.program.choose(index);
         return std::nullopt;
     }
     return "there is no such menu item";
@@ -99,8 +101,7 @@ std::optional<std::string> actionIdentifier(const std::string& word) {
 Complaint respond(Stage& stage, const Words& arguments) {
     const auto action = arguments.empty() ? std::nullopt : actionIdentifier(arguments[0]);
     if (!action) return misused("respond");
-    const auto& center = stage.mac.userNotificationCenter;
-    const auto& prompt = center.lastPrompt();
+    const auto& prompt = stage.mac.userNotificationCenter.lastPrompt();
     platform::NotificationResponse response{
         .requestIdentifier = prompt ? prompt->identifier : "mount",
         .actionIdentifier = *action,
@@ -116,13 +117,13 @@ Complaint respond(Stage& stage, const Words& arguments) {
         }
     }
     if (response.userInfo.empty()) return "no prompt was shown yet";
-    center.respond(response);
+    stage.program.respond(response);
     return std::nullopt;
 }
 
 Complaint quit(Stage& stage, const Words& arguments) {
     if (!arguments.empty()) return misused("quit");
-    stage.mac.application.terminate();
+    stage.program.terminate();
     return std::nullopt;
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/simulated/ProgramEnded.h"
+#include "simulator/DirectProgram.h"
 
 namespace brisel::simulator {
 
@@ -28,10 +29,14 @@ Scenario::Scenario(CommandSource& source, Output output, Manner manner)
       output_(std::move(output)),
       manner_(std::move(manner)),
       mac_(*this),
-      program_(mac_),
-      stage_{.mac = mac_, .program = program_} {
+      program_(manner_.makeProgram(mac_)),
+      stage_{.mac = mac_, .program = *program_} {
     mac_.transcript.keepNothing();
     mac_.transcript.setListener(output_);
+}
+
+std::unique_ptr<Program> Scenario::makeDirectProgram(platform::simulated::Mac& mac) {
+    return std::make_unique<DirectProgram>(mac);
 }
 
 bool Scenario::run() {
@@ -51,10 +56,14 @@ bool Scenario::step() {
         manner_.badCommandHandler({.line = lineNumber_, .complaint = *complaint});
         if (manner_.onBadCommand == OnBadCommand::Stop) {
             stopped_ = true;
-            throw ProgramEnded();
+            program_->end();
         }
     }
-    if (!stage_.blocked()) mac_.mainLoop.turnUntilIdle();
+    if (stage_.blocked()) {
+        program_->turnWhileBlocked();
+    } else {
+        program_->turnUntilIdle();
+    }
     manner_.afterCommand();
     return true;
 }
@@ -70,7 +79,7 @@ Complaint Scenario::carryOut(const std::string& line) {
     if (manner_.onBadCommand == OnBadCommand::GoOn) {
         if (name == "help") return help();
         // Whoever plays may leave before the start, too.
-        if (name == "quit" && !program_.started()) throw ProgramEnded();
+        if (name == "quit" && !program_->started()) program_->end();
     }
     const auto* const command = findCommand(name);
     if (command == nullptr) return "there is no command \"" + name + "\"";
@@ -112,7 +121,7 @@ int Scenario::readUntilAnswered() {
     stage_.answer.reset();
     while (!stage_.answer) {
         // The commands have ended before the user answered: so has the simulation.
-        if (!step()) throw ProgramEnded();
+        if (!step()) program_->end();
     }
     return *stage_.answer;
 }

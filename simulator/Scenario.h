@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -30,6 +31,8 @@ class Scenario final : private platform::simulated::Person {
     enum class OnBadCommand { Stop, GoOn };
     enum class Echo { Commands, Nothing };
 
+    using ProgramMaker = std::function<std::unique_ptr<Program>(platform::simulated::Mac&)>;
+
     struct Manner {
         OnBadCommand onBadCommand = OnBadCommand::Stop;
         Echo echo = Echo::Commands;
@@ -37,6 +40,8 @@ class Scenario final : private platform::simulated::Person {
         BadCommandHandler badCommandHandler = [](const BadCommand&) {};
         /// Called after each command, also while an alert or prompt blocks the program.
         std::function<void()> afterCommand = [] {};
+        /// Builds the program on the simulated Mac; unless told, straight on its services.
+        ProgramMaker makeProgram = &makeDirectProgram;
     };
 
     /// `source` must outlive the scenario.
@@ -47,16 +52,20 @@ class Scenario final : private platform::simulated::Person {
 
     /// Runs to the end. False when a bad command stopped it.
     bool run();
+    /// Reads and carries out one line, for a program whose main loop asks for them; false when
+    /// there are no more.
+    bool step();
+    /// Whether a bad command has stopped the scenario.
+    [[nodiscard]] bool stopped() const { return stopped_; }
 
     [[nodiscard]] platform::simulated::Mac& mac() { return mac_; }
-    [[nodiscard]] Program& program() { return program_; }
+    [[nodiscard]] Program& program() { return *program_; }
 
   private:
     int answerAlert(const platform::AlertContent& alert) override;
     platform::OSStatus answerPasswordPrompt(const std::string& right) override;
 
-    /// Reads and carries out one line; false when there are no more.
-    bool step();
+    static std::unique_ptr<Program> makeDirectProgram(platform::simulated::Mac& mac);
     int readUntilAnswered();
     [[nodiscard]] Complaint carryOut(const std::string& line);
     [[nodiscard]] Complaint help() const;
@@ -68,7 +77,7 @@ class Scenario final : private platform::simulated::Person {
     std::size_t lineNumber_ = 0;
     bool stopped_ = false;
     platform::simulated::Mac mac_;
-    Program program_;
+    const std::unique_ptr<Program> program_;
     Stage stage_;
 };
 

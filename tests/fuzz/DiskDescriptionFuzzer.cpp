@@ -5,7 +5,7 @@
 #include <array>
 
 #include "platform/simulated/ProgramEnded.h"
-#include "simulator/Program.h"
+#include "simulator/DirectProgram.h"
 #include "tests/fuzz/Invariants.h"
 #include "volumes/DiskEvents.h"
 
@@ -152,7 +152,7 @@ class Session {
     FuzzedDataProvider& input_;
     RandomPerson person_;
     platform::simulated::Mac mac_{person_};
-    simulator::Program program_{mac_};
+    simulator::DirectProgram program_{mac_};
     platform::MenuItem lastChosen_;
 };
 

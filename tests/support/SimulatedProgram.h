@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/simulated/Mac.h"
-#include "simulator/Program.h"
+#include "simulator/DirectProgram.h"
 
 namespace brisel::tests {
 
@@ -43,7 +43,7 @@ struct SimulatedProgram {
 
     ScriptedPerson person;
     platform::simulated::Mac mac{person};
-    simulator::Program program{mac};
+    simulator::DirectProgram program{mac};
 
     /// Starts the program with the warning notice accepted before, and turns the main loop.
     void start();

@@ -41,6 +41,7 @@ Bundle::Bundle() {
 
 void Bundle::setLanguage(std::string_view code) {
     const auto* const table = closestTable(code);
+    language_ = table != nullptr ? table->language : "";
     texts_ = StringsTable::parse(table != nullptr ? table->text : "").value_or(StringsTable());
 }
 

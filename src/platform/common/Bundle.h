@@ -28,12 +28,15 @@ class Bundle : public platform::Bundle {
     /// Takes the texts of this language, such as "de", "pt-BR" or "zh-Hans"; for an unknown
     /// variant those of the plain language, for an unknown language the English ones.
     void setLanguage(std::string_view code);
+    /// The language of the texts.
+    [[nodiscard]] const std::string& language() const { return language_; }
 
     [[nodiscard]] std::string localizedString(std::string_view key) const override;
     /// The ten status images.
     [[nodiscard]] bool hasImage(const std::string& name) const override;
 
   private:
+    std::string language_;
     StringsTable texts_;
 };
 
