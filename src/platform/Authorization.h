@@ -25,8 +25,10 @@ inline constexpr std::uint32_t kAuthorizationFlagInteractionAllowed = 1U << 0U;
 inline constexpr std::uint32_t kAuthorizationFlagExtendRights = 1U << 1U;
 inline constexpr std::uint32_t kAuthorizationFlagPreAuthorize = 1U << 4U;
 
-/// Opaque; belongs to who created it until it is freed.
-using AuthorizationRef = const struct AuthorizationOpaqueRef*;
+/// A type of this namespace, also where the system's own of that name is known.
+struct AuthorizationOpaqueRef;
+/// Belongs to who created it until it is freed.
+using AuthorizationRef = const AuthorizationOpaqueRef*;
 
 /// One right: its name and `valueLength` bytes at `value`, all of which the platform may read.
 struct AuthorizationItem {

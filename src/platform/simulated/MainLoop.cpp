@@ -22,11 +22,16 @@ void MainLoop::post(std::function<void()> work) {
     queue_.push_back(std::move(work));
 }
 
+bool MainLoop::turnOnce() {
+    if (queue_.empty()) return false;
+    const auto work = std::move(queue_.front());
+    queue_.pop_front();
+    work();
+    return true;
+}
+
 void MainLoop::turnUntilIdle() {
-    while (!queue_.empty()) {
-        const auto work = std::move(queue_.front());
-        queue_.pop_front();
-        work();
+    while (turnOnce()) {
     }
 }
 

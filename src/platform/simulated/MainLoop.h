@@ -19,6 +19,8 @@ class MainLoop final : public RunLoop {
 
     /// Lets `work` wait for the main loop.
     void post(std::function<void()> work);
+    /// Runs what waits first; false when nothing does.
+    bool turnOnce();
     /// Runs what waits, and what that lets wait, until nothing does.
     void turnUntilIdle();
     /// Moves the clock on, step by step where timers come due, and turns until idle.

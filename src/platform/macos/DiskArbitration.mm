@@ -1,0 +1,171 @@
+// Disk Arbitration: the session, the reports of disks and the requests.
+// SPDX-License-Identifier: MIT
+#import "platform/macos/DiskArbitration.h"
+
+#import <Foundation/Foundation.h>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "platform/Format.h"
+#include "platform/macos/DiskDescriptions.h"
+#include "platform/macos/MountFlags.h"
+#include "platform/macos/Text.h"
+
+namespace brisel::platform::macos {
+
+namespace {
+
+using DiskCallback = platform::DiskArbitration::DiskCallback;
+using Completion = platform::DiskArbitration::Completion;
+
+// A volume that is on no device has no such name.
+std::string nameOf(DADiskRef disk) {
+    const char* const name = DADiskGetBSDName(disk);
+    return name != nullptr ? name : std::string(NullText);
+}
+
+// Called by Disk Arbitration, as the other callbacks here: what they call throws nothing.
+void report(DADiskRef disk, void* context) noexcept {
+    const auto& callback = *static_cast<const DiskCallback*>(context);
+    callback({.bsdName = nameOf(disk), .reported = descriptionOf(disk)});
+}
+
+/// A request that waits for its completion.
+struct Request {
+    Completion completion;
+    bool mustBeWritable = false;
+};
+
+std::optional<Dissenter> dissenterFrom(DADissenterRef dissenter) {
+    if (dissenter == nullptr) return std::nullopt;
+    return Dissenter{.status = static_cast<std::uint32_t>(DADissenterGetStatus(dissenter))};
+}
+
+bool cameOutReadOnly(DADiskRef disk) {
+    const auto path = descriptionOf(disk).volumePath;
+    return path && isMountedReadOnly(path->path());
+}
+
+// The disk and the dissenter are the framework's, and gone after the call.
+void complete(DADiskRef disk, DADissenterRef dissenter, void* context) noexcept {
+    const std::unique_ptr<const Request> request(static_cast<const Request*>(context));
+    auto refusal = dissenterFrom(dissenter);
+    if (!refusal && request->mustBeWritable && cameOutReadOnly(disk)) {
+        refusal = Dissenter{.status = DAReturn::NotWritable};
+    }
+    request->completion({.bsdName = nameOf(disk), .reported = std::nullopt}, refusal);
+}
+
+void refuse(const Disk& disk, const Completion& completion) {
+    completion({.bsdName = disk.bsdName, .reported = std::nullopt}, Dissenter());
+}
+
+/// Strings and the null-terminated array of them that Disk Arbitration takes; it reads them within
+/// the call.
+class ArgumentArray {
+  public:
+    explicit ArgumentArray(const std::vector<std::string>& arguments) {
+        for (const auto& argument : arguments)
+            references_.push_back((__bridge CFStringRef)nsString(argument));
+        references_.push_back(nullptr);
+    }
+
+    [[nodiscard]] CFStringRef* data() { return references_.data(); }
+
+  private:
+    std::vector<CFStringRef> references_;
+};
+
+}  // namespace
+
+void DiskArbitration::createSession() {
+    session_ = Owned<DASessionRef>(DASessionCreate(kCFAllocatorDefault));
+}
+
+// The match dictionaries are null, which matches every disk, until there is a session: they are
+// read at the moment of the call.
+
+Subscription DiskArbitration::registerDiskAppearedCallback(DiskCallback callback) {
+    if (!session_) return {};
+    const auto context = std::make_shared<DiskCallback>(std::move(callback));
+    DARegisterDiskAppearedCallback(session_.get(), kDADiskDescriptionMatchVolumeMountable, &report,
+                                   context.get());
+    return Subscription([session = session_.get(), context] {
+        DAUnregisterCallback(session, reinterpret_cast<void*>(&report), context.get());
+    });
+}
+
+Subscription DiskArbitration::registerDiskDisappearedCallback(DiskCallback callback) {
+    if (!session_) return {};
+    const auto context = std::make_shared<DiskCallback>(std::move(callback));
+    DARegisterDiskDisappearedCallback(session_.get(), kDADiskDescriptionMatchVolumeMountable,
+                                      &report, context.get());
+    return Subscription([session = session_.get(), context] {
+        DAUnregisterCallback(session, reinterpret_cast<void*>(&report), context.get());
+    });
+}
+
+void DiskArbitration::scheduleWithRunLoop() {
+    // The default mode alone: nothing comes while an alert or the menu is open.
+    if (!session_) return;
+    DASessionScheduleWithRunLoop(session_.get(), CFRunLoopGetCurrent(), kCFRunLoopDefaultMode);
+}
+
+Owned<DADiskRef> DiskArbitration::diskNamed(const std::string& name) const {
+    if (!session_) return {};
+    return Owned<DADiskRef>(
+        DADiskCreateFromBSDName(kCFAllocatorDefault, session_.get(), name.c_str()));
+}
+
+std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
+    if (!name || !diskNamed(*name)) return std::nullopt;
+    return Disk{.bsdName = *name, .reported = std::nullopt};
+}
+
+std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<FileURL>& path) {
+    if (!session_ || !path) return std::nullopt;
+    const Owned<DADiskRef> disk(DADiskCreateFromVolumePath(kCFAllocatorDefault, session_.get(),
+                                                           (__bridge CFURLRef)nsURL(path)));
+    if (!disk) return std::nullopt;
+    return Disk{.bsdName = nameOf(disk.get()), .reported = std::nullopt};
+}
+
+DiskDescription DiskArbitration::copyDescription(const Disk& disk) {
+    if (disk.reported) return *disk.reported;
+    const auto found = diskNamed(disk.bsdName);
+    return found ? descriptionOf(found.get()) : DiskDescription();
+}
+
+// In both requests the completion may come before the call returns.
+
+void DiskArbitration::unmount(const Disk& disk, Completion completion) {
+    const auto found = diskNamed(disk.bsdName);
+    if (!found) {
+        refuse(disk, completion);
+        return;
+    }
+    auto request = std::make_unique<Request>();
+    request->completion = std::move(completion);
+    DADiskUnmount(found.get(), kDADiskUnmountOptionDefault, &complete, request.release());
+}
+
+void DiskArbitration::mountWithArguments(const Disk& disk,
+                                         const std::vector<std::string>& arguments,
+                                         Completion completion) {
+    const auto found = diskNamed(disk.bsdName);
+    if (!found) {
+        refuse(disk, completion);
+        return;
+    }
+    auto request = std::make_unique<Request>();
+    request->completion = std::move(completion);
+    request->mustBeWritable =
+        std::find(arguments.begin(), arguments.end(), "rw") != arguments.end();
+    ArgumentArray strings(arguments);
+    DADiskMountWithArguments(found.get(), nullptr, kDADiskMountOptionDefault, &complete,
+                             request.release(), strings.data());
+}
+
+}  // namespace brisel::platform::macos

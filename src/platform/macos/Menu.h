@@ -1,0 +1,37 @@
+// The status menu, an NSMenu from the nib.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include "platform/macos/Owned.h"
+#include "platform/Menu.h"
+
+@class BriselMenuTarget;
+
+namespace brisel::platform::macos {
+
+class Menu final : public platform::Menu {
+  public:
+    Menu();
+
+    /// The menu with its fixed items, and the check item among them; to be called before any other
+    /// function, once the nib has been loaded.
+    void connect(NSMenu* menu, NSMenuItem* checkItem);
+    [[nodiscard]] NSMenu* menu() const { return menu_.get(); }
+
+    void removeItemsWithTags(std::span<const int> tags) override;
+    void insertItem(MenuItem item, std::size_t index) override;
+    void setChecked(std::string_view action, bool checked) override;
+
+  private:
+    Owned<NSMenu*> menu_;
+    Owned<NSMenuItem*> checkItem_;
+    /// Menu items do not keep their targets alive.
+    Owned<BriselMenuTarget*> target_;
+};
+
+/// What was inserted as this menu item; null for an item of the nib.
+const MenuItem* insertedItem(NSMenuItem* menuItem);
+
+}  // namespace brisel::platform::macos

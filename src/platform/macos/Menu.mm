@@ -1,0 +1,116 @@
+// The status menu.
+// SPDX-License-Identifier: MIT
+#import "platform/macos/Menu.h"
+
+#import <objc/runtime.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/macos/Exceptions.h"
+#include "platform/macos/Text.h"
+
+using brisel::platform::MenuItem;
+
+/// Carries an inserted item as a menu item's represented object.
+@interface BriselInsertedItem : NSObject {
+  @public
+    MenuItem item;
+}
+@end
+
+@implementation BriselInsertedItem
+@end
+
+/// The target of all inserted items. It gets a method for each action when the action is first
+/// inserted: AppKit disables an item whose target does not have its method.
+@interface BriselMenuTarget : NSObject
+@end
+
+@implementation BriselMenuTarget
+@end
+
+namespace brisel::platform::macos {
+
+namespace {
+
+void performAction(id /*self*/, SEL /*command*/, id sender) {
+    const auto* const item = insertedItem(sender);
+    if (item == nullptr) return;
+    // A copy: the menu may be rebuilt by what the item does.
+    const MenuItem copy = *item;
+    if (copy.target) copy.target(copy);
+}
+
+SEL actionFor(std::string_view name) {
+    if (name.empty()) return nullptr;
+    const SEL action = NSSelectorFromString(nsString(name));
+    // Does nothing where the class has the method already.
+    class_addMethod([BriselMenuTarget class], action, reinterpret_cast<IMP>(&performAction),
+                    "v@:@");
+    return action;
+}
+
+void alignTitle(NSMenuItem* menuItem, int alignment) {
+    const Owned<NSMutableAttributedString*> title(
+        [[NSMutableAttributedString alloc] initWithString:[menuItem title]]);
+    [title.get() setAlignment:static_cast<NSTextAlignment>(alignment)
+                        range:NSMakeRange(0, [title.get() length])];
+    [menuItem setAttributedTitle:title.get()];
+}
+
+Owned<NSMenuItem*> makeItem(MenuItem item, BriselMenuTarget* target) {
+    if (item.separator) {
+        auto separator = retained(static_cast<NSMenuItem*>([NSMenuItem separatorItem]));
+        [separator.get() setTag:item.tag];
+        return separator;
+    }
+    Owned<NSMenuItem*> menuItem([[NSMenuItem alloc] initWithTitle:nsString(item.title)
+                                                           action:actionFor(item.action)
+                                                    keyEquivalent:@""]);
+    [menuItem.get() setTag:item.tag];
+    [menuItem.get() setState:item.checked ? NSControlStateValueOn : NSControlStateValueOff];
+    if (!item.action.empty()) [menuItem.get() setTarget:target];
+    if (item.alignment) alignTitle(menuItem.get(), *item.alignment);
+    const Owned<BriselInsertedItem*> inserted([[BriselInsertedItem alloc] init]);
+    inserted.get()->item = std::move(item);
+    [menuItem.get() setRepresentedObject:inserted.get()];
+    return menuItem;
+}
+
+}  // namespace
+
+const MenuItem* insertedItem(NSMenuItem* menuItem) {
+    const id object = [menuItem representedObject];
+    if (![object isKindOfClass:[BriselInsertedItem class]]) return nullptr;
+    return &static_cast<BriselInsertedItem*>(object)->item;
+}
+
+Menu::Menu() : target_([[BriselMenuTarget alloc] init]) {}
+
+void Menu::connect(NSMenu* menu, NSMenuItem* checkItem) {
+    menu_ = retained(menu);
+    checkItem_ = retained(checkItem);
+}
+
+void Menu::removeItemsWithTags(std::span<const int> tags) {
+    // A copy, for the menu changes meanwhile.
+    NSArray<NSMenuItem*>* const items = [NSArray arrayWithArray:[menu_.get() itemArray]];
+    for (NSMenuItem* menuItem in items) {
+        if (std::find(tags.begin(), tags.end(), [menuItem tag]) == tags.end()) continue;
+        guarded("remove a menu item", [&] { [menu_.get() removeItem:menuItem]; });
+    }
+}
+
+void Menu::insertItem(MenuItem item, std::size_t index) {
+    const auto menuItem = makeItem(std::move(item), target_.get());
+    guarded("insert a menu item",
+            [&] { [menu_.get() insertItem:menuItem.get() atIndex:static_cast<NSInteger>(index)]; });
+}
+
+void Menu::setChecked(std::string_view action, bool checked) {
+    if ([checkItem_.get() action] != NSSelectorFromString(nsString(action))) return;
+    [checkItem_.get() setState:checked ? NSControlStateValueOn : NSControlStateValueOff];
+}
+
+}  // namespace brisel::platform::macos

@@ -1,0 +1,15 @@
+// The notification center's delegate: brings the user's responses to the main thread.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#import <UserNotifications/UserNotifications.h>
+
+#include "platform/UserNotificationCenter.h"
+
+/// The center may deliver a response on any thread; `handler` is called on the main thread, in the
+/// main loop's default mode where the response came elsewhere.
+@interface BriselNotificationDelegate : NSObject <UNUserNotificationCenterDelegate> {
+  @public
+    brisel::platform::UserNotificationCenter::ResponseHandler handler;
+}
+@end

@@ -1,0 +1,33 @@
+// The item in the menu bar, by NSStatusItem.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include "platform/macos/Bundle.h"
+#include "platform/macos/Menu.h"
+#include "platform/macos/Owned.h"
+#include "platform/StatusItem.h"
+
+namespace brisel::platform::macos {
+
+class StatusItem final : public platform::StatusItem {
+  public:
+    /// Both must outlive the item.
+    StatusItem(const Menu& menu, const Bundle& bundle) : menu_(menu), bundle_(bundle) {}
+
+    void create(double length) override;
+    void showStatusMenu() override;
+    /// The image's state in words becomes the button's accessibility label.
+    void setImage(const std::optional<std::string>& name) override;
+    [[nodiscard]] std::string effectiveAppearanceName() const override;
+    [[nodiscard]] Subscription observeEffectiveAppearance(std::function<void()> changed) override;
+
+  private:
+    const Menu& menu_;
+    const Bundle& bundle_;
+    /// Gone from the menu bar when it is released.
+    Owned<NSStatusItem*> item_;
+};
+
+}  // namespace brisel::platform::macos

@@ -1,0 +1,127 @@
+// Notifications with buttons.
+// SPDX-License-Identifier: MIT
+#import "platform/macos/UserNotificationCenter.h"
+
+#include <utility>
+
+#include "platform/macos/Exceptions.h"
+#include "platform/macos/NotificationDelegate.h"
+#include "platform/macos/Text.h"
+
+namespace brisel::platform::macos {
+
+namespace {
+
+bool isApplicationInBundle() {
+    NSBundle* const bundle = [NSBundle mainBundle];
+    return [bundle bundleIdentifier] != nil && [[bundle bundlePath] hasSuffix:@".app"];
+}
+
+/// Nil where the system would raise an exception instead.
+UNUserNotificationCenter* currentCenter() {
+    return isApplicationInBundle() ? [UNUserNotificationCenter currentNotificationCenter] : nil;
+}
+
+Error noCenter() {
+    return {.localizedDescription = "This process cannot show notifications.",
+            .localizedFailureReason = std::nullopt};
+}
+
+std::optional<Error> optionalError(NSError* error) {
+    return error != nil ? std::optional(errorFrom(error)) : std::nullopt;
+}
+
+UNNotificationCategory* categoryFrom(const NotificationCategory& category) {
+    NSMutableArray<UNNotificationAction*>* const actions = [NSMutableArray array];
+    for (const auto& [identifier, title] : category.actions) {
+        [actions
+            addObject:[UNNotificationAction actionWithIdentifier:nsString(identifier)
+                                                           title:nsString(title)
+                                                         options:UNNotificationActionOptionNone]];
+    }
+    return [UNNotificationCategory categoryWithIdentifier:nsString(category.identifier)
+                                                  actions:actions
+                                        intentIdentifiers:[NSArray array]
+                                                  options:UNNotificationCategoryOptionNone];
+}
+
+Owned<UNMutableNotificationContent*> contentFrom(const NotificationRequest& request) {
+    Owned<UNMutableNotificationContent*> content([[UNMutableNotificationContent alloc] init]);
+    NSMutableDictionary<NSString*, NSString*>* const userInfo = [NSMutableDictionary dictionary];
+    for (const auto& [key, value] : request.userInfo)
+        [userInfo setObject:nsString(value) forKey:nsString(key)];
+    [content.get() setTitle:nsString(request.title)];
+    [content.get() setBody:nsString(request.body)];
+    [content.get() setSound:[UNNotificationSound soundNamed:nsString(request.soundName)]];
+    [content.get() setCategoryIdentifier:nsString(request.categoryIdentifier)];
+    [content.get() setUserInfo:userInfo];
+    return content;
+}
+
+UNNotificationRequest* requestFrom(const NotificationRequest& request) {
+    const auto content = contentFrom(request);
+    const auto seconds = std::chrono::duration<double>(request.delay).count();
+    return [UNNotificationRequest
+        requestWithIdentifier:nsString(request.identifier)
+                      content:content.get()
+                      trigger:[UNTimeIntervalNotificationTrigger triggerWithTimeInterval:seconds
+                                                                                 repeats:NO]];
+}
+
+}  // namespace
+
+UserNotificationCenter::UserNotificationCenter()
+    : delegate_([[BriselNotificationDelegate alloc] init]) {}
+
+Subscription UserNotificationCenter::setDelegate(ResponseHandler handler) {
+    delegate_.get()->handler = std::move(handler);
+    guarded("deliver responses to notifications",
+            [this] { [currentCenter() setDelegate:delegate_.get()]; });
+    return Subscription([delegate = delegate_.get()] { delegate->handler = nullptr; });
+}
+
+void UserNotificationCenter::setNotificationCategories(
+    const std::vector<NotificationCategory>& categories) {
+    guarded("register notification categories", [&] {
+        NSMutableSet<UNNotificationCategory*>* const set = [NSMutableSet set];
+        for (const auto& category : categories)
+            [set addObject:categoryFrom(category)];
+        [currentCenter() setNotificationCategories:set];
+    });
+}
+
+void UserNotificationCenter::requestAuthorization(unsigned options, AuthorizationHandler handler) {
+    UNUserNotificationCenter* const center = currentCenter();
+    if (center == nil) {
+        handler(false, noCenter());
+        return;
+    }
+    const bool asked = guarded("ask whether notifications are allowed", [&] {
+        // The handler may be called on a thread of the system's own.
+        [center requestAuthorizationWithOptions:static_cast<UNAuthorizationOptions>(options)
+                              completionHandler:^(BOOL granted, NSError* error) {
+                                handler(granted, optionalError(error));
+                              }];
+    });
+    if (!asked) handler(false, noCenter());
+}
+
+void UserNotificationCenter::addNotificationRequest(const NotificationRequest& request,
+                                                    AddHandler handler) {
+    @autoreleasepool {
+        UNUserNotificationCenter* const center = currentCenter();
+        if (center == nil) {
+            handler(noCenter());
+            return;
+        }
+        const bool added = guarded("show a notification", [&] {
+            [center addNotificationRequest:requestFrom(request)
+                     withCompletionHandler:^(NSError* error) {
+                       handler(optionalError(error));
+                     }];
+        });
+        if (!added) handler(noCenter());
+    }
+}
+
+}  // namespace brisel::platform::macos

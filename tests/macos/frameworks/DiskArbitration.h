@@ -1,0 +1,20 @@
+// The stand-in Disk Arbitration.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#import <DiskArbitration/DiskArbitration.h>
+#import <Foundation/Foundation.h>
+
+namespace brisel::tests::macos {
+
+/// Lets what waits reach the program, as the main run loop does that turns in this mode; true when
+/// there was anything. Nothing comes but through a session that is scheduled for the mode.
+bool deliverDiskEvents(NSString* mode);
+
+/// Lets the next session not come about.
+void failNextSession();
+/// Lets requests that are refused complete before the call returns, as those do that cannot even be
+/// handed to the system.
+void completeRefusalsAtOnce();
+
+}  // namespace brisel::tests::macos

@@ -1,0 +1,42 @@
+// Stand-ins for the classes of Foundation that reach into the user's own files, which are the
+// simulated Mac's here, and for what GNUstep lacks.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+typedef struct {
+    NSInteger majorVersion;
+    NSInteger minorVersion;
+    NSInteger patchVersion;
+} NSOperatingSystemVersion;
+
+typedef NSString* NSKeyValueChangeKey;
+
+@interface NSProcessInfo (StageVersion)
+- (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version;
+@end
+
+@interface StageFileManager : NSFileManager
+@end
+
+@interface StageUserDefaults : NSObject
++ (StageUserDefaults*)standardUserDefaults;
+- (void)registerDefaults:(NSDictionary<NSString*, id>*)defaults;
+- (BOOL)boolForKey:(NSString*)key;
+- (NSArray<NSString*>*)stringArrayForKey:(NSString*)key;
+- (void)setBool:(BOOL)value forKey:(NSString*)key;
+- (void)setObject:(id)value forKey:(NSString*)key;
+- (BOOL)synchronize;
+@end
+
+@interface StageAppleScript : NSObject {
+  @private
+    NSString* source_;
+}
+- (instancetype)initWithSource:(NSString*)source;
+- (NSAppleEventDescriptor*)executeAndReturnError:(NSDictionary<NSString*, id>**)error;
+@end
+
+NSString* StageHomeDirectory(void);
+void StageLog(NSString* format, ...) NS_FORMAT_FUNCTION(1, 2);

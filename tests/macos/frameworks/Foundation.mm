@@ -1,0 +1,227 @@
+// Stand-ins for classes of Foundation.
+// SPDX-License-Identifier: MIT
+#import "tests/macos/frameworks/Foundation.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/macos/Text.h"
+#include "tests/macos/frameworks/World.h"
+
+using brisel::tests::macos::complain;
+using brisel::platform::macos::nsString;
+using brisel::platform::macos::stdString;
+using brisel::tests::macos::world;
+namespace platform = brisel::platform;
+
+namespace {
+
+// GNUstep's own NSError has no place for a reason, but hands out what is in this dictionary.
+NSError* errorFrom(const platform::Error& error) {
+    NSMutableDictionary* const userInfo = [NSMutableDictionary dictionary];
+    [userInfo setObject:nsString(error.localizedDescription) forKey:NSLocalizedDescriptionKey];
+    if (error.localizedFailureReason) {
+        [userInfo setObject:nsString(*error.localizedFailureReason)
+                     forKey:NSLocalizedFailureReasonErrorKey];
+    }
+    return [NSError errorWithDomain:NSCocoaErrorDomain code:512 userInfo:userInfo];
+}
+
+}  // namespace
+
+@implementation NSProcessInfo (StageVersion)
+
+- (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version {
+    const NSInteger running = world().systemVersion.isMacOS12OrLater() ? 12 : 11;
+    return running >= version.majorVersion ? YES : NO;
+}
+
+@end
+
+@implementation StageFileManager
+
++ (NSFileManager*)defaultManager {
+    static StageFileManager* const manager = [[StageFileManager alloc] init];
+    return manager;
+}
+
+- (NSString*)currentDirectoryPath {
+    return nsString(world().fileManager.currentDirectoryPath());
+}
+
+- (BOOL)isWritableFileAtPath:(NSString*)path {
+    return path != nil && world().fileManager.isWritableFileAtPath(stdString(path)) ? YES : NO;
+}
+
+- (NSArray*)contentsOfDirectoryAtURL:(NSURL*)url
+          includingPropertiesForKeys:(NSArray*)keys
+                             options:(NSDirectoryEnumerationOptions)mask
+                               error:(NSError**)error {
+    (void)keys;
+    if (mask != 0) complain("a listing that leaves something out");
+    const auto listing =
+        world().fileManager.contentsOfDirectory(platform::FileURL(stdString([url path])));
+    if (listing.error) {
+        if (error != nullptr) *error = errorFrom(*listing.error);
+        return nil;
+    }
+    NSMutableArray* const entries = [NSMutableArray array];
+    for (std::size_t index = 0; index < listing.entryCount; ++index)
+        [entries addObject:[url URLByAppendingPathComponent:@"entry"]];
+    return entries;
+}
+
+- (BOOL)createDirectoryAtPath:(NSString*)path
+    withIntermediateDirectories:(BOOL)intermediates
+                     attributes:(NSDictionary*)attributes
+                          error:(NSError**)error {
+    (void)attributes;
+    if (!intermediates) complain("a folder without those above it");
+    const auto failure = world().fileManager.createDirectory(stdString(path));
+    if (failure && error != nullptr) *error = errorFrom(*failure);
+    return failure ? NO : YES;
+}
+
+- (BOOL)removeItemAtPath:(NSString*)path error:(NSError**)error {
+    const auto failure = world().fileManager.removeItem(stdString(path));
+    if (failure && error != nullptr) *error = errorFrom(*failure);
+    return failure ? NO : YES;
+}
+
+@end
+
+@implementation StageUserDefaults
+
++ (StageUserDefaults*)standardUserDefaults {
+    static StageUserDefaults* const defaults = [[StageUserDefaults alloc] init];
+    return defaults;
+}
+
+- (void)registerDefaults:(NSDictionary<NSString*, id>*)defaults {
+    std::map<std::string, bool> values;
+    for (NSString* key in [defaults allKeys])
+        values[stdString(key)] = [[defaults objectForKey:key] boolValue];
+    world().userDefaults.registerDefaults(values);
+}
+
+- (BOOL)boolForKey:(NSString*)key {
+    return world().userDefaults.boolForKey(stdString(key)) ? YES : NO;
+}
+
+- (NSArray<NSString*>*)stringArrayForKey:(NSString*)key {
+    const auto stored = world().userDefaults.stringArrayForKey(stdString(key));
+    if (stored == nullptr) return nil;
+    NSMutableArray* const list = [NSMutableArray array];
+    for (const auto& element : *stored)
+        [list addObject:nsString(element)];
+    return list;
+}
+
+- (void)setBool:(BOOL)value forKey:(NSString*)key {
+    world().userDefaults.setBool(stdString(key), value);
+}
+
+- (void)setObject:(id)value forKey:(NSString*)key {
+    if (![value isKindOfClass:[NSArray class]]) {
+        [NSException raise:NSInvalidArgumentException format:@"not a property list of this world"];
+    }
+    auto list = std::make_shared<std::vector<std::string>>();
+    for (NSString* element in static_cast<NSArray*>(value))
+        list->push_back(stdString(element));
+    world().userDefaults.setStringArray(stdString(key), list);
+}
+
+- (BOOL)synchronize {
+    world().userDefaults.synchronize();
+    return YES;
+}
+
+@end
+
+/// A dictionary that lists its keys in the order in which they came.
+@interface StageOrderedDictionary : NSDictionary {
+  @private
+    NSArray* keys_;
+    NSArray* values_;
+}
+- (instancetype)initWithKeys:(NSArray*)keys values:(NSArray*)values;
+@end
+
+@implementation StageOrderedDictionary
+
+- (instancetype)initWithKeys:(NSArray*)keys values:(NSArray*)values {
+    self = [super init];
+    keys_ = [keys copy];
+    values_ = [values copy];
+    return self;
+}
+
+- (void)dealloc {
+    [keys_ release];
+    [values_ release];
+    [super dealloc];
+}
+
+- (NSUInteger)count {
+    return [keys_ count];
+}
+
+- (id)objectForKey:(id)key {
+    const NSUInteger index = [keys_ indexOfObject:key];
+    return index != NSNotFound ? [values_ objectAtIndex:index] : nil;
+}
+
+- (NSEnumerator*)keyEnumerator {
+    return [keys_ objectEnumerator];
+}
+
+- (NSEnumerator*)objectEnumerator {
+    return [values_ objectEnumerator];
+}
+
+@end
+
+@implementation StageAppleScript
+
+- (instancetype)initWithSource:(NSString*)source {
+    self = [super init];
+    source_ = [source copy];
+    return self;
+}
+
+- (void)dealloc {
+    [source_ release];
+    [super dealloc];
+}
+
+- (NSAppleEventDescriptor*)executeAndReturnError:(NSDictionary<NSString*, id>**)error {
+    if (![NSThread isMainThread]) complain("a script outside the main thread");
+    const auto result = world().scriptRunner.execute(stdString(source_));
+    if (!result.error) return [[[NSAppleEventDescriptor alloc] init] autorelease];
+    NSMutableArray* const keys = [NSMutableArray array];
+    NSMutableArray* const values = [NSMutableArray array];
+    for (const auto& [key, value] : *result.error) {
+        [keys addObject:nsString(key)];
+        [values addObject:nsString(value)];
+    }
+    if (error != nullptr) {
+        *error = [[[StageOrderedDictionary alloc] initWithKeys:keys values:values] autorelease];
+    }
+    return nil;
+}
+
+@end
+
+NSString* StageHomeDirectory(void) {
+    return nsString(world().fileManager.homeDirectory());
+}
+
+void StageLog(NSString* format, ...) {
+    va_list arguments;
+    va_start(arguments, format);
+    NSString* const line = [[NSString alloc] initWithFormat:format arguments:arguments];
+    va_end(arguments);
+    world().systemLog.write(stdString(line));
+    [line release];
+}

@@ -1,0 +1,68 @@
+// The stand-in Authorization Services.
+// SPDX-License-Identifier: MIT
+#import "tests/macos/frameworks/Security.h"
+
+#include <fcntl.h>
+#import <Security/Authorization.h>
+
+#include <string_view>
+
+#include "tests/macos/frameworks/World.h"
+
+using brisel::tests::macos::complain;
+using brisel::tests::macos::world;
+namespace platform = brisel::platform;
+
+namespace {
+
+platform::AuthorizationRef worldReference(AuthorizationRef authorization) {
+    return reinterpret_cast<platform::AuthorizationRef>(authorization);
+}
+
+}  // namespace
+
+OSStatus AuthorizationCreate(const AuthorizationRights* /*rights*/,
+                             const AuthorizationEnvironment* /*environment*/,
+                             AuthorizationFlags flags, AuthorizationRef* authorization) {
+    const auto created = world().authorization.create(flags);
+    *authorization = reinterpret_cast<AuthorizationRef>(created.authorization);
+    return created.status;
+}
+
+OSStatus AuthorizationCopyRights(AuthorizationRef authorization, const AuthorizationRights* rights,
+                                 const AuthorizationEnvironment* /*environment*/,
+                                 AuthorizationFlags flags, AuthorizationRights** /*granted*/) {
+    if (rights->count != 1) complain("not one right was asked for");
+    const auto& item = *rights->items;
+    return world().authorization.copyRights(worldReference(authorization),
+                                            {.name = item.name,
+                                             .valueLength = item.valueLength,
+                                             .value = item.value,
+                                             .flags = item.flags},
+                                            flags);
+}
+
+OSStatus AuthorizationFree(AuthorizationRef authorization, AuthorizationFlags flags) {
+    world().authorization.free(worldReference(authorization), flags);
+    return errAuthorizationSuccess;
+}
+
+OSStatus AuthorizationExecuteWithPrivileges(AuthorizationRef authorization, const char* pathToTool,
+                                            AuthorizationFlags options, char* const* arguments,
+                                            FILE** communicationsPipe) {
+    if (options != kAuthorizationFlagDefaults) return errAuthorizationInvalidFlags;
+    const auto started = world().authorization.executeWithPrivileges(
+        worldReference(authorization), pathToTool, options, arguments);
+    // The real one sets no owner of the descriptor.
+    if (started.communicationsPipe != nullptr) {
+        fcntl(fileno(started.communicationsPipe), F_SETOWN, 0);
+    }
+    *communicationsPipe = started.communicationsPipe;
+    return started.status;
+}
+
+void* StageDlsym(void* handle, const char* symbol) {
+    const bool isStart = std::string_view(symbol) == "AuthorizationExecuteWithPrivileges";
+    if (isStart && !world().authorization.offersExecuteWithPrivileges()) return nullptr;
+    return dlsym(handle, symbol);
+}

@@ -1,0 +1,18 @@
+// The stand-in User Notifications.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#import <UserNotifications/UserNotifications.h>
+
+#include <functional>
+
+#include "platform/UserNotificationCenter.h"
+
+namespace brisel::tests::macos {
+
+/// Delivers the user's response to the center's delegate, on a thread of the framework's own, and
+/// calls `delivered` there.
+void deliverResponse(const platform::NotificationResponse& response,
+                     const std::function<void()>& delivered);
+
+}  // namespace brisel::tests::macos

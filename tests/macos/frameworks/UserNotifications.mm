@@ -1,0 +1,156 @@
+// The stand-in notification center, which calls back on threads of its own.
+// SPDX-License-Identifier: MIT
+#import "tests/macos/frameworks/UserNotifications.h"
+
+#include <functional>
+#include <string>
+#include <thread>
+#include <utility>
+
+#include "platform/macos/Text.h"
+#include "tests/macos/frameworks/UserNotificationValues.h"
+#include "tests/macos/frameworks/World.h"
+
+using brisel::platform::macos::nsString;
+using brisel::platform::macos::stdString;
+using brisel::tests::macos::world;
+namespace platform = brisel::platform;
+
+NSString* const UNErrorDomain = @"UNErrorDomain";
+
+namespace {
+
+/// The delegate: not kept alive, and one for all, as the center is.
+id<UNUserNotificationCenterDelegate> centerDelegate = nil;
+
+// The world goes on only when `work` is done, so that what happens has one order.
+void runOnAnotherThread(const std::function<void()>& work) {
+    std::thread([&work] {
+        GSRegisterCurrentThread();
+        @autoreleasepool {
+            work();
+        }
+        GSUnregisterCurrentThread();
+    }).join();
+}
+
+NSError* errorFrom(const std::optional<platform::Error>& error) {
+    if (!error) return nil;
+    NSDictionary* const userInfo =
+        [NSDictionary dictionaryWithObject:nsString(error->localizedDescription)
+                                    forKey:NSLocalizedDescriptionKey];
+    return [NSError errorWithDomain:UNErrorDomain code:1 userInfo:userInfo];
+}
+
+platform::UserInfo valuesOf(NSDictionary* userInfo) {
+    platform::UserInfo values;
+    for (NSString* key in [userInfo allKeys])
+        values[stdString(key)] = stdString([userInfo objectForKey:key]);
+    return values;
+}
+
+platform::NotificationRequest valueOf(UNNotificationRequest* request) {
+    UNNotificationContent* const content = [request content];
+    const auto* const sound = static_cast<StageSound*>([content sound]);
+    const auto* const trigger = static_cast<UNTimeIntervalNotificationTrigger*>([request trigger]);
+    const auto delay = std::chrono::duration<double>([trigger timeInterval]);
+    return {.identifier = stdString([request identifier]),
+            .title = stdString([content title]),
+            .body = stdString([content body]),
+            .soundName = sound != nil ? stdString(sound->name) : "",
+            .categoryIdentifier = stdString([content categoryIdentifier]),
+            .userInfo = valuesOf([content userInfo]),
+            .delay = std::chrono::round<std::chrono::milliseconds>(delay)};
+}
+
+UNNotificationResponse* responseFrom(const platform::NotificationResponse& response) {
+    NSMutableDictionary* const userInfo = [NSMutableDictionary dictionary];
+    for (const auto& [key, value] : response.userInfo)
+        [userInfo setObject:nsString(value) forKey:nsString(key)];
+    UNMutableNotificationContent* const content =
+        [[[UNMutableNotificationContent alloc] init] autorelease];
+    [content setUserInfo:userInfo];
+    StageNotification* const notification = [[[StageNotification alloc] init] autorelease];
+    notification->request_ =
+        [[UNNotificationRequest requestWithIdentifier:nsString(response.requestIdentifier)
+                                              content:content
+                                              trigger:nil] retain];
+    StageResponse* const made = [[[StageResponse alloc] init] autorelease];
+    made->notification_ = [notification retain];
+    made->actionIdentifier_ = nsString(response.actionIdentifier);
+    [made->actionIdentifier_ retain];
+    return made;
+}
+
+platform::NotificationCategory valueOf(UNNotificationCategory* category) {
+    platform::NotificationCategory value{.identifier = stdString([category identifier]),
+                                         .actions = {}};
+    for (UNNotificationAction* action in [category actions]) {
+        value.actions.push_back(
+            {.identifier = stdString([action identifier]), .title = stdString([action title])});
+    }
+    return value;
+}
+
+}  // namespace
+
+@implementation UNUserNotificationCenter
+@dynamic delegate;
+
++ (UNUserNotificationCenter*)currentNotificationCenter {
+    if ([[NSBundle mainBundle] bundleIdentifier] == nil) {
+        [NSException raise:NSInternalInconsistencyException
+                    format:@"bundleProxyForCurrentProcess is nil"];
+    }
+    static UNUserNotificationCenter* const center = [[UNUserNotificationCenter alloc] init];
+    return center;
+}
+
+- (id<UNUserNotificationCenterDelegate>)delegate {
+    return centerDelegate;
+}
+
+- (void)setDelegate:(id<UNUserNotificationCenterDelegate>)delegate {
+    centerDelegate = delegate;
+}
+
+- (void)setNotificationCategories:(NSSet<UNNotificationCategory*>*)categories {
+    std::vector<platform::NotificationCategory> values;
+    for (UNNotificationCategory* category in categories)
+        values.push_back(valueOf(category));
+    world().userNotificationCenter.setNotificationCategories(values);
+}
+
+- (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options
+                      completionHandler:(void (^)(BOOL, NSError*))completionHandler {
+    world().userNotificationCenter.requestAuthorization(
+        static_cast<unsigned>(options), [=](bool granted, const auto& error) {
+            runOnAnotherThread([&] { completionHandler(granted ? YES : NO, errorFrom(error)); });
+        });
+}
+
+- (void)addNotificationRequest:(UNNotificationRequest*)request
+         withCompletionHandler:(void (^)(NSError*))completionHandler {
+    world().userNotificationCenter.addNotificationRequest(valueOf(request), [=](const auto& error) {
+        if (completionHandler == nil) return;
+        runOnAnotherThread([&] { completionHandler(errorFrom(error)); });
+    });
+}
+
+@end
+
+namespace brisel::tests::macos {
+
+void deliverResponse(const platform::NotificationResponse& response,
+                     const std::function<void()>& delivered) {
+    runOnAnotherThread([&] {
+        [centerDelegate userNotificationCenter:[UNUserNotificationCenter currentNotificationCenter]
+                didReceiveNotificationResponse:responseFrom(response)
+                         withCompletionHandler:^{
+                           complain("a response was answered");
+                         }];
+        delivered();
+    });
+}
+
+}  // namespace brisel::tests::macos

@@ -1,0 +1,22 @@
+// The simulated Mac that the stand-in frameworks act on, and what they have to complain about.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/simulated/Mac.h"
+
+namespace brisel::tests::macos {
+
+/// There must be one.
+platform::simulated::Mac& world();
+/// `mac` must outlive all that acts on it.
+void setWorld(platform::simulated::Mac& mac);
+
+/// Notes a use of a framework that the real one punishes in a way that nobody would see at once.
+void complain(const std::string& complaint);
+/// What was noted since this was asked last.
+std::vector<std::string> takeComplaints();
+
+}  // namespace brisel::tests::macos

@@ -1,0 +1,51 @@
+// The Mac application, from its own sources, on the stand-in frameworks.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/simulated/Mac.h"
+#include "simulator/Program.h"
+#include "simulator/Scenario.h"
+
+namespace brisel::tests::macos {
+
+/// Runs in the real main loop, which asks the scenario for commands when there is nothing else to
+/// do in its default mode. Its end is the process's end.
+class StagedProgram final : public simulator::Program {
+  public:
+    explicit StagedProgram(platform::simulated::Mac& mac) : mac_(mac) {}
+
+    /// The scenario that this program asks for commands.
+    void setScenario(simulator::Scenario& scenario) { scenario_ = &scenario; }
+
+    /// Never returns.
+    void start() override;
+    [[nodiscard]] bool started() const override { return started_; }
+    [[nodiscard]] const NTFSVolumeManager* manager() const override;
+
+    [[nodiscard]] std::vector<platform::MenuItem> menuItems() const override;
+    void choose(std::size_t index) override;
+    void respond(const platform::NotificationResponse& response) override;
+    void terminate() override;
+
+    void turnUntilIdle() override {}
+    void turnWhileBlocked() override;
+
+    [[noreturn]] void end() override;
+
+    /// What the main loop does when it turns in its default mode.
+    void turn();
+    /// The main loop has done what a response to a notification left to it.
+    void responseWasHandled() { awaitsResponse_ = false; }
+
+  private:
+    platform::simulated::Mac& mac_;
+    simulator::Scenario* scenario_ = nullptr;
+    bool started_ = false;
+    bool awaitsResponse_ = false;
+};
+
+/// The exit status of a scenario that has ended: whether it stopped at a bad command, and whether
+/// the program lost or misused something, which is told on standard error.
+int exitStatus(bool stoppedAtBadCommand, bool inTheMiddle);
+
+}  // namespace brisel::tests::macos

@@ -1,0 +1,177 @@
+// The Mac application on the stand-in frameworks.
+// SPDX-License-Identifier: MIT
+#import "tests/macos/stage/StagedProgram.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <string>
+
+#include "tests/macos/frameworks/AppKit.h"
+#include "tests/macos/frameworks/Counted.h"
+#include "tests/macos/frameworks/DiskArbitration.h"
+#include "tests/macos/frameworks/UserNotifications.h"
+#include "tests/macos/frameworks/World.h"
+
+/// The program's own `main`.
+int briselMain(int argumentCount, char** arguments);
+
+using brisel::tests::macos::StagedProgram;
+
+/// Turns with the main loop.
+@interface StageTurner : NSObject {
+  @public
+    StagedProgram* program;
+}
+- (void)applicationDidFinishLaunching:(NSNotification*)notification;
+- (void)turn:(NSTimer*)timer;
+- (void)responseWasHandled;
+@end
+
+@implementation StageTurner
+
+- (void)applicationDidFinishLaunching:(NSNotification*)notification {
+    (void)notification;
+    constexpr NSTimeInterval AtOnce = 0.0001;
+    [NSTimer scheduledTimerWithTimeInterval:AtOnce
+                                     target:self
+                                   selector:@selector(turn:)
+                                   userInfo:nil
+                                    repeats:YES];
+}
+
+- (void)turn:(NSTimer*)timer {
+    (void)timer;
+    program->turn();
+}
+
+- (void)responseWasHandled {
+    program->responseWasHandled();
+}
+
+@end
+
+namespace brisel::tests::macos {
+
+namespace {
+
+constexpr int BadUse = 2;
+constexpr int Misused = 3;
+
+StageTurner* turner = nil;
+
+// What GNUstep takes for its command line: the user's language, and no icon of its own. A file on
+// the real one it would take for a document to open.
+void setArguments(std::string language) {
+    std::string program = std::filesystem::read_symlink("/proc/self/exe");
+    std::string languagesName = "-NSLanguages";
+    language = "(\"" + language + "\", en)";
+    std::string iconName = "-GSSuppressAppIcon";
+    std::string yes = "YES";
+    std::array<char*, 5> arguments{program.data(), languagesName.data(), language.data(),
+                                   iconName.data(), yes.data()};
+    [NSProcessInfo initializeWithArguments:arguments.data()
+                                     count:static_cast<int>(arguments.size())
+                               environment:environ];
+}
+
+void reportAtExit() {
+    // Whatever ended the process, what the program wrote must have come out first.
+    std::cout.flush();
+    const int status = exitStatus(false, false);
+    if (status != 0) std::_Exit(status);
+}
+
+}  // namespace
+
+int exitStatus(bool stoppedAtBadCommand, bool inTheMiddle) {
+    int status = stoppedAtBadCommand ? BadUse : 0;
+    for (const auto& complaint : takeComplaints()) {
+        std::cerr << "misused: " << complaint << '\n';
+        status = Misused;
+    }
+    // In the middle of something the program has every right to hold on to objects.
+    if (inTheMiddle) return status;
+    for (const auto& [kind, count] : liveObjects()) {
+        // The session is kept as long as the process.
+        const int expected = kind == "StageSession" ? 1 : 0;
+        if (count == expected) continue;
+        std::cerr << "lost: " << count << " of " << kind << ", not " << expected << '\n';
+        status = Misused;
+    }
+    return status;
+}
+
+void StagedProgram::start() {
+    started_ = true;
+    @autoreleasepool {
+        setArguments(mac_.bundle.language());
+        // The application object that NSApplicationMain finds.
+        [StageApplication sharedApplication];
+        turner = [[StageTurner alloc] init];
+        turner->program = this;
+        [[NSNotificationCenter defaultCenter]
+            addObserver:turner
+               selector:@selector(applicationDidFinishLaunching:)
+                   name:NSApplicationDidFinishLaunchingNotification
+                 object:nil];
+        std::atexit(&reportAtExit);
+        char name[] = "Brisel";
+        char* arguments[] = {name, nullptr};
+        briselMain(1, arguments);
+    }
+    end();
+}
+
+const NTFSVolumeManager* StagedProgram::manager() const {
+    return started_ ? &NTFSVolumeManager::sharedInstance() : nullptr;
+}
+
+std::vector<platform::MenuItem> StagedProgram::menuItems() const {
+    return itemsOf([statusItem() menu]);
+}
+
+void StagedProgram::choose(std::size_t index) {
+    NSMenu* const menu = [statusItem() menu];
+    // Menu items are enabled by whether their targets have the methods.
+    [menu update];
+    [menu performActionForItemAtIndex:static_cast<NSInteger>(index)];
+}
+
+void StagedProgram::respond(const platform::NotificationResponse& response) {
+    awaitsResponse_ = true;
+    // What is sent from one thread arrives in order: this after whatever the response left to the
+    // main loop.
+    deliverResponse(response, [] {
+        [turner performSelectorOnMainThread:@selector(responseWasHandled)
+                                 withObject:nil
+                              waitUntilDone:NO
+                                      modes:[NSArray arrayWithObject:NSDefaultRunLoopMode]];
+    });
+}
+
+void StagedProgram::terminate() {
+    [NSApp terminate:nil];
+}
+
+void StagedProgram::turnWhileBlocked() {
+    @autoreleasepool {
+        deliverDiskEvents(NSModalPanelRunLoopMode);
+        [[NSRunLoop currentRunLoop] runMode:NSModalPanelRunLoopMode beforeDate:[NSDate date]];
+    }
+}
+
+void StagedProgram::turn() {
+    if (awaitsResponse_ || deliverDiskEvents(NSDefaultRunLoopMode)) return;
+    if (!scenario_->step()) std::exit(EXIT_SUCCESS);
+}
+
+void StagedProgram::end() {
+    std::cout.flush();
+    std::_Exit(exitStatus(scenario_->stopped(), true));
+}
+
+}  // namespace brisel::tests::macos

@@ -1,0 +1,28 @@
+#!/bin/sh
+# Opens an X display in memory for many tests, and closes it: display.sh open|close FILE
+# SPDX-License-Identifier: MIT
+#
+# FILE holds the display's number and the server's process.
+set -eu
+file=$2
+
+close_display() {
+    [ -e "$file" ] || return 0
+    read -r number server <"$file"
+    kill "$server" 2>/dev/null || true
+    rm -f "$file"
+}
+
+case $1 in
+open)
+    close_display
+    mkfifo "$file.ready"
+    Xvfb -displayfd 3 -screen 0 640x480x24 -nolisten tcp -noreset 3>"$file.ready" >/dev/null 2>&1 </dev/null &
+    server=$!
+    read -r number <"$file.ready"
+    rm "$file.ready"
+    echo "$number $server" >"$file"
+    ;;
+close) close_display ;;
+*) exit 2 ;;
+esac

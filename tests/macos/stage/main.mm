@@ -1,0 +1,45 @@
+// brisel-macos-stage: the Mac application on stand-in frameworks, driven by a scenario.
+// SPDX-License-Identifier: MIT
+#import <Foundation/Foundation.h>
+
+#include <memory>
+#include <string_view>
+
+#include "simulator/CommandLine.h"
+#include "tests/macos/frameworks/World.h"
+#include "tests/macos/stage/StagedProgram.h"
+
+namespace {
+
+namespace simulator = brisel::simulator;
+using brisel::tests::macos::StagedProgram;
+
+// GNUstep's own lines; the program's go elsewhere. Without a window manager it cannot look at the
+// frames of windows, and says so fifteen times.
+void logOfGNUstep(NSString* line) {
+    const std::string_view text = [line UTF8String];
+    if (text.find("Failed to determine offsets for style") != std::string_view::npos) return;
+    std::fprintf(stderr, "%s", text.data());
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+    _NSLog_printf_handler = &logOfGNUstep;
+    StagedProgram* program = nullptr;
+    const simulator::CommandLine commandLine{
+        .name = "brisel-macos-stage",
+        .purpose = "Runs the Mac application on stand-in frameworks, one command a line, from FILE "
+                   "or standard input.",
+        .makeProgram =
+            [&program](brisel::platform::simulated::Mac& mac) {
+                brisel::tests::macos::setWorld(mac);
+                auto made = std::make_unique<StagedProgram>(mac);
+                program = made.get();
+                return made;
+            },
+        .scenarioMade =
+            [&program](simulator::Scenario& scenario) { program->setScenario(scenario); }};
+    // Comes back only from a scenario that has not started the program.
+    return run(commandLine, argumentCount, arguments);
+}

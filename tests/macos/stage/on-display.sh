@@ -1,0 +1,7 @@
+#!/bin/sh
+# Runs a command on the display that display.sh has opened: on-display.sh FILE COMMAND...
+# SPDX-License-Identifier: MIT
+set -eu
+read -r number server <"$1"
+shift
+exec env BRISEL_STAGE_DISPLAY=":$number" "$@"
