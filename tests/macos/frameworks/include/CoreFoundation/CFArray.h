@@ -1,0 +1,20 @@
+// Arrays.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking and running the adapters
+// without a Mac.
+#pragma once
+
+#include <CoreFoundation/CFBase.h>
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef const struct CF_BRIDGED_TYPE(NSArray) __CFArray* CFArrayRef;
+
+CFTypeID CFArrayGetTypeID(void);
+CFIndex CFArrayGetCount(CFArrayRef array);
+const void* _Null_unspecified CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END

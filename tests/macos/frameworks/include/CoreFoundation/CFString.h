@@ -1,0 +1,47 @@
+// Strings.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking and running the adapters
+// without a Mac.
+#pragma once
+
+#include <CoreFoundation/CFBase.h>
+
+// A constant string of the program itself.
+#ifdef __OBJC__
+#define CFSTR(text) ((CFStringRef) @text)
+#else
+#define CFSTR(text) ((CFStringRef)__builtin___CFStringMakeConstantString(text))
+#endif
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef UInt32 CFStringEncoding;
+
+typedef CF_ENUM(CFStringEncoding, CFStringBuiltInEncodings) {
+    kCFStringEncodingMacRoman = 0,
+    kCFStringEncodingISOLatin1 = 0x0201,
+    kCFStringEncodingASCII = 0x0600,
+    kCFStringEncodingUnicode = 0x0100,
+    kCFStringEncodingUTF8 = 0x08000100,
+};
+
+CFTypeID CFStringGetTypeID(void);
+CFIndex CFStringGetLength(CFStringRef string);
+// In bytes, without the terminating zero.
+CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding encoding);
+// False where the string and its terminating zero do not fit in the buffer.
+Boolean CFStringGetCString(CFStringRef string, char* buffer, CFIndex bufferSize,
+                           CFStringEncoding encoding);
+const char* _Nullable CFStringGetCStringPtr(CFStringRef string, CFStringEncoding encoding);
+CFStringRef _Nullable CFStringCreateWithCString(CFAllocatorRef _Nullable allocator,
+                                                const char* text,
+                                                CFStringEncoding encoding) CF_RETURNS_RETAINED;
+CFStringRef _Nullable CFStringCreateWithBytes(CFAllocatorRef _Nullable allocator,
+                                              const UInt8* bytes, CFIndex byteCount,
+                                              CFStringEncoding encoding,
+                                              Boolean startsWithMark) CF_RETURNS_RETAINED;
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END

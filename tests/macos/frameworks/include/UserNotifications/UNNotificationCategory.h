@@ -1,0 +1,39 @@
+// A kind of notification, with its buttons.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking and running the adapters
+// without a Mac. The variables are those of the stand-ins.
+#pragma once
+
+#import <UserNotifications/UNNotificationAction.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+typedef NS_OPTIONS(NSUInteger, UNNotificationCategoryOptions) {
+    UNNotificationCategoryOptionCustomDismissAction = (1 << 0),
+    UNNotificationCategoryOptionHiddenPreviewsShowTitle = (1 << 2),
+    UNNotificationCategoryOptionHiddenPreviewsShowSubtitle = (1 << 3),
+} API_AVAILABLE(macos(10.14));
+
+static const UNNotificationCategoryOptions UNNotificationCategoryOptionNone
+    API_AVAILABLE(macos(10.14)) = 0;
+
+API_AVAILABLE(macos(10.14))
+@interface UNNotificationCategory : NSObject {
+    NSString* _identifier;
+    NSArray<UNNotificationAction*>* _actions;
+    NSArray<NSString*>* _intentIdentifiers;
+    UNNotificationCategoryOptions _options;
+}
+@property(copy, readonly) NSString* identifier;
+@property(copy, readonly) NSArray<UNNotificationAction*>* actions;
+@property(copy, readonly) NSArray<NSString*>* intentIdentifiers;
+@property(readonly) UNNotificationCategoryOptions options;
++ (instancetype)categoryWithIdentifier:(NSString*)identifier
+                               actions:(NSArray<UNNotificationAction*>*)actions
+                     intentIdentifiers:(NSArray<NSString*>*)intentIdentifiers
+                               options:(UNNotificationCategoryOptions)options;
+- (instancetype)init BRISEL_UN_NOT_YOURS;
+@end
+
+NS_ASSUME_NONNULL_END

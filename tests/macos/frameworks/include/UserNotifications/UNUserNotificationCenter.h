@@ -1,0 +1,74 @@
+// The center that shows notifications, and its delegate.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking and running the adapters
+// without a Mac. The variables are those of the stand-ins.
+#pragma once
+
+#import <UserNotifications/UNError.h>
+#import <UserNotifications/UNNotificationCategory.h>
+#import <UserNotifications/UNNotificationResponse.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@protocol UNUserNotificationCenterDelegate;
+
+typedef NS_OPTIONS(NSUInteger, UNAuthorizationOptions) {
+    UNAuthorizationOptionBadge = (1 << 0),
+    UNAuthorizationOptionSound = (1 << 1),
+    UNAuthorizationOptionAlert = (1 << 2),
+    UNAuthorizationOptionCarPlay = (1 << 3),
+    UNAuthorizationOptionCriticalAlert = (1 << 4),
+    UNAuthorizationOptionProvidesAppNotificationSettings = (1 << 5),
+    UNAuthorizationOptionProvisional = (1 << 6),
+} API_AVAILABLE(macos(10.14));
+
+static const UNAuthorizationOptions UNAuthorizationOptionNone API_AVAILABLE(macos(10.14)) = 0;
+
+typedef NS_OPTIONS(NSUInteger, UNNotificationPresentationOptions) {
+    UNNotificationPresentationOptionBadge = (1 << 0),
+    UNNotificationPresentationOptionSound = (1 << 1),
+    UNNotificationPresentationOptionAlert API_DEPRECATED(
+        "use UNNotificationPresentationOptionList and UNNotificationPresentationOptionBanner",
+        macos(10.14, 11.0)) = (1 << 2),
+    UNNotificationPresentationOptionList API_AVAILABLE(macos(11.0)) = (1 << 3),
+    UNNotificationPresentationOptionBanner API_AVAILABLE(macos(11.0)) = (1 << 4),
+} API_AVAILABLE(macos(10.14));
+
+static const UNNotificationPresentationOptions UNNotificationPresentationOptionNone
+    API_AVAILABLE(macos(10.14)) = 0;
+
+// Handlers may be called on threads of the system's own.
+API_AVAILABLE(macos(10.14))
+@interface UNUserNotificationCenter : NSObject {
+    id<UNUserNotificationCenterDelegate> _delegate;
+}
+@property(weak, nullable) id<UNUserNotificationCenterDelegate> delegate;
+// Raises an exception in a process that is no application in a bundle.
++ (UNUserNotificationCenter*)currentNotificationCenter;
+- (instancetype)init BRISEL_UN_NOT_YOURS;
+- (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options
+                      completionHandler:
+                          (void (^)(BOOL granted, NSError* _Nullable error))completionHandler;
+- (void)setNotificationCategories:(NSSet<UNNotificationCategory*>*)categories;
+- (void)addNotificationRequest:(UNNotificationRequest*)request
+         withCompletionHandler:(nullable void (^)(NSError* _Nullable error))completionHandler;
+- (void)removePendingNotificationRequestsWithIdentifiers:(NSArray<NSString*>*)identifiers;
+- (void)removeAllPendingNotificationRequests;
+- (void)removeDeliveredNotificationsWithIdentifiers:(NSArray<NSString*>*)identifiers;
+- (void)removeAllDeliveredNotifications;
+@end
+
+API_AVAILABLE(macos(10.14))
+@protocol UNUserNotificationCenterDelegate <NSObject>
+@optional
+- (void)userNotificationCenter:(UNUserNotificationCenter*)center
+       willPresentNotification:(UNNotification*)notification
+         withCompletionHandler:
+             (void (^)(UNNotificationPresentationOptions options))completionHandler;
+- (void)userNotificationCenter:(UNUserNotificationCenter*)center
+    didReceiveNotificationResponse:(UNNotificationResponse*)response
+             withCompletionHandler:(void (^)(void))completionHandler;
+@end
+
+NS_ASSUME_NONNULL_END
