@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 //
 // The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac. The variables are those of the stand-ins.
+// without a Mac.
 #pragma once
 
-#import <UserNotifications/UNNotificationDefines.h>
+#import <Foundation/Foundation.h>
+#include <os/availability.h>
 
 NS_ASSUME_NONNULL_BEGIN
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac. The variables are those of the stand-ins.
+// without a Mac.
 #pragma once
 
 #import <UserNotifications/UNNotificationAction.h>
@@ -19,21 +19,13 @@ static const UNNotificationCategoryOptions UNNotificationCategoryOptionNone
     API_AVAILABLE(macos(10.14)) = 0;
 
 API_AVAILABLE(macos(10.14))
-@interface UNNotificationCategory : NSObject {
-    NSString* _identifier;
-    NSArray<UNNotificationAction*>* _actions;
-    NSArray<NSString*>* _intentIdentifiers;
-    UNNotificationCategoryOptions _options;
-}
+@interface UNNotificationCategory : NSObject
 @property(copy, readonly) NSString* identifier;
 @property(copy, readonly) NSArray<UNNotificationAction*>* actions;
-@property(copy, readonly) NSArray<NSString*>* intentIdentifiers;
-@property(readonly) UNNotificationCategoryOptions options;
 + (instancetype)categoryWithIdentifier:(NSString*)identifier
                                actions:(NSArray<UNNotificationAction*>*)actions
                      intentIdentifiers:(NSArray<NSString*>*)intentIdentifiers
                                options:(UNNotificationCategoryOptions)options;
-- (instancetype)init BRISEL_UN_NOT_YOURS;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac. The variables are those of the stand-ins.
+// without a Mac.
 #pragma once
 
 #import <UserNotifications/UNNotificationSound.h>
@@ -10,20 +10,10 @@
 NS_ASSUME_NONNULL_BEGIN
 
 API_AVAILABLE(macos(10.14))
-@interface UNNotificationContent : NSObject <NSCopying, NSMutableCopying> {
-    NSString* _title;
-    NSString* _subtitle;
-    NSString* _body;
-    NSString* _categoryIdentifier;
-    NSString* _threadIdentifier;
-    UNNotificationSound* _sound;
-    NSDictionary* _userInfo;
-}
+@interface UNNotificationContent : NSObject
 @property(readonly, copy) NSString* title;
-@property(readonly, copy) NSString* subtitle;
 @property(readonly, copy) NSString* body;
 @property(readonly, copy) NSString* categoryIdentifier;
-@property(readonly, copy) NSString* threadIdentifier;
 @property(readonly, copy, nullable) UNNotificationSound* sound;
 @property(readonly, copy) NSDictionary* userInfo;
 @end
@@ -31,13 +21,11 @@ API_AVAILABLE(macos(10.14))
 // What is in `userInfo` must be of the kinds that preferences can hold.
 API_AVAILABLE(macos(10.14))
 @interface UNMutableNotificationContent : UNNotificationContent
-@property(readwrite, copy) NSString* title;
-@property(readwrite, copy) NSString* subtitle;
-@property(readwrite, copy) NSString* body;
-@property(readwrite, copy) NSString* categoryIdentifier;
-@property(readwrite, copy) NSString* threadIdentifier;
-@property(readwrite, copy, nullable) UNNotificationSound* sound;
-@property(readwrite, copy) NSDictionary* userInfo;
+@property(copy) NSString* title;
+@property(copy) NSString* body;
+@property(copy) NSString* categoryIdentifier;
+@property(copy, nullable) UNNotificationSound* sound;
+@property(copy) NSDictionary* userInfo;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -2,26 +2,22 @@
 // SPDX-License-Identifier: MIT
 //
 // The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac. The variables are those of the stand-ins.
+// without a Mac.
 #pragma once
 
-#import <UserNotifications/UNNotificationDefines.h>
+#import <Foundation/Foundation.h>
+#include <os/availability.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
 API_AVAILABLE(macos(10.14))
-@interface UNNotificationTrigger : NSObject {
-    BOOL _repeats;
-}
+@interface UNNotificationTrigger : NSObject
 @property(readonly) BOOL repeats;
-- (instancetype)init BRISEL_UN_NOT_YOURS;
 @end
 
 // An interval is greater than 0, and at least 60 seconds where it repeats.
 API_AVAILABLE(macos(10.14))
-@interface UNTimeIntervalNotificationTrigger : UNNotificationTrigger {
-    NSTimeInterval _timeInterval;
-}
+@interface UNTimeIntervalNotificationTrigger : UNNotificationTrigger
 @property(readonly) NSTimeInterval timeInterval;
 + (instancetype)triggerWithTimeInterval:(NSTimeInterval)timeInterval repeats:(BOOL)repeats;
 @end

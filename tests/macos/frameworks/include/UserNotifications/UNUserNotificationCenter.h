@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac. The variables are those of the stand-ins.
+// without a Mac.
 #pragma once
 
 #import <UserNotifications/UNError.h>
@@ -40,23 +40,16 @@ static const UNNotificationPresentationOptions UNNotificationPresentationOptionN
 
 // Handlers may be called on threads of the system's own.
 API_AVAILABLE(macos(10.14))
-@interface UNUserNotificationCenter : NSObject {
-    id<UNUserNotificationCenterDelegate> _delegate;
-}
+@interface UNUserNotificationCenter : NSObject
 @property(weak, nullable) id<UNUserNotificationCenterDelegate> delegate;
 // Raises an exception in a process that is no application in a bundle.
 + (UNUserNotificationCenter*)currentNotificationCenter;
-- (instancetype)init BRISEL_UN_NOT_YOURS;
 - (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options
                       completionHandler:
                           (void (^)(BOOL granted, NSError* _Nullable error))completionHandler;
 - (void)setNotificationCategories:(NSSet<UNNotificationCategory*>*)categories;
 - (void)addNotificationRequest:(UNNotificationRequest*)request
          withCompletionHandler:(nullable void (^)(NSError* _Nullable error))completionHandler;
-- (void)removePendingNotificationRequestsWithIdentifiers:(NSArray<NSString*>*)identifiers;
-- (void)removeAllPendingNotificationRequests;
-- (void)removeDeliveredNotificationsWithIdentifiers:(NSArray<NSString*>*)identifiers;
-- (void)removeAllDeliveredNotifications;
 @end
 
 API_AVAILABLE(macos(10.14))
