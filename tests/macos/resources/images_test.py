@@ -1,0 +1,128 @@
+# Checks the pictures of Brisel.app: there, made from the drawings, and seen on a menu bar.
+# SPDX-License-Identifier: MIT
+#
+# usage: images_test.py ROOT [-v]
+import pathlib
+import re
+import struct
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from pictures import decode
+from status_icon_checks import BARS, StatusIconChecks
+
+ROOT = pathlib.Path(sys.argv.pop(1))
+PICTURES = ROOT / "resources/macos"
+IMAGES = PICTURES / "images"
+# Of a status image, in a menu bar that is 22 points high.
+POINTS = 18
+# Renderers round differently; more is another drawing.
+MOST_APART = 4
+PNG = b"\x89PNG\r\n\x1a\n"
+
+
+def read(file):
+    return decode(file.read_bytes())
+
+
+def size(picture):
+    return len(picture[0]), len(picture)
+
+
+def premultiplied(pixel):
+    return [channel * pixel[3] / 255 for channel in pixel[:3]] + [pixel[3]]
+
+
+def apart(one, other):
+    """The most by which a channel of a pixel differs; pictures of two sizes are all apart."""
+    if size(one) != size(other):
+        return 255
+    return max(abs(a - b) for rows in zip(one, other) for pixels in zip(*rows)
+               for a, b in zip(*map(premultiplied, pixels)))
+
+
+def elements(icns):
+    """The kinds of an icon file's elements, with their data."""
+    name, length = struct.unpack_from(">4sI", icns)
+    if (name, length) != (b"icns", len(icns)):
+        raise ValueError("no icon file, or not all of it")
+    position = 8
+    while position < len(icns):
+        kind, length = struct.unpack_from(">4sI", icns, position)
+        yield kind.decode("ascii"), icns[position + 8:position + length]
+        position += length
+
+
+def names_asked_for():
+    """All that the program makes up of a colour's word and that for the bar."""
+    source = (ROOT / "src/app/StatusIcon.cpp").read_text(encoding="utf-8")
+    prefix = re.search(r'std::string name = "([^"]+)"', source).group(1)
+    colours = re.findall(r'return "(\w+-)"', source)
+    bars = re.search(r'\? "(\w+)" : "(\w+)"', source).groups()
+    return {prefix + colour + bar for colour in colours for bar in bars}
+
+
+class StatusImages(StatusIconChecks, unittest.TestCase):
+    sizes = (POINTS, 2 * POINTS)
+
+    def picture(self, colour, bar, size):
+        return read(IMAGES / f"brisel-status-{colour}-{bar}{'' if size == POINTS else '@2x'}.png")
+
+    def test_are_those_that_the_program_asks_for(self):
+        names = names_asked_for()
+        self.assertEqual(len(names), 5 * len(BARS))
+        self.assertEqual({file.name for file in IMAGES.iterdir()},
+                         {name + ending for name in names for ending in (".png", "@2x.png")})
+
+    def test_fit_a_menu_bar_at_either_scale(self):
+        for file in IMAGES.iterdir():
+            with self.subTest(file=file.name):
+                side = 2 * POINTS if file.stem.endswith("@2x") else POINTS
+                self.assertEqual(size(read(file)), (side, side))
+
+
+class Icon(unittest.TestCase):
+    # The pixels of each kind of element; kinds for screens with twice the pixels included.
+    SIZES = {"ic11": 32, "ic12": 64, "ic07": 128, "ic13": 256,
+             "ic08": 256, "ic14": 512, "ic09": 512, "ic10": 1024}
+
+    def test_has_every_size_as_a_picture_of_that_size(self):
+        found = dict(elements((PICTURES / "Brisel.icns").read_bytes()))
+        self.assertEqual(set(found), set(self.SIZES))
+        for kind, data in found.items():
+            with self.subTest(kind=kind):
+                self.assertEqual(data[:8], PNG)
+                self.assertEqual(struct.unpack_from(">II", data, 16), (self.SIZES[kind],) * 2)
+
+
+class Exports(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.scratch = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(cls.scratch.cleanup)
+        cls.folder = pathlib.Path(cls.scratch.name)
+        subprocess.run([sys.executable, "-B", str(ROOT / "scripts/export-images"), cls.scratch.name],
+                       check=True)
+
+    def test_are_the_status_images_that_are_kept(self):
+        made = {file.name for file in (self.folder / "images").iterdir()}
+        self.assertEqual(made, {file.name for file in IMAGES.iterdir()})
+        for name in made:
+            with self.subTest(name=name):
+                self.assertLessEqual(
+                    apart(read(self.folder / "images" / name), read(IMAGES / name)), MOST_APART)
+
+    def test_are_the_icon_that_is_kept(self):
+        made = dict(elements((self.folder / "Brisel.icns").read_bytes()))
+        kept = dict(elements((PICTURES / "Brisel.icns").read_bytes()))
+        self.assertEqual(set(made), set(kept))
+        # The larger ones are the same drawing, and slow to look at.
+        for kind in ("ic11", "ic12", "ic07"):
+            with self.subTest(kind=kind):
+                self.assertLessEqual(apart(decode(made[kind]), decode(kept[kind])), MOST_APART)
+
+
+if __name__ == "__main__":
+    unittest.main()
