@@ -31,7 +31,9 @@ if(BRISEL_COVERAGE)
 endif()
 
 # What keeps a released program hard to attack.
-target_link_options(brisel_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
+if(NOT APPLE)
+  target_link_options(brisel_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
+endif()
 target_compile_options(brisel_options INTERFACE
   $<$<CONFIG:Release>:-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)

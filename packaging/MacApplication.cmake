@@ -1,0 +1,80 @@
+# Brisel.app: built, filled, signed from the inside out and checked; and the disk image it comes in.
+option(BRISEL_MAC_APPLICATION "Build Brisel.app, which takes Xcode" ON)
+if(NOT BRISEL_MAC_APPLICATION)
+  return()
+endif()
+include(MacBundle.cmake)
+
+find_program(BRISEL_CODESIGN codesign REQUIRED)
+if(NOT BRISEL_IBTOOL)
+  # There is an `ibtool` on every Mac, but without Xcode all it does is to say so.
+  execute_process(COMMAND xcrun --find ibtool RESULT_VARIABLE failure OUTPUT_VARIABLE path
+                  OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
+  if(failure)
+    message(FATAL_ERROR "ibtool is missing, which compiles the nib: it is a part of Xcode, not of "
+      "the Command Line Tools. Install Xcode and choose it by "
+      "`sudo xcode-select --switch /Applications/Xcode.app`; or build all but Brisel.app, with "
+      "-DBRISEL_MAC_APPLICATION=OFF.")
+  endif()
+  set(BRISEL_IBTOOL ${path} CACHE FILEPATH "What compiles the nib")
+endif()
+
+set(BRISEL_PROPERTY_LISTS ${CMAKE_CURRENT_BINARY_DIR})
+write_property_lists(${BRISEL_PROPERTY_LISTS})
+write_bundle_contents(${CMAKE_CURRENT_BINARY_DIR}/Brisel.contents)
+add_subdirectory(${PROJECT_SOURCE_DIR}/helper helper)
+
+set(nib ${CMAKE_CURRENT_BINARY_DIR}/MainMenu.nib)
+add_custom_command(OUTPUT ${nib}
+  COMMAND ${BRISEL_IBTOOL} --errors --warnings --notices --output-format human-readable-text
+          --minimum-deployment-target ${BRISEL_MINIMUM_SYSTEM}
+          --compile ${nib} ${BRISEL_NIB_SOURCE}
+  DEPENDS ${BRISEL_NIB_SOURCE} VERBATIM)
+
+set(resources ${nib} ${BRISEL_BUNDLE_FILES} ${BRISEL_BUNDLE_TABLES})
+foreach(file IN LISTS resources)
+  bundle_folder(folder ${file})
+  set_source_files_properties(${file} PROPERTIES MACOSX_PACKAGE_LOCATION ${folder})
+endforeach()
+
+file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/entry/macos/*.mm
+     ${PROJECT_SOURCE_DIR}/src/entry/macos/*.cpp)
+add_executable(Brisel MACOSX_BUNDLE ${sources} ${resources})
+set_target_properties(Brisel PROPERTIES
+  MACOSX_BUNDLE_INFO_PLIST ${BRISEL_PROPERTY_LISTS}/Brisel.plist)
+target_link_libraries(Brisel PRIVATE brisel_core brisel_macos)
+foreach(framework AppKit Foundation CoreFoundation DiskArbitration Security ServiceManagement
+        UserNotifications)
+  target_link_libraries(Brisel PRIVATE "-framework ${framework}")
+endforeach()
+# Classes and categories that are only asked for by name, as the nib does, are no reason to link them.
+target_link_options(Brisel PRIVATE -ObjC)
+
+# The seal: made anew whenever anything in the bundle changes, for it covers all of it. Nobody but
+# this machine trusts it; scripts/sign-macos makes one that others do.
+set(application $<TARGET_BUNDLE_DIR:Brisel>)
+set(helper ${application}/Contents/${BRISEL_HELPER_FOLDER}/BriselHelper.app)
+set(sign ${BRISEL_CODESIGN} --force --sign - --timestamp=none --options runtime)
+set(sealed ${CMAKE_CURRENT_BINARY_DIR}/Brisel.sealed)
+add_custom_command(OUTPUT ${sealed}
+  COMMAND ${CMAKE_COMMAND} -E rm -rf ${helper}
+  COMMAND ${CMAKE_COMMAND} -E copy_directory $<TARGET_BUNDLE_DIR:BriselHelper> ${helper}
+  COMMAND ${CMAKE_COMMAND} -DBUNDLE=${application}
+          -DCONTENTS=${CMAKE_CURRENT_BINARY_DIR}/Brisel.contents
+          -P ${CMAKE_CURRENT_SOURCE_DIR}/CheckBundle.cmake
+  COMMAND ${sign} ${helper}
+  COMMAND ${sign} --entitlements ${BRISEL_ENTITLEMENTS} ${application}
+  COMMAND ${BRISEL_CODESIGN} --verify --deep --strict --verbose=2 ${application}
+  COMMAND ${CMAKE_COMMAND} -E touch ${sealed}
+  DEPENDS Brisel BriselHelper ${resources} ${BRISEL_ENTITLEMENTS}
+          ${BRISEL_PROPERTY_LISTS}/Brisel.plist ${BRISEL_PROPERTY_LISTS}/BriselHelper.plist
+          CheckBundle.cmake
+  COMMENT "Signing Brisel.app for this machine"
+  VERBATIM)
+add_custom_target(brisel-application ALL DEPENDS ${sealed})
+
+get_filename_component(tree ${CMAKE_RUNTIME_OUTPUT_DIRECTORY} DIRECTORY)
+add_custom_target(brisel-disk-image
+  COMMAND ${PROJECT_SOURCE_DIR}/scripts/make-disk-image ${application}
+          ${tree}/packages/Brisel-${PROJECT_VERSION}.dmg
+  DEPENDS ${sealed} VERBATIM)
