@@ -1,0 +1,191 @@
+# Checks what the build makes of Brisel.app, on a Mac of stand-ins: its files and its seals.
+# SPDX-License-Identifier: MIT
+#
+# usage: build_test.py ROOT [-v]
+#
+# The compiler is a stand-in, too: nothing is said of the code.
+import pathlib
+import plistlib
+import re
+import shutil
+import sys
+import tempfile
+import time
+import unittest
+
+from fake_mac import FakeMac
+
+ROOT = pathlib.Path(sys.argv.pop(1))
+HELPER = "Contents/Library/LoginItems/BriselHelper.app"
+TOOLCHAIN = """\
+set(CMAKE_SYSTEM_NAME Darwin)
+set(CMAKE_SYSTEM_VERSION 20)
+set(CMAKE_OSX_SYSROOT "{folder}/sdk")
+set(CMAKE_CXX_COMPILER "{tools}/clang++")
+set(CMAKE_CXX_COMPILER_FORCED TRUE)
+set(CMAKE_CXX_COMPILER_ID_RUN TRUE)
+set(CMAKE_CXX_COMPILER_ID AppleClang)
+set(CMAKE_CXX_COMPILER_VERSION 13.0)
+set(CMAKE_CXX_STANDARD_COMPUTED_DEFAULT 98)
+set(CMAKE_AR "{tools}/ar")
+set(CMAKE_RANLIB "{tools}/ranlib")
+set(CMAKE_INSTALL_NAME_TOOL "{tools}/install_name_tool")
+"""
+
+
+def preset():
+    """The settings of the preset for a Mac, without where it puts the programs."""
+    text = (ROOT / "CMakePresets.json").read_text(encoding="utf-8")
+    found = re.search(r'"name": "macos".*?"cacheVariables": \{(.*?)\}', text, re.DOTALL).group(1)
+    pairs = re.findall(r'"(\w+)": "([^"]*)"', found)
+    return [f"-D{name}={value}" for name, value in pairs if name != "CMAKE_RUNTIME_OUTPUT_DIRECTORY"]
+
+
+def copy_sources(folder):
+    """A tree that a test may change."""
+    folder.mkdir()
+    for name in ("cmake", "helper", "packaging", "resources", "scripts", "simulator", "src"):
+        shutil.copytree(ROOT / name, folder / name)
+    shutil.copy(ROOT / "CMakeLists.txt", folder)
+
+
+class Build(unittest.TestCase):
+    """One tree is built once; what a test changes it changes back or builds."""
+
+    @classmethod
+    def setUpClass(cls):
+        scratch = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(scratch.cleanup)
+        cls.folder = pathlib.Path(scratch.name)
+        cls.mac = FakeMac(cls.folder / "mac")
+        cls.sources = cls.folder / "sources"
+        copy_sources(cls.sources)
+        (cls.folder / "sdk").mkdir()
+        (cls.folder / "toolchain.cmake").write_text(
+            TOOLCHAIN.format(folder=cls.folder, tools=cls.mac.tools))
+        cls.application = cls.folder / "build/bin/Brisel.app"
+        cls.must(cls.configure("build"))
+        cls.must(cls.build())
+
+    @classmethod
+    def must(cls, result):
+        if result.returncode != 0:
+            raise AssertionError(result.stdout)
+
+    @classmethod
+    def configure(cls, tree, *words, **environment):
+        return cls.mac.run(
+            "cmake", "-S", cls.sources, "-B", cls.folder / tree, "-G", "Ninja",
+            f"-DCMAKE_TOOLCHAIN_FILE={cls.folder}/toolchain.cmake", *preset(), *words, **environment)
+
+    @classmethod
+    def build(cls, target="brisel-application"):
+        return cls.mac.run("cmake", "--build", cls.folder / "build", "--target", target)
+
+    def seals(self):
+        """Which bundle is signed or verified, in which order."""
+        return [("verify " if "--verify" in call else "sign ") + pathlib.Path(call).name
+                for call in self.mac.calls("codesign")]
+
+    def change(self, name):
+        """Makes the source newer than the seal, which may take a tick of the file system's clock."""
+        source = self.sources / name
+        sealed = (self.folder / "build/packaging/Brisel.sealed").stat().st_mtime_ns
+        while True:
+            source.write_text(source.read_text(encoding="utf-8") + "\n", encoding="utf-8")
+            if source.stat().st_mtime_ns > sealed:
+                return
+            time.sleep(0.01)
+
+
+SEALED = ["sign BriselHelper.app", "sign Brisel.app", "verify Brisel.app"]
+
+
+class Bundle(Build):
+    def test_has_the_files_that_the_property_lists_and_the_program_need(self):
+        found = {str(file.relative_to(self.application))
+                 for file in self.application.rglob("*") if file.is_file()}
+        for wanted in ("Contents/Info.plist", "Contents/MacOS/Brisel",
+                       "Contents/Resources/MainMenu.nib", "Contents/Resources/Brisel.icns",
+                       "Contents/Resources/brisel-status-red-dark@2x.png",
+                       "Contents/Resources/zh-Hans.lproj/Localizable.strings",
+                       HELPER + "/Contents/Info.plist", HELPER + "/Contents/MacOS/BriselHelper"):
+            with self.subTest(wanted=wanted):
+                self.assertIn(wanted, found)
+
+    def test_has_the_property_lists_of_either_application(self):
+        for bundle, identifier in ((self.application, "org.brisel.Brisel"),
+                                   (self.application / HELPER, "org.brisel.BriselHelper")):
+            plist = plistlib.loads((bundle / "Contents/Info.plist").read_bytes())
+            self.assertEqual(plist["CFBundleIdentifier"], identifier)
+
+    def test_is_sealed_from_the_inside_out_whenever_something_in_it_changes(self):
+        for changed in ("resources/macos/Credits.rtf", "resources/macos/MainMenu.xib",
+                        "resources/ja.lproj/Localizable.strings", "helper/main.mm",
+                        "resources/macos/Info.plist.in", "src/app/StatusIcon.cpp",
+                        "resources/macos/Brisel.entitlements"):
+            with self.subTest(changed=changed):
+                self.change(changed)
+                self.must(self.build())
+                self.assertEqual(self.seals(), SEALED)
+
+    def test_is_left_alone_when_nothing_changes(self):
+        self.must(self.build())
+        self.assertEqual(self.seals(), [])
+
+    def test_is_not_sealed_with_a_file_that_nobody_knows(self):
+        stranger = self.application / "Contents/Resources/old.png"
+        stranger.write_text("")
+        self.change("helper/main.mm")
+        result = self.build()
+        stranger.unlink()
+        self.assertNotEqual(result.returncode, 0)
+        self.assertIn("Contents/Resources/old.png", result.stdout)
+        self.assertEqual(self.seals(), [])
+        self.must(self.build())
+
+    def test_comes_in_a_disk_image(self):
+        self.must(self.build("brisel-disk-image"))
+        images = list((self.folder / "build/packages").glob("Brisel-*.dmg"))
+        self.assertEqual(len(images), 1)
+        self.assertEqual(images[0].read_text().split(), ["Applications", "Brisel.app"])
+
+
+class Compilation(Build):
+    def links(self):
+        self.change("src/platform/Format.cpp")
+        self.change("helper/EnclosingApplication.cpp")
+        self.must(self.build())
+        return {program: call for call in self.mac.calls("clang++")
+                for program in ("Brisel", "BriselHelper") if f"/MacOS/{program} " in call + " "}
+
+    def test_is_for_both_processors_and_the_oldest_system(self):
+        for program, call in self.links().items():
+            with self.subTest(program=program):
+                self.assertIn("-arch arm64 -arch x86_64", call)
+                self.assertIn("-mmacosx-version-min=11.0", call)
+
+    def test_links_every_framework_that_the_program_asks(self):
+        for framework in ("AppKit", "DiskArbitration", "Security", "ServiceManagement",
+                          "UserNotifications"):
+            with self.subTest(framework=framework):
+                self.assertIn(f"-framework {framework}", self.links()["Brisel"])
+
+    def test_tells_the_linker_nothing_that_only_others_know(self):
+        for program, call in self.links().items():
+            with self.subTest(program=program):
+                self.assertNotIn("-z,", call)
+
+
+class Surroundings(Build):
+    def test_without_xcode_are_told(self):
+        result = self.configure("without-xcode", MISSING="ibtool")
+        self.assertNotEqual(result.returncode, 0)
+        self.assertIn("ibtool is missing", result.stdout)
+
+    def test_without_xcode_can_build_the_rest(self):
+        self.must(self.configure("the-rest", "-DBRISEL_MAC_APPLICATION=OFF", MISSING="ibtool"))
+
+
+if __name__ == "__main__":
+    unittest.main()
