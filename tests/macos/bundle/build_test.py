@@ -38,7 +38,7 @@ def preset():
     text = (ROOT / "CMakePresets.json").read_text(encoding="utf-8")
     found = re.search(r'"name": "macos".*?"cacheVariables": \{(.*?)\}', text, re.DOTALL).group(1)
     pairs = re.findall(r'"(\w+)": "([^"]*)"', found)
-    return [f"-D{name}={value}" for name, value in pairs if name != "CMAKE_RUNTIME_OUTPUT_DIRECTORY"]
+    return [f"-D{name}={value}" for name, value in pairs if not name.endswith("OUTPUT_DIRECTORY")]
 
 
 def copy_sources(folder):
@@ -75,8 +75,8 @@ class Build(unittest.TestCase):
     @classmethod
     def configure(cls, tree, *words, **environment):
         return cls.mac.run(
-            "cmake", "-S", cls.sources, "-B", cls.folder / tree, "-G", "Ninja",
-            f"-DCMAKE_TOOLCHAIN_FILE={cls.folder}/toolchain.cmake", *preset(), *words, **environment)
+            "cmake", "-S", cls.sources, "-B", cls.folder / tree, "-G", "Ninja", *preset(),
+            f"-DCMAKE_TOOLCHAIN_FILE={cls.folder}/toolchain.cmake", *words, **environment)
 
     @classmethod
     def build(cls, target="brisel-application"):
@@ -88,7 +88,7 @@ class Build(unittest.TestCase):
                 for call in self.mac.calls("codesign")]
 
     def change(self, name):
-        """Makes the source newer than the seal, which may take a tick of the file system's clock."""
+        """Makes the source newer than the seal, which may take a tick of the clock."""
         source = self.sources / name
         sealed = (self.folder / "build/packaging/Brisel.sealed").stat().st_mtime_ns
         while True:

@@ -103,8 +103,8 @@ class Exports(unittest.TestCase):
         cls.scratch = tempfile.TemporaryDirectory()
         cls.addClassCleanup(cls.scratch.cleanup)
         cls.folder = pathlib.Path(cls.scratch.name)
-        subprocess.run([sys.executable, "-B", str(ROOT / "scripts/export-images"), cls.scratch.name],
-                       check=True)
+        script = str(ROOT / "scripts/export-images")
+        subprocess.run([sys.executable, "-B", script, cls.scratch.name], check=True)
 
     def test_are_the_status_images_that_are_kept(self):
         made = {file.name for file in (self.folder / "images").iterdir()}
