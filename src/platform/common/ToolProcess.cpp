@@ -25,11 +25,24 @@ StartedTool failure() {
     return {.status = errAuthorizationToolExecuteFailure, .communicationsPipe = nullptr};
 }
 
+// Two sockets that no program started from here inherits; false when there are none.
+bool makeSockets(std::array<int, 2>& ends) {
+#ifdef SOCK_CLOEXEC
+    return socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) == 0;
+#else
+    // Not every system can ask for that in one call.
+    if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0) return false;
+    for (const int end : ends)
+        fcntl(end, F_SETFD, FD_CLOEXEC);
+    return true;
+#endif
+}
+
 }  // namespace
 
 StartedTool startToolProcess(const std::function<void()>& body) {
     std::array<int, 2> ends{};
-    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return failure();
+    if (!makeSockets(ends)) return failure();
     const auto [ours, theirs] = ends;
     const pid_t child = fork();
     if (child == 0) runChild(theirs, body);

@@ -44,6 +44,12 @@ TEST_F(ToolProcess, OwnsItsSocket) {
     EXPECT_EQ(WEXITSTATUS(waitForTheEnd()), 3);
 }
 
+TEST_F(ToolProcess, HandsItsSocketToNoOtherProgram) {
+    run([] { _exit(0); });
+    EXPECT_NE(fcntl(fileno(stream), F_GETFD) & FD_CLOEXEC, 0);
+    EXPECT_EQ(waitForTheEnd(), 0);
+}
+
 TEST_F(ToolProcess, HasItsOutputOnTheSocket) {
     run([] { _exit(write(STDOUT_FILENO, "hello", 5) == 5 ? 0 : 1); });
     EXPECT_EQ(waitForTheEnd(), 0);
