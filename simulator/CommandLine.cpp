@@ -1,0 +1,96 @@
+// A program that runs scenarios.
+// SPDX-License-Identifier: MIT
+#include "simulator/CommandLine.h"
+
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <string_view>
+
+namespace brisel::simulator {
+
+namespace {
+
+constexpr int BadUse = 2;
+
+void printLine(const std::string& line) {
+    std::cout << line << '\n';
+}
+
+Scenario::Manner basicManner(const CommandLine& commandLine) {
+    Scenario::Manner manner;
+    if (commandLine.makeProgram) manner.makeProgram = commandLine.makeProgram;
+    return manner;
+}
+
+int runScript(const CommandLine& commandLine, std::istream& stream) {
+    StreamSource source(stream);
+    auto manner = basicManner(commandLine);
+    manner.badCommandHandler = [](const Scenario::BadCommand& bad) {
+        std::cout.flush();
+        std::cerr << "line " << bad.line << ": " << bad.complaint << '\n';
+    };
+    // Whoever writes commands into a pipe may want to read what came of each before the next.
+    manner.afterCommand = [] { std::cout.flush(); };
+    Scenario scenario(source, printLine, manner);
+    commandLine.scenarioMade(scenario);
+    return scenario.run() ? 0 : BadUse;
+}
+
+int runInTerminal(const CommandLine& commandLine) {
+    std::cout << "Brisel on a simulated Mac. Type \"start\", then for example\n"
+                 "  attach disk4s1 kind=ntfs name=Data path=/Volumes/Data\n"
+                 "\"help\" lists all commands, \"quit\" ends.\n"
+              << std::flush;
+    TerminalSource source;
+    auto manner = basicManner(commandLine);
+    manner.onBadCommand = Scenario::OnBadCommand::GoOn;
+    manner.echo = Scenario::Echo::Nothing;
+    // What the program did must be seen before the next prompt, which another library writes.
+    const auto show = [](const std::string& line) { std::cout << line << std::endl; };
+    manner.badCommandHandler = [show](const Scenario::BadCommand& bad) { show(bad.complaint); };
+    Scenario scenario(source, show, manner);
+    commandLine.scenarioMade(scenario);
+    scenario.run();
+    return 0;
+}
+
+int runFile(const CommandLine& commandLine, const char* path) {
+    std::ifstream file(path);
+    if (!file || std::filesystem::is_directory(path)) {
+        std::cerr << commandLine.name << ": cannot read " << path << '\n';
+        return BadUse;
+    }
+    return runScript(commandLine, file);
+}
+
+std::string usage(const CommandLine& commandLine) {
+    return "usage: " + commandLine.name + " [FILE]\n" + commandLine.purpose + '\n';
+}
+
+}  // namespace
+
+int run(const CommandLine& commandLine, int argumentCount, char** arguments) {
+    // Whoever started this may ignore ended children; the program must hear of its own.
+    std::signal(SIGCHLD, SIG_DFL);
+    std::ios::sync_with_stdio(false);
+    if (argumentCount == 1) {
+        return isatty(STDIN_FILENO) != 0 ? runInTerminal(commandLine)
+                                         : runScript(commandLine, std::cin);
+    }
+    const std::string_view argument = arguments[1];
+    if (argumentCount == 2 && (argument == "--help" || argument == "-h")) {
+        std::cout << usage(commandLine);
+        return 0;
+    }
+    if (argumentCount != 2) {
+        std::cerr << usage(commandLine);
+        return BadUse;
+    }
+    return runFile(commandLine, arguments[1]);
+}
+
+}  // namespace brisel::simulator
