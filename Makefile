@@ -1,5 +1,5 @@
 # What there is to do with the sources; CMakePresets.json says how each build is made.
-.PHONY: all run test bench bench-desktop package coverage tidy format clean
+.PHONY: all run test macos-stage bench bench-desktop package coverage tidy format clean
 
 all:
 	scripts/install-needs build
@@ -25,6 +25,15 @@ test:
 	ctest --preset tsan
 	@reason=$$(scripts/real-volumes-possible) || echo "Skipping the tests on real volumes: $$reason"
 	ctest --preset asan -j 2
+
+# The Mac application's own sources on stand-in frameworks, to be driven by scenarios. They run under
+# the sanitizers, as in the tests.
+macos-stage:
+	scripts/install-needs test
+	cmake --preset asan
+	cmake --build --preset asan --target brisel-macos-stage
+	mkdir -p build/bin
+	ln -sf ../asan/bin/brisel-macos-stage build/bin/brisel-macos-stage
 
 bench:
 	scripts/install-needs bench
@@ -59,7 +68,7 @@ tidy:
 	scripts/tidy
 
 format:
-	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+	git ls-files '*.h' '*.cpp' '*.mm' | xargs clang-format -i
 
 clean:
 	rm -rf build
