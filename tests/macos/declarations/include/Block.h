@@ -1,0 +1,20 @@
+// Keeping blocks.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking the adapters without a Mac.
+#pragma once
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+void* _Block_copy(const void* block);
+void _Block_release(const void* block);
+
+#ifdef __cplusplus
+}
+#endif
+
+// The type of the result is the block's own.
+#define Block_copy(...) ((__typeof(__VA_ARGS__))_Block_copy((const void*)(__VA_ARGS__)))
+#define Block_release(...) _Block_release((const void*)(__VA_ARGS__))

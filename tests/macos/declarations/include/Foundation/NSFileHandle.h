@@ -1,0 +1,26 @@
+// Reading and writing by descriptor.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking the adapters without a Mac.
+#pragma once
+
+#import <Foundation/NSData.h>
+#import <Foundation/NSError.h>
+#import <Foundation/NSObject.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@interface NSFileHandle : NSObject <NSSecureCoding>
+- (instancetype)initWithFileDescriptor:(int)descriptor
+                        closeOnDealloc:(BOOL)close NS_DESIGNATED_INITIALIZER;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
+- (instancetype)initWithFileDescriptor:(int)descriptor;
+@property(readonly) int fileDescriptor;
+- (nullable NSData*)readDataToEndOfFileAndReturnError:(out NSError**)error
+    API_AVAILABLE(macos(10.15));
+// Raises an exception where reading fails.
+- (NSData*)readDataToEndOfFile API_DEPRECATED_WITH_REPLACEMENT("readDataToEndOfFileAndReturnError:",
+                                                               macos(10.0, API_TO_BE_DEPRECATED));
+@end
+
+NS_ASSUME_NONNULL_END

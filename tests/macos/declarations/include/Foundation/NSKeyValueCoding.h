@@ -1,0 +1,19 @@
+// Reading and writing by key.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking the adapters without a Mac.
+#pragma once
+
+#import <Foundation/NSDictionary.h>
+#import <Foundation/NSObject.h>
+#import <Foundation/NSString.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@interface NSObject (NSKeyValueCoding)
+- (nullable id)valueForKey:(NSString*)key;
+- (void)setValue:(nullable id)value forKey:(NSString*)key;
+- (nullable id)valueForKeyPath:(NSString*)keyPath;
+@end
+
+NS_ASSUME_NONNULL_END

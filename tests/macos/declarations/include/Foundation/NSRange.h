@@ -1,0 +1,21 @@
+// Ranges of places in a text or an array.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking the adapters without a Mac.
+#pragma once
+
+#import <Foundation/NSObjCRuntime.h>
+
+CF_EXTERN_C_BEGIN
+
+typedef struct _NSRange {
+    NSUInteger location;
+    NSUInteger length;
+} NSRange;
+
+static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length) {
+    NSRange range = {location, length};
+    return range;
+}
+
+CF_EXTERN_C_END

@@ -1,0 +1,38 @@
+// The types of the Objective-C language.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking the adapters without a Mac.
+#pragma once
+
+#include <stdbool.h>
+
+typedef struct objc_class* Class;
+typedef struct objc_object* id;
+typedef struct objc_selector* SEL;
+// Called only through a pointer cast to the method's own type.
+typedef void (*IMP)(void);
+
+// A signed char on Intel, a bool on Apple silicon: the compiler knows.
+#if __OBJC_BOOL_IS_BOOL
+typedef bool BOOL;
+#else
+typedef signed char BOOL;
+#endif
+
+#define YES __objc_yes
+#define NO __objc_no
+#define Nil __null
+#define nil __null
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+const char* _Nonnull sel_getName(SEL _Nonnull selector);
+SEL _Nonnull sel_registerName(const char* _Nonnull name);
+const char* _Nonnull object_getClassName(id _Nullable object);
+BOOL sel_isMapped(SEL _Nonnull selector);
+
+#ifdef __cplusplus
+}
+#endif
