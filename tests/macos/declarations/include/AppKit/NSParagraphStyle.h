@@ -1,0 +1,20 @@
+// How paragraphs look.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking the adapters without a Mac.
+#pragma once
+
+#import <AppKit/NSText.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@interface NSParagraphStyle : NSObject <NSCopying, NSMutableCopying, NSSecureCoding>
+@property(class, readonly, copy) NSParagraphStyle* defaultParagraphStyle;
+@property(readonly) NSTextAlignment alignment;
+@end
+
+@interface NSMutableParagraphStyle : NSParagraphStyle
+@property NSTextAlignment alignment;
+@end
+
+NS_ASSUME_NONNULL_END

@@ -1,0 +1,18 @@
+// What can answer to events.
+// SPDX-License-Identifier: MIT
+//
+// The project's own declarations of a public interface, for checking the adapters without a Mac.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@interface NSResponder : NSObject <NSCoding>
+- (instancetype)init NS_DESIGNATED_INITIALIZER;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
+@property(nullable, assign) NSResponder* nextResponder;
+@property(readonly) BOOL acceptsFirstResponder;
+@end
+
+NS_ASSUME_NONNULL_END
