@@ -4,6 +4,7 @@
 // The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
+#include <AssertMacros.h>
 #include <CoreFoundation/CoreFoundation.h>
 #import <Foundation/NSAppleScript.h>
 #import <Foundation/NSArray.h>

@@ -1,5 +1,5 @@
-// The signed numbers of stdint.h, which the C library at hand includes from here: 64 bits are a
-// long long. SPDX-License-Identifier: MIT
+// The signed numbers of stdint.h, which takes them from here: 64 bits are a long long.
+// SPDX-License-Identifier: MIT
 //
 // The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once

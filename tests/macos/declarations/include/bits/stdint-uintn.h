@@ -1,4 +1,4 @@
-// The unsigned numbers of stdint.h, which the C library at hand includes from here.
+// The unsigned numbers of stdint.h, which takes them from here.
 // SPDX-License-Identifier: MIT
 //
 // The project's own declarations of a public interface, for checking the adapters without a Mac.
