@@ -1,5 +1,5 @@
-// A program that runs scenarios: what it is given on its command line, and what it says and
-// returns. SPDX-License-Identifier: MIT
+// A program that runs scenarios, as its command line tells it.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <functional>

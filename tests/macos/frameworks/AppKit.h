@@ -1,5 +1,4 @@
-// Stand-ins for what GNUstep's AppKit lacks: the status item with its button and appearance, titles
-// with attributes, and an alert that the scenario answers.
+// Stand-ins for what GNUstep's AppKit lacks.
 // SPDX-License-Identifier: MIT
 #pragma once
 

@@ -1,5 +1,4 @@
-// Objects of the stand-in frameworks that are counted, so that a lost or an over-released reference
-// shows.
+// Counted objects of the stand-in frameworks: a lost reference shows.
 // SPDX-License-Identifier: MIT
 #pragma once
 

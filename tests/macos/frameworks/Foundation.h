@@ -1,5 +1,4 @@
-// Stand-ins for the classes of Foundation that reach into the user's own files, which are the
-// simulated Mac's here, and for what GNUstep lacks.
+// Stand-ins for what Foundation lacks here, or what would touch the user's own files.
 // SPDX-License-Identifier: MIT
 #pragma once
 

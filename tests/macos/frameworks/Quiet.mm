@@ -1,5 +1,5 @@
-// Keeps GNUstep's part of a desktop out of the way: no helper processes, no files in anybody's
-// home. SPDX-License-Identifier: MIT
+// Keeps GNUstep's helper processes away, and its files out of anybody's home.
+// SPDX-License-Identifier: MIT
 #import <AppKit/AppKit.h>
 #include <pwd.h>
 #include <unistd.h>
