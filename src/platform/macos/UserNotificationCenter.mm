@@ -96,12 +96,14 @@ void UserNotificationCenter::requestAuthorization(unsigned options, Authorizatio
         handler(false, noCenter());
         return;
     }
+    // Runs later, perhaps on a thread of the system's own. It is no part of the work below, for
+    // there it would refer to this function's handler and not have its own.
+    void (^const completion)(BOOL, NSError*) = ^(BOOL granted, NSError* error) {
+      handler(granted, optionalError(error));
+    };
     const bool asked = guarded("ask whether notifications are allowed", [&] {
-        // The handler may be called on a thread of the system's own.
         [center requestAuthorizationWithOptions:static_cast<UNAuthorizationOptions>(options)
-                              completionHandler:^(BOOL granted, NSError* error) {
-                                handler(granted, optionalError(error));
-                              }];
+                              completionHandler:completion];
     });
     if (!asked) handler(false, noCenter());
 }
@@ -114,11 +116,12 @@ void UserNotificationCenter::addNotificationRequest(const NotificationRequest& r
             handler(noCenter());
             return;
         }
+        // As above.
+        void (^const completion)(NSError*) = ^(NSError* error) {
+          handler(optionalError(error));
+        };
         const bool added = guarded("show a notification", [&] {
-            [center addNotificationRequest:requestFrom(request)
-                     withCompletionHandler:^(NSError* error) {
-                       handler(optionalError(error));
-                     }];
+            [center addNotificationRequest:requestFrom(request) withCompletionHandler:completion];
         });
         if (!added) handler(noCenter());
     }
