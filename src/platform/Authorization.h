@@ -17,8 +17,9 @@ inline constexpr OSStatus errAuthorizationCanceled = -60006;
 inline constexpr OSStatus errAuthorizationInternal = -60008;
 inline constexpr OSStatus errAuthorizationToolExecuteFailure = -60031;
 
-/// The right to run a tool as an administrator (AuthorizationTags.h).
-inline constexpr const char* kAuthorizationRightExecute = "system.privilege.admin";
+/// The right to run a tool as an administrator. Not by Apple's name, which is a macro
+/// (AuthorizationTags.h).
+inline constexpr const char* AuthorizationRightExecute = "system.privilege.admin";
 
 inline constexpr std::uint32_t kAuthorizationFlagDefaults = 0;
 inline constexpr std::uint32_t kAuthorizationFlagInteractionAllowed = 1U << 0U;

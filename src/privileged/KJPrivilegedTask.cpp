@@ -64,7 +64,7 @@ platform::OSStatus KJPrivilegedTask::launch() {
     if (const auto status = statusWithoutLaunch()) return *status;
     auto& service = platform_.authorization;
     const RightsItemValue value(launchPath_.c_str());
-    const platform::AuthorizationItem right{.name = platform::kAuthorizationRightExecute,
+    const platform::AuthorizationItem right{.name = platform::AuthorizationRightExecute,
                                             .valueLength = value.length(),
                                             .value = value.bytes(),
                                             .flags = 0};

@@ -30,6 +30,12 @@ using brisel::macos::MenuBarApplication;
     MenuBarApplication::shared().delegate().applicationWillTerminate();
 }
 
+// There is no window to restore; newer systems ask.
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)application {
+    (void)application;
+    return YES;
+}
+
 - (IBAction)toggleStartAtLogin:(id)sender {
     (void)sender;
     MenuBarApplication::shared().delegate().toggleStartAtLogin();

@@ -28,8 +28,11 @@ std::string nameOf(DADiskRef disk) {
 
 // Called by Disk Arbitration, as the other callbacks here: what they call throws nothing.
 void report(DADiskRef disk, void* context) noexcept {
-    const auto& callback = *static_cast<const DiskCallback*>(context);
-    callback({.bsdName = nameOf(disk), .reported = descriptionOf(disk)});
+    // Nobody else frees what is made here for now: the main loop does that after the user's events.
+    @autoreleasepool {
+        const auto& callback = *static_cast<const DiskCallback*>(context);
+        callback({.bsdName = nameOf(disk), .reported = descriptionOf(disk)});
+    }
 }
 
 /// A request that waits for its completion.
@@ -50,12 +53,14 @@ bool cameOutReadOnly(DADiskRef disk) {
 
 // The disk and the dissenter are the framework's, and gone after the call.
 void complete(DADiskRef disk, DADissenterRef dissenter, void* context) noexcept {
-    const std::unique_ptr<const Request> request(static_cast<const Request*>(context));
-    auto refusal = dissenterFrom(dissenter);
-    if (!refusal && request->mustBeWritable && cameOutReadOnly(disk)) {
-        refusal = Dissenter{.status = DAReturn::NotWritable};
+    @autoreleasepool {
+        const std::unique_ptr<const Request> request(static_cast<const Request*>(context));
+        auto refusal = dissenterFrom(dissenter);
+        if (!refusal && request->mustBeWritable && cameOutReadOnly(disk)) {
+            refusal = Dissenter{.status = DAReturn::NotWritable};
+        }
+        request->completion({.bsdName = nameOf(disk), .reported = std::nullopt}, refusal);
     }
-    request->completion({.bsdName = nameOf(disk), .reported = std::nullopt}, refusal);
 }
 
 void refuse(const Disk& disk, const Completion& completion) {

@@ -4,6 +4,8 @@
 
 #import <Foundation/Foundation.h>
 
+#include <cstring>
+
 #include "platform/macos/Exceptions.h"
 #include "platform/macos/Owned.h"
 #include "platform/macos/Text.h"
@@ -31,7 +33,8 @@
 
 - (BOOL)fileManager:(NSFileManager*)fileManager shouldRemoveItemAtPath:(NSString*)path {
     (void)fileManager;
-    return [path isEqualToString:folder_];
+    // As the file system has them: the same text may come back composed in another way.
+    return std::strcmp([path fileSystemRepresentation], [folder_ fileSystemRepresentation]) == 0;
 }
 
 @end
@@ -99,7 +102,8 @@ std::optional<Error> FileManager::removeItem(const std::string& path) {
         [manager.get() setDelegate:guard.get()];
         const bool removed = [manager.get() removeItemAtPath:folder error:error];
         [manager.get() setDelegate:nil];
-        return removed;
+        // What the guard did not let go may yet count as deleted.
+        return removed && ![manager.get() fileExistsAtPath:folder];
     });
 }
 

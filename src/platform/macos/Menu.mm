@@ -52,8 +52,11 @@ SEL actionFor(std::string_view name) {
 }
 
 void alignTitle(NSMenuItem* menuItem, int alignment) {
+    // Without a font of its own such a title would not look like the others.
+    NSDictionary<NSAttributedStringKey, id>* const attributes =
+        [NSDictionary dictionaryWithObject:[NSFont menuFontOfSize:0] forKey:NSFontAttributeName];
     const Owned<NSMutableAttributedString*> title(
-        [[NSMutableAttributedString alloc] initWithString:[menuItem title]]);
+        [[NSMutableAttributedString alloc] initWithString:[menuItem title] attributes:attributes]);
     [title.get() setAlignment:static_cast<NSTextAlignment>(alignment)
                         range:NSMakeRange(0, [title.get() length])];
     [menuItem setAttributedTitle:title.get()];

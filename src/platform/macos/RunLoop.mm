@@ -20,9 +20,11 @@
 
 - (void)timerFired:(NSTimer*)timer {
     (void)timer;
-    // A copy: what it calls may end the timer.
-    const auto call = fire;
-    call();
+    @autoreleasepool {
+        // A copy: what it calls may end the timer.
+        const auto call = fire;
+        call();
+    }
 }
 
 @end

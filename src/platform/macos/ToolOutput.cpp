@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/macos/ToolOutput.h"
 
+#include <fcntl.h>
 #include <pthread.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -71,6 +72,8 @@ std::FILE* neverFull(std::FILE* toolOutput) {
     // A socket like the system's own, not a pipe: its owner is 0 as well.
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0) return toolOutput;
+    for (const int end : ends)
+        fcntl(end, F_SETFD, FD_CLOEXEC);
     std::FILE* const stream = fdopen(ends[0], "r+");
     if (stream != nullptr && startCarrying(toolOutput, ends[1])) return stream;
     if (stream != nullptr) {

@@ -19,7 +19,11 @@ bool isApplicationInBundle() {
 
 /// Nil where the system would raise an exception instead.
 UNUserNotificationCenter* currentCenter() {
-    return isApplicationInBundle() ? [UNUserNotificationCenter currentNotificationCenter] : nil;
+    if (!isApplicationInBundle()) return nil;
+    UNUserNotificationCenter* center = nil;
+    guarded("reach the notification center",
+            [&] { center = [UNUserNotificationCenter currentNotificationCenter]; });
+    return center;
 }
 
 Error noCenter() {

@@ -32,8 +32,9 @@ void print(std::string_view output) {
     const auto sent = send(STDOUT_FILENO, output.data(), output.size(), MSG_DONTWAIT);
     if (sent > 0) output.remove_prefix(static_cast<std::size_t>(sent));
     if (output.empty() || fork() != 0) return;
+    std::signal(SIGPIPE, SIG_IGN);
     while (!output.empty()) {
-        const auto more = send(STDOUT_FILENO, output.data(), output.size(), MSG_NOSIGNAL);
+        const auto more = send(STDOUT_FILENO, output.data(), output.size(), 0);
         if (more <= 0) break;
         output.remove_prefix(static_cast<std::size_t>(more));
     }

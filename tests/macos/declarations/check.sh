@@ -47,7 +47,7 @@ if ! command -v "$compiler" >/dev/null; then
 fi
 if [ $# -eq 0 ]; then
     # With the Mac's own, what asks more of a system than the standard library.
-    set -- $(find src/platform/macos src/entry/macos helper src/platform/common src/privileged \
+    set -- $(find src/platform/macos src/entry/macos helper src/platform/common src/platform/simulated src/privileged \
         -name '*.mm' -o -name '*.cpp' | sort)
 fi
 if [ $# -eq 0 ]; then

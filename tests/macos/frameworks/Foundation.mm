@@ -46,6 +46,10 @@ NSError* errorFrom(const platform::Error& error) {
     return manager;
 }
 
+- (BOOL)fileExistsAtPath:(NSString*)path {
+    return world().fileSystem.hasFolder(stdString(path)) ? YES : NO;
+}
+
 - (NSString*)currentDirectoryPath {
     return nsString(world().fileManager.currentDirectoryPath());
 }

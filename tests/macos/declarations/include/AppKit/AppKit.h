@@ -12,6 +12,7 @@
 #import <AppKit/NSButton.h>
 #import <AppKit/NSCell.h>
 #import <AppKit/NSControl.h>
+#import <AppKit/NSFont.h>
 #import <AppKit/NSImage.h>
 #import <AppKit/NSMenu.h>
 #import <AppKit/NSMenuItem.h>

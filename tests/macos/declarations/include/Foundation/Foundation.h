@@ -37,3 +37,4 @@
 #import <Foundation/NSUserDefaults.h>
 #import <Foundation/NSUUID.h>
 #import <Foundation/NSValue.h>
+#include <Security/Security.h>
