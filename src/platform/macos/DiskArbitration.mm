@@ -30,7 +30,8 @@ std::string nameOf(DADiskRef disk) {
 void report(DADiskRef disk, void* context) noexcept {
     // Nobody else frees what is made here for now: the main loop does that after the user's events.
     @autoreleasepool {
-        const auto& callback = *static_cast<const DiskCallback*>(context);
+        // A copy: what it calls may end the registration.
+        const auto callback = *static_cast<const DiskCallback*>(context);
         callback({.bsdName = nameOf(disk), .reported = descriptionOf(disk)});
     }
 }
