@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/Menu.h"
+#include "platform/Subscription.h"
 
 @interface StageAppearance : NSObject {
   @private
@@ -32,6 +33,7 @@
     NSMenu* menu_;
     StageStatusBarButton* button_;
     BOOL menuChanged_;
+    brisel::platform::Subscription observation_;
 }
 - (void)setMenu:(NSMenu*)menu;
 - (NSMenu*)menu;

@@ -6,9 +6,11 @@
 #include <string>
 
 #include "platform/macos/Text.h"
+#include "tests/macos/frameworks/Raising.h"
 #include "tests/macos/frameworks/World.h"
 
 using brisel::tests::macos::itemsOf;
+using brisel::tests::macos::raiseIfTold;
 using brisel::platform::macos::nsString;
 using brisel::platform::macos::stdString;
 using brisel::tests::macos::world;
@@ -97,9 +99,7 @@ StageStatusItem* statusItem() {
     self = [super init];
     StageStatusBarButton* const button = [[StageStatusBarButton alloc] init];
     button_ = button;
-    // As long as the process: so is the item.
-    static auto& observation = *new platform::Subscription();
-    observation = world().statusItem.observeEffectiveAppearance([button] {
+    observation_ = world().statusItem.observeEffectiveAppearance([button] {
         [button willChangeValueForKey:@"effectiveAppearance"];
         [button didChangeValueForKey:@"effectiveAppearance"];
     });
@@ -107,6 +107,9 @@ StageStatusItem* statusItem() {
 }
 
 - (void)dealloc {
+    if (itemInMenuBar == self) itemInMenuBar = nil;
+    [[NSNotificationCenter defaultCenter] removeObserver:self];
+    observation_.reset();
     [menu_ release];
     [button_ release];
     [super dealloc];
@@ -166,6 +169,7 @@ StageStatusItem* statusItem() {
 }
 
 - (BOOL)openURL:(NSURL*)url {
+    raiseIfTold();
     std::optional<platform::FileURL> folder;
     if (url != nil) folder = platform::FileURL(stdString([url path]));
     world().workspace.openURL(folder);
@@ -194,6 +198,7 @@ StageStatusItem* statusItem() {
 @implementation StageAlert
 
 - (NSInteger)runModal {
+    raiseIfTold();
     platform::AlertContent content{.messageText = stdString([self messageText]),
                                    .informativeText = stdString([self informativeText]),
                                    .buttons = {}};
@@ -219,17 +224,20 @@ bool launched = false;
 }
 
 - (void)activateIgnoringOtherApps:(BOOL)flag {
+    raiseIfTold();
     if (flag && launched) world().application.activateIgnoringOtherApps();
     [super activateIgnoringOtherApps:flag];
 }
 
 - (void)orderFrontStandardAboutPanel:(id)sender {
+    raiseIfTold();
     world().application.orderFrontStandardAboutPanel();
     [super orderFrontStandardAboutPanel:sender];
 }
 
 - (void)terminate:(id)sender {
     (void)sender;
+    raiseIfTold();
     world().transcript.write("terminate");
     // GNUstep's own does nothing before the main loop runs; the Mac's always ends the process.
     [[NSNotificationCenter defaultCenter]

@@ -101,7 +101,9 @@ void CFRelease(CFTypeRef reference) {
 }
 
 CFTypeID CFGetTypeID(CFTypeRef reference) {
-    if ([object(reference) isKindOfClass:[NSNumber class]]) return Boolean_;
+    // Other numbers are of a type of their own.
+    const Class boolean = [[NSNumber numberWithBool:YES] class];
+    if ([object(reference) isKindOfClass:boolean]) return Boolean_;
     if ([object(reference) isKindOfClass:[NSString class]]) return String;
     if ([object(reference) isKindOfClass:[NSURL class]]) return URL;
     if ([object(reference) isKindOfClass:[StageUUID class]]) return UUID;

@@ -32,6 +32,8 @@ bool sessionFails = false;
 bool refusalsCompleteAtOnce = false;
 /// The session that is scheduled, and the mode: the program has one.
 NSString* scheduledMode = nil;
+/// What takes the place of values in descriptions.
+NSMutableDictionary* toldValues = nil;
 
 }  // namespace
 
@@ -99,7 +101,8 @@ NSDictionary* dictionaryFrom(const DiskDescription& description) {
         set(kDADiskDescriptionVolumeNameKey, nsString(*value));
     }
     if (const auto& value = description.mediaBSDName) {
-        set(kDADiskDescriptionMediaBSDNameKey, nsString(*value));
+        // A volume that is on no device has no such name.
+        if (!value->empty()) set(kDADiskDescriptionMediaBSDNameKey, nsString(*value));
     }
     if (const auto& value = description.volumePath) {
         set(kDADiskDescriptionVolumePathKey, [NSURL fileURLWithPath:nsString(value->path())
@@ -111,6 +114,7 @@ NSDictionary* dictionaryFrom(const DiskDescription& description) {
     if (const auto& value = description.volumeUUID) {
         set(kDADiskDescriptionVolumeUUIDKey, uuid(*value));
     }
+    if (toldValues != nil) [values addEntriesFromDictionary:toldValues];
     return values;
 }
 
@@ -180,6 +184,21 @@ void failNextSession() {
 
 void completeRefusalsAtOnce() {
     refusalsCompleteAtOnce = true;
+}
+
+void describeWith(CFStringRef key, id value) {
+    if (toldValues == nil) toldValues = [[NSMutableDictionary alloc] init];
+    [toldValues setObject:value forKey:(__bridge NSString*)key];
+}
+
+void resetDiskArbitration() {
+    sessionFails = false;
+    refusalsCompleteAtOnce = false;
+    DESTROY(scheduledMode);
+    DESTROY(toldValues);
+    if (kDADiskDescriptionMatchVolumeMountable == nullptr) return;
+    CFRelease(kDADiskDescriptionMatchVolumeMountable);
+    kDADiskDescriptionMatchVolumeMountable = nullptr;
 }
 
 }  // namespace brisel::tests::macos
@@ -257,7 +276,8 @@ DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef /*allocator*/, DASessionRef 
 }
 
 const char* DADiskGetBSDName(DADiskRef disk) {
-    return disk != nullptr ? diskOf(disk).bsdName.c_str() : nullptr;
+    const bool named = disk != nullptr && !diskOf(disk).bsdName.empty();
+    return named ? diskOf(disk).bsdName.c_str() : nullptr;
 }
 
 CFDictionaryRef DADiskCopyDescription(DADiskRef disk) {

@@ -2,14 +2,18 @@
 // SPDX-License-Identifier: MIT
 #import "tests/macos/frameworks/Foundation.h"
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "platform/macos/Text.h"
+#include "tests/macos/frameworks/Raising.h"
 #include "tests/macos/frameworks/World.h"
 
 using brisel::tests::macos::complain;
+using brisel::tests::macos::orders;
+using brisel::tests::macos::raiseIfTold;
 using brisel::platform::macos::nsString;
 using brisel::platform::macos::stdString;
 using brisel::tests::macos::world;
@@ -26,6 +30,24 @@ NSError* errorFrom(const platform::Error& error) {
                      forKey:NSLocalizedFailureReasonErrorKey];
     }
     return [NSError errorWithDomain:NSCocoaErrorDomain code:512 userInfo:userInfo];
+}
+
+// What GNUstep's own does not: asks the delegate for each item, from the top, and leaves out what
+// must stay.
+std::optional<platform::Error> deleteReally(NSFileManager* manager, const std::string& path) {
+    const id delegate = [manager delegate];
+    if (delegate != nil && ![delegate fileManager:manager shouldRemoveItemAtPath:nsString(path)])
+        return std::nullopt;
+    std::error_code failure;
+    if (std::filesystem::is_directory(std::filesystem::symlink_status(path))) {
+        for (const auto& entry : std::filesystem::directory_iterator(path)) {
+            if (auto error = deleteReally(manager, entry.path())) return error;
+        }
+    }
+    std::filesystem::remove(path, failure);
+    if (!failure) return std::nullopt;
+    return platform::Error{.localizedDescription = "It could not be removed.",
+                           .localizedFailureReason = failure.message()};
 }
 
 }  // namespace
@@ -63,6 +85,7 @@ NSError* errorFrom(const platform::Error& error) {
                              options:(NSDirectoryEnumerationOptions)mask
                                error:(NSError**)error {
     (void)keys;
+    raiseIfTold();
     if (mask != 0) complain("a listing that leaves something out");
     const auto listing =
         world().fileManager.contentsOfDirectory(platform::FileURL(stdString([url path])));
@@ -81,6 +104,7 @@ NSError* errorFrom(const platform::Error& error) {
                      attributes:(NSDictionary*)attributes
                           error:(NSError**)error {
     (void)attributes;
+    raiseIfTold();
     if (!intermediates) complain("a folder without those above it");
     const auto failure = world().fileManager.createDirectory(stdString(path));
     if (failure && error != nullptr) *error = errorFrom(*failure);
@@ -88,7 +112,10 @@ NSError* errorFrom(const platform::Error& error) {
 }
 
 - (BOOL)removeItemAtPath:(NSString*)path error:(NSError**)error {
-    const auto failure = world().fileManager.removeItem(stdString(path));
+    raiseIfTold();
+    const auto failure = orders().deletesRealFiles
+                             ? deleteReally(self, stdString(path))
+                             : world().fileManager.removeItem(stdString(path));
     if (failure && error != nullptr) *error = errorFrom(*failure);
     return failure ? NO : YES;
 }
@@ -200,6 +227,7 @@ NSError* errorFrom(const platform::Error& error) {
 }
 
 - (NSAppleEventDescriptor*)executeAndReturnError:(NSDictionary<NSString*, id>**)error {
+    raiseIfTold();
     if (![NSThread isMainThread]) complain("a script outside the main thread");
     const auto result = world().scriptRunner.execute(stdString(source_));
     if (!result.error) return [[[NSAppleEventDescriptor alloc] init] autorelease];

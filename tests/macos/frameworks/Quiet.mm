@@ -4,7 +4,9 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 // The categories replace methods of the classes they are for.
 #pragma clang diagnostic ignored "-Wobjc-protocol-method-implementation"
@@ -62,6 +64,18 @@
 }
 
 @end
+
+// Its own lines; the program's go elsewhere. Without a window manager it cannot look at the frames
+// of windows, and says so fifteen times.
+static void logOfGNUstep(NSString* line) {
+    const std::string_view text = [line UTF8String];
+    if (text.find("Failed to determine offsets for style") != std::string_view::npos) return;
+    std::fprintf(stderr, "%s", text.data());
+}
+
+__attribute__((constructor)) static void quietenLog() {
+    _NSLog_printf_handler = &logOfGNUstep;
+}
 
 // GNUstep looks for the home in the list of accounts, not in the environment; this program's own
 // definition comes before the system's.

@@ -4,12 +4,16 @@
 
 #include <fcntl.h>
 #import <Security/Authorization.h>
+#include <unistd.h>
 
 #include <string_view>
+#include <vector>
 
+#include "platform/common/ToolProcess.h"
 #include "tests/macos/frameworks/World.h"
 
 using brisel::tests::macos::complain;
+using brisel::tests::macos::orders;
 using brisel::tests::macos::world;
 namespace platform = brisel::platform;
 
@@ -17,6 +21,14 @@ namespace {
 
 platform::AuthorizationRef worldReference(AuthorizationRef authorization) {
     return reinterpret_cast<platform::AuthorizationRef>(authorization);
+}
+
+platform::StartedTool startReally(const char* path, char* const* arguments) {
+    std::vector<char*> words{const_cast<char*>(path)};
+    for (; *arguments != nullptr; ++arguments)
+        words.push_back(*arguments);
+    words.push_back(nullptr);
+    return platform::common::startToolProcess([&] { execv(path, words.data()); });
 }
 
 }  // namespace
@@ -51,8 +63,10 @@ OSStatus AuthorizationExecuteWithPrivileges(AuthorizationRef authorization, cons
                                             AuthorizationFlags options, char* const* arguments,
                                             FILE** communicationsPipe) {
     if (options != kAuthorizationFlagDefaults) return errAuthorizationInvalidFlags;
-    const auto started = world().authorization.executeWithPrivileges(
-        worldReference(authorization), pathToTool, options, arguments);
+    const auto started = orders().startsRealTools
+                             ? startReally(pathToTool, arguments)
+                             : world().authorization.executeWithPrivileges(
+                                   worldReference(authorization), pathToTool, options, arguments);
     // The real one sets no owner of the descriptor.
     if (started.communicationsPipe != nullptr) {
         fcntl(fileno(started.communicationsPipe), F_SETOWN, 0);

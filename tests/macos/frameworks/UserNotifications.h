@@ -14,5 +14,7 @@ namespace brisel::tests::macos {
 /// calls `delivered` there.
 void deliverResponse(const platform::NotificationResponse& response,
                      const std::function<void()>& delivered);
+/// The same on this thread, with user information of any kind.
+void deliverResponseHere(const platform::NotificationResponse& response, NSDictionary* userInfo);
 
 }  // namespace brisel::tests::macos

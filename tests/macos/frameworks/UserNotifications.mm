@@ -8,11 +8,13 @@
 #include <utility>
 
 #include "platform/macos/Text.h"
+#include "tests/macos/frameworks/Raising.h"
 #include "tests/macos/frameworks/UserNotificationValues.h"
 #include "tests/macos/frameworks/World.h"
 
 using brisel::platform::macos::nsString;
 using brisel::platform::macos::stdString;
+using brisel::tests::macos::raiseIfTold;
 using brisel::tests::macos::world;
 namespace platform = brisel::platform;
 
@@ -63,10 +65,15 @@ platform::NotificationRequest valueOf(UNNotificationRequest* request) {
             .delay = std::chrono::round<std::chrono::milliseconds>(delay)};
 }
 
-UNNotificationResponse* responseFrom(const platform::NotificationResponse& response) {
+NSDictionary* dictionaryFrom(const platform::UserInfo& values) {
     NSMutableDictionary* const userInfo = [NSMutableDictionary dictionary];
-    for (const auto& [key, value] : response.userInfo)
+    for (const auto& [key, value] : values)
         [userInfo setObject:nsString(value) forKey:nsString(key)];
+    return userInfo;
+}
+
+UNNotificationResponse* responseFrom(const platform::NotificationResponse& response,
+                                     NSDictionary* userInfo) {
     UNMutableNotificationContent* const content =
         [[[UNMutableNotificationContent alloc] init] autorelease];
     [content setUserInfo:userInfo];
@@ -98,7 +105,8 @@ platform::NotificationCategory valueOf(UNNotificationCategory* category) {
 @dynamic delegate;
 
 + (UNUserNotificationCenter*)currentNotificationCenter {
-    if ([[NSBundle mainBundle] bundleIdentifier] == nil) {
+    NSBundle* const bundle = [NSBundle mainBundle];
+    if ([bundle bundleIdentifier] == nil || ![[bundle bundlePath] hasSuffix:@".app"]) {
         [NSException raise:NSInternalInconsistencyException
                     format:@"bundleProxyForCurrentProcess is nil"];
     }
@@ -111,10 +119,12 @@ platform::NotificationCategory valueOf(UNNotificationCategory* category) {
 }
 
 - (void)setDelegate:(id<UNUserNotificationCenterDelegate>)delegate {
+    raiseIfTold();
     centerDelegate = delegate;
 }
 
 - (void)setNotificationCategories:(NSSet<UNNotificationCategory*>*)categories {
+    raiseIfTold();
     std::vector<platform::NotificationCategory> values;
     for (UNNotificationCategory* category in categories)
         values.push_back(valueOf(category));
@@ -123,6 +133,7 @@ platform::NotificationCategory valueOf(UNNotificationCategory* category) {
 
 - (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options
                       completionHandler:(void (^)(BOOL, NSError*))completionHandler {
+    raiseIfTold();
     world().userNotificationCenter.requestAuthorization(
         static_cast<unsigned>(options), [=](bool granted, const auto& error) {
             runOnAnotherThread([&] { completionHandler(granted ? YES : NO, errorFrom(error)); });
@@ -131,6 +142,7 @@ platform::NotificationCategory valueOf(UNNotificationCategory* category) {
 
 - (void)addNotificationRequest:(UNNotificationRequest*)request
          withCompletionHandler:(void (^)(NSError*))completionHandler {
+    raiseIfTold();
     world().userNotificationCenter.addNotificationRequest(valueOf(request), [=](const auto& error) {
         if (completionHandler == nil) return;
         runOnAnotherThread([&] { completionHandler(errorFrom(error)); });
@@ -144,13 +156,17 @@ namespace brisel::tests::macos {
 void deliverResponse(const platform::NotificationResponse& response,
                      const std::function<void()>& delivered) {
     runOnAnotherThread([&] {
-        [centerDelegate userNotificationCenter:[UNUserNotificationCenter currentNotificationCenter]
-                didReceiveNotificationResponse:responseFrom(response)
-                         withCompletionHandler:^{
-                           complain("a response was answered");
-                         }];
+        deliverResponseHere(response, dictionaryFrom(response.userInfo));
         delivered();
     });
+}
+
+void deliverResponseHere(const platform::NotificationResponse& response, NSDictionary* userInfo) {
+    [centerDelegate userNotificationCenter:[UNUserNotificationCenter currentNotificationCenter]
+            didReceiveNotificationResponse:responseFrom(response, userInfo)
+                     withCompletionHandler:^{
+                       complain("a response was answered");
+                     }];
 }
 
 }  // namespace brisel::tests::macos

@@ -11,6 +11,7 @@ namespace brisel::tests::macos {
 namespace {
 
 platform::simulated::Mac* currentWorld = nullptr;
+Orders currentOrders;
 
 struct Complaints {
     std::mutex mutex;
@@ -31,6 +32,11 @@ platform::simulated::Mac& world() {
 
 void setWorld(platform::simulated::Mac& mac) {
     currentWorld = &mac;
+    currentOrders = {};
+}
+
+Orders& orders() {
+    return currentOrders;
 }
 
 void complain(const std::string& complaint) {

@@ -11,8 +11,19 @@ namespace brisel::tests::macos {
 
 /// There must be one.
 platform::simulated::Mac& world();
-/// `mac` must outlive all that acts on it.
+/// `mac` must outlive all that acts on it. Orders given before are forgotten.
 void setWorld(platform::simulated::Mac& mac);
+
+/// What the stand-ins do otherwise than they would by themselves.
+struct Orders {
+    /// File managers delete what is on the real file system, not in the simulated Mac's.
+    bool deletesRealFiles = false;
+    /// The tools that are started are the system's own, not the simulated Mac's.
+    bool startsRealTools = false;
+    /// The next call of those that can raise an exception does so.
+    bool nextCallRaises = false;
+};
+Orders& orders();
 
 /// Notes a use of a framework that the real one punishes in a way that nobody would see at once.
 void complain(const std::string& complaint);

@@ -1,9 +1,6 @@
 // brisel-macos-stage: the Mac application on stand-in frameworks, driven by a scenario.
 // SPDX-License-Identifier: MIT
-#import <Foundation/Foundation.h>
-
 #include <memory>
-#include <string_view>
 
 #include "simulator/CommandLine.h"
 #include "tests/macos/frameworks/World.h"
@@ -14,18 +11,9 @@ namespace {
 namespace simulator = brisel::simulator;
 using brisel::tests::macos::StagedProgram;
 
-// GNUstep's own lines; the program's go elsewhere. Without a window manager it cannot look at the
-// frames of windows, and says so fifteen times.
-void logOfGNUstep(NSString* line) {
-    const std::string_view text = [line UTF8String];
-    if (text.find("Failed to determine offsets for style") != std::string_view::npos) return;
-    std::fprintf(stderr, "%s", text.data());
-}
-
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    _NSLog_printf_handler = &logOfGNUstep;
     StagedProgram* program = nullptr;
     const simulator::CommandLine commandLine{
         .name = "brisel-macos-stage",

@@ -1,0 +1,81 @@
+// The running application.
+// SPDX-License-Identifier: MIT
+#include "platform/macos/Application.h"
+
+#include <cstdio>
+
+#import "tests/macos/adapters/AdapterTest.h"
+
+/// Tells on standard error of the application's end.
+@interface EndTeller : NSObject
+@end
+
+@implementation EndTeller
+
+- (void)applicationWillTerminate:(NSNotification*)notification {
+    (void)notification;
+    std::fputs("will terminate", stderr);
+}
+
+@end
+
+namespace brisel::tests::macos {
+namespace {
+
+using testing::ElementsAre;
+
+class ApplicationAdapter : public AdapterTest {
+  protected:
+    ApplicationAdapter() {
+        [StageApplication sharedApplication];
+        // What it does while it is launched is not the program's doing.
+        static const bool launched = ([NSApp finishLaunching], true);
+        linesBefore = launched ? lines().size() : 0;
+    }
+
+    platform::macos::Application adapter;
+    std::size_t linesBefore = 0;
+
+    [[nodiscard]] std::vector<std::string> newLines() const {
+        return {lines().begin() + static_cast<std::ptrdiff_t>(linesBefore), lines().end()};
+    }
+};
+
+TEST_F(ApplicationAdapter, ComesToTheFront) {
+    adapter.activateIgnoringOtherApps();
+    EXPECT_THAT(newLines(), ElementsAre("activate"));
+}
+
+TEST_F(ApplicationAdapter, ShowsTheAboutPanel) {
+    adapter.orderFrontStandardAboutPanel();
+    EXPECT_THAT(newLines(), ElementsAre("about"));
+}
+
+TEST_F(ApplicationAdapter, LetsNoExceptionOut) {
+    orders().nextCallRaises = true;
+    adapter.activateIgnoringOtherApps();
+    orders().nextCallRaises = true;
+    adapter.orderFrontStandardAboutPanel();
+    orders().nextCallRaises = true;
+    adapter.terminate();
+    EXPECT_THAT(logLines(),
+                ElementsAre("The system refused to come to the front: raised as told",
+                            "The system refused to show the About panel: raised as told",
+                            "The system refused to terminate: raised as told"));
+}
+
+using ApplicationAdapterDeathTest = ApplicationAdapter;
+
+TEST_F(ApplicationAdapterDeathTest, TerminatesAfterTellingItsDelegate) {
+    EXPECT_EXIT(
+        {
+            EndTeller* const delegate = [[EndTeller alloc] init];
+            [NSApp setDelegate:static_cast<id>(delegate)];
+            adapter.terminate();
+            std::_Exit(3);
+        },
+        testing::ExitedWithCode(0), "will terminate");
+}
+
+}  // namespace
+}  // namespace brisel::tests::macos

@@ -1,0 +1,73 @@
+// The Disk Arbitration adapter on the stand-in, for several files of tests.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#import "platform/macos/DiskArbitration.h"
+#import "tests/macos/adapters/AdapterTest.h"
+#import "tests/macos/frameworks/DiskArbitration.h"
+
+namespace brisel::tests::macos {
+
+class DiskArbitrationAdapter : public AdapterTest {
+  protected:
+    ~DiskArbitrationAdapter() override {
+        appeared.reset();
+        disappeared.reset();
+        // The real session stays scheduled until the process ends.
+        resetDiskArbitration();
+    }
+
+    platform::macos::DiskArbitration adapter;
+    platform::Subscription appeared;
+    platform::Subscription disappeared;
+    /// `+ DEVICE` and `- DEVICE` for each report.
+    std::vector<std::string> reports;
+    platform::DiskDescription lastDescription;
+    /// What each completion was given.
+    std::vector<std::string> completed;
+    std::vector<std::optional<std::uint32_t>> statuses;
+
+    void registerCallbacks() {
+        appeared = adapter.registerDiskAppearedCallback([this](const platform::Disk& disk) {
+            reports.push_back("+ " + disk.bsdName);
+            lastDescription = disk.reported.value_or(platform::DiskDescription());
+        });
+        disappeared = adapter.registerDiskDisappearedCallback(
+            [this](const platform::Disk& disk) { reports.push_back("- " + disk.bsdName); });
+    }
+    void start() {
+        adapter.createSession();
+        registerCallbacks();
+        adapter.scheduleWithRunLoop();
+    }
+    static void deliver() {
+        while (deliverDiskEvents(NSDefaultRunLoopMode)) {
+        }
+    }
+
+    platform::DiskArbitration::Completion noted() {
+        return [this](const platform::Disk& disk, const auto& dissenter) {
+            completed.push_back(disk.bsdName);
+            statuses.push_back(dissenter ? std::optional(dissenter->status) : std::nullopt);
+        };
+    }
+    void unmount(const std::string& device) {
+        adapter.unmount({.bsdName = device, .reported = {}}, noted());
+    }
+    void mount(const std::string& device, const std::vector<std::string>& arguments = {}) {
+        adapter.mountWithArguments({.bsdName = device, .reported = {}}, arguments, noted());
+    }
+    platform::DiskDescription description(const std::string& device) {
+        return adapter.copyDescription({.bsdName = device, .reported = {}});
+    }
+
+    void attach(const std::string& device) { mac.diskArbitration.attach(device, ntfsDisk("Data")); }
+    /// A disk that is there and not mounted.
+    void attachUnmounted(const std::string& device) {
+        auto disk = ntfsDisk("Data");
+        disk.description.volumePath.reset();
+        mac.diskArbitration.attach(device, disk);
+    }
+};
+
+}  // namespace brisel::tests::macos

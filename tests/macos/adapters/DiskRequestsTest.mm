@@ -1,0 +1,185 @@
+// Disk Arbitration's requests: unmounting, and mounting with arguments.
+// SPDX-License-Identifier: MIT
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/statvfs.h>
+
+#include <fstream>
+
+#include "platform/macos/MountFlags.h"
+#include "tests/linux/TemporaryFolder.h"
+#import "tests/macos/adapters/DiskArbitrationAdapter.h"
+
+namespace brisel::tests::macos {
+namespace {
+
+using platform::DAReturn;
+using platform::FileURL;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class DiskRequests : public DiskArbitrationAdapter {
+  protected:
+    DiskRequests() { start(); }
+};
+
+TEST_F(DiskRequests, CompleteOnTheMainLoopWithoutADissenter) {
+    attach("disk4s1");
+    unmount("disk4s1");
+    EXPECT_THAT(completed, IsEmpty());
+    deliver();
+    EXPECT_THAT(completed, ElementsAre("disk4s1"));
+    EXPECT_FALSE(description("disk4s1").volumePath);
+    mount("disk4s1");
+    deliver();
+    EXPECT_EQ(description("disk4s1").volumePath, FileURL("/Volumes/Data"));
+    EXPECT_THAT(statuses, ElementsAre(std::nullopt, std::nullopt));
+}
+
+TEST_F(DiskRequests, DoNotCompleteWhileAnAlertIsOpen) {
+    attachUnmounted("disk4s1");
+    deliver();
+    mount("disk4s1");
+    EXPECT_FALSE(deliverDiskEvents(NSModalPanelRunLoopMode));
+    EXPECT_THAT(completed, IsEmpty());
+    deliver();
+    EXPECT_THAT(completed, ElementsAre("disk4s1"));
+}
+
+TEST_F(DiskRequests, MayCompleteBeforeTheCallReturns) {
+    completeRefusalsAtOnce();
+    attach("disk4s1");
+    unmount("disk4s1");
+    EXPECT_THAT(statuses, ElementsAre(DAReturn::NotPrivileged));
+    mount("disk4s1", {"rw"});
+    EXPECT_THAT(statuses, ElementsAre(DAReturn::NotPrivileged, DAReturn::NotPrivileged));
+    EXPECT_THAT(completed, ElementsAre("disk4s1", "disk4s1"));
+}
+
+TEST_F(DiskRequests, HandOnEveryStatusToTheBit) {
+    // The second is that of a volume that is in use: an error of the system below, wrapped.
+    const std::vector<std::uint32_t> values{DAReturn::Busy, 0x0000C010, DAReturn::Unsupported,
+                                            0xFFFFFFFF,     0x80000000, 1};
+    attach("disk4s1");
+    deliver();
+    for (const auto value : values) {
+        mac.diskArbitration.refuseUnmount("disk4s1", value);
+        unmount("disk4s1");
+        deliver();
+        mac.diskArbitration.refuseMount("disk4s1", value);
+        mount("disk4s1", {"rw"});
+        deliver();
+        EXPECT_THAT(statuses, ElementsAre(value, value));
+        statuses.clear();
+    }
+}
+
+TEST_F(DiskRequests, MountWithAllArgumentsInOrder) {
+    attachUnmounted("disk4s1");
+    mount("disk4s1", {"rw", "auto", "nobrowse", "Größe=💾", "noowners", "", "noatime"});
+    EXPECT_THAT(lines(), ElementsAre("mount: disk4s1 rw auto nobrowse Größe=💾 noowners  noatime"));
+}
+
+TEST_F(DiskRequests, MountWithoutArguments) {
+    attachUnmounted("disk4s1");
+    mount("disk4s1");
+    EXPECT_THAT(lines(), ElementsAre("mount: disk4s1"));
+}
+
+TEST_F(DiskRequests, ForWhichNoDiskIsMadeAreRefusedAtOnce) {
+    attach("disk4s1");
+    mac.faults.failCall(mac.faults.calls() + 1);
+    unmount("disk4s1");
+    mac.faults.failCall(mac.faults.calls() + 1);
+    mount("disk4s1", {"rw"});
+    EXPECT_THAT(statuses, ElementsAre(DAReturn::Error, DAReturn::Error));
+    EXPECT_THAT(lines(), IsEmpty());
+}
+
+TEST_F(DiskRequests, LetGoOfTheirCompletionsWhenTheyHaveCalledThem) {
+    attach("disk4s1");
+    const auto held = std::make_shared<int>();
+    adapter.unmount({.bsdName = "disk4s1", .reported = {}}, [held](const auto&, const auto&) {});
+    EXPECT_GT(held.use_count(), 1);
+    deliver();
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(DiskRequests, AreForgottenByNobodyWhenTheyTakeLong) {
+    attach("disk4s1");
+    mac.diskArbitration.hold();
+    unmount("disk4s1");
+    deliver();
+    EXPECT_THAT(completed, IsEmpty());
+    mac.diskArbitration.release();
+    deliver();
+    EXPECT_THAT(completed, ElementsAre("disk4s1"));
+}
+
+bool isReadOnly(const std::string& path) {
+    struct statvfs fileSystem {};
+    return statvfs(path.c_str(), &fileSystem) == 0 && (fileSystem.f_flag & ST_RDONLY) != 0;
+}
+
+/// A folder on which something is mounted read-only: one of the machine's own, or one made in a
+/// view of the mounts that is this process's alone. Empty where neither can be had.
+std::string readOnlyFolder(const std::string& spare) {
+    std::ifstream mounts("/proc/self/mounts");
+    for (std::string device, path, rest; mounts >> device >> path && std::getline(mounts, rest);) {
+        if (isReadOnly(path)) return path;
+    }
+    const bool alone = unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0;
+    const bool made = alone && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                      ::mount("none", spare.c_str(), "tmpfs", MS_RDONLY, nullptr) == 0;
+    return made ? spare : "";
+}
+
+class MountedReadOnly : public DiskRequests {
+  protected:
+    TemporaryFolder writable;
+    TemporaryFolder spare;
+    const std::string readOnly = readOnlyFolder(spare.path());
+
+    void SetUp() override {
+        if (readOnly.empty()) GTEST_SKIP() << "nothing can be mounted read-only here";
+        attachUnmounted("disk4s1");
+    }
+    ~MountedReadOnly() override { umount2(spare.path().c_str(), MNT_DETACH); }
+
+    void mountAt(const std::string& path, const std::vector<std::string>& arguments) {
+        NSString* const text = [NSString stringWithUTF8String:path.c_str()];
+        describeWith(kDADiskDescriptionVolumePathKey, [NSURL fileURLWithPath:text isDirectory:YES]);
+        mount("disk4s1", arguments);
+        deliver();
+    }
+};
+
+TEST_F(MountedReadOnly, IsToldFromMountedReadWrite) {
+    EXPECT_TRUE(platform::macos::isMountedReadOnly(readOnly));
+    EXPECT_FALSE(platform::macos::isMountedReadOnly(writable.path()));
+    EXPECT_FALSE(platform::macos::isMountedReadOnly(writable.path() + "/nothing"));
+}
+
+TEST_F(MountedReadOnly, CountsAsRefusedWhereReadWriteWasAskedFor) {
+    mountAt(readOnly, {"auto", "rw", "nobrowse"});
+    EXPECT_THAT(statuses, ElementsAre(DAReturn::NotWritable));
+}
+
+TEST_F(MountedReadOnly, IsFineWhereNothingElseWasAskedFor) {
+    mountAt(readOnly, {"rdonly"});
+    EXPECT_THAT(statuses, ElementsAre(std::nullopt));
+}
+
+TEST_F(MountedReadOnly, DoesNotHideAnotherRefusal) {
+    mac.diskArbitration.refuseMount("disk4s1", DAReturn::Busy);
+    mountAt(readOnly, {"rw"});
+    EXPECT_THAT(statuses, ElementsAre(DAReturn::Busy));
+}
+
+TEST_F(MountedReadOnly, IsNotSaidOfAWritableVolume) {
+    mountAt(writable.path(), {"rw"});
+    EXPECT_THAT(statuses, ElementsAre(std::nullopt));
+}
+
+}  // namespace
+}  // namespace brisel::tests::macos

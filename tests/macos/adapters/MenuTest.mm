@@ -1,0 +1,225 @@
+// The status menu.
+// SPDX-License-Identifier: MIT
+#include "platform/macos/Menu.h"
+
+#include <array>
+
+#import "platform/macos/Text.h"
+#import "tests/macos/adapters/AdapterTest.h"
+
+namespace brisel::tests::macos {
+namespace {
+
+using platform::MenuItem;
+using platform::macos::stdString;
+using testing::ElementsAre;
+
+class MenuAdapter : public AdapterTest {
+  protected:
+    MenuAdapter() {
+        [StageApplication sharedApplication];
+        menu = [[[NSMenu alloc] initWithTitle:@"Status"] autorelease];
+        check = [[[NSMenuItem alloc] initWithTitle:@"Start at Login"
+                                            action:@selector(toggleStartAtLogin:)
+                                     keyEquivalent:@""] autorelease];
+        NSMenuItem* const quit = [[[NSMenuItem alloc] initWithTitle:@"Quit"
+                                                             action:@selector(terminate:)
+                                                      keyEquivalent:@""] autorelease];
+        [menu addItem:check];
+        [menu addItem:quit];
+        adapter->connect(menu, check);
+    }
+
+    NSMenu* menu;
+    NSMenuItem* check;
+    std::optional<platform::macos::Menu> adapter{std::in_place};
+    std::vector<std::string> performed;
+
+    [[nodiscard]] std::vector<std::string> titles() const {
+        std::vector<std::string> found;
+        for (const auto& item : itemsOf(menu))
+            found.push_back(item.separator ? "---" : item.title);
+        return found;
+    }
+    /// An item that notes its being chosen.
+    MenuItem item(const std::string& title, int tag = 1) {
+        MenuItem made;
+        made.tag = tag;
+        made.title = title;
+        made.action = "remountVolume:";
+        made.target = [this](const MenuItem& sender) { performed.push_back(sender.title); };
+        return made;
+    }
+    void choose(NSInteger index) {
+        [menu update];
+        [menu performActionForItemAtIndex:index];
+    }
+};
+
+TEST_F(MenuAdapter, HoldsTheNibsMenu) {
+    EXPECT_EQ(adapter->menu(), menu);
+    EXPECT_EQ(platform::macos::insertedItem(check), nullptr);
+}
+
+TEST_F(MenuAdapter, PutsItemsWhereTheyBelong) {
+    adapter->insertItem(item("b"), 0);
+    adapter->insertItem(item("a"), 0);
+    adapter->insertItem(item("end"), 4);
+    adapter->insertItem(item("c"), 2);
+    EXPECT_THAT(titles(), ElementsAre("a", "b", "c", "Start at Login", "Quit", "end"));
+}
+
+TEST_F(MenuAdapter, GivesItemsAllThatTheyHave) {
+    auto made = item("re-mount Größe 💾", 105);
+    made.alignment = 1;
+    made.checked = true;
+    made.representedObject = std::make_shared<platform::RepresentedObject>();
+    adapter->insertItem(made, 0);
+    const auto seen = itemsOf(menu).front();
+    EXPECT_EQ(seen.tag, 105);
+    EXPECT_EQ(seen.title, "re-mount Größe 💾");
+    EXPECT_EQ(seen.action, "remountVolume:");
+    EXPECT_EQ(seen.alignment, 1);
+    EXPECT_TRUE(seen.checked);
+    EXPECT_EQ(seen.representedObject, made.representedObject);
+    EXPECT_FALSE(seen.separator);
+}
+
+TEST_F(MenuAdapter, AlignsTheWholeTitleAsItStands) {
+    auto made = item("Größe 💾 end");
+    made.alignment = 1;
+    adapter->insertItem(made, 0);
+    NSAttributedString* const title = [[menu itemAtIndex:0] attributedTitle];
+    EXPECT_EQ(stdString([title string]), "Größe 💾 end");
+    NSRange range;
+    [title attribute:NSParagraphStyleAttributeName atIndex:0 effectiveRange:&range];
+    EXPECT_EQ(range.length, [title length]);
+}
+
+TEST_F(MenuAdapter, LeavesItemsWithoutWhatTheyLack) {
+    MenuItem made;
+    made.title = "plain";
+    adapter->insertItem(made, 0);
+    id const seen = [menu itemAtIndex:0];
+    EXPECT_EQ([seen action], nullptr);
+    EXPECT_EQ([seen target], nil);
+    EXPECT_EQ([seen attributedTitle], nil);
+    EXPECT_EQ([seen state], NSControlStateValueOff);
+    EXPECT_EQ([seen tag], 0);
+    [menu update];
+    EXPECT_FALSE([seen isEnabled]);
+}
+
+TEST_F(MenuAdapter, HasSeparatorsWithTags) {
+    MenuItem line;
+    line.separator = true;
+    line.tag = 101;
+    adapter->insertItem(line, 1);
+    EXPECT_THAT(titles(), ElementsAre("Start at Login", "---", "Quit"));
+    EXPECT_EQ([[menu itemAtIndex:1] tag], 101);
+}
+
+TEST_F(MenuAdapter, RemovesByTagsAndKeepsTheOthersInOrder) {
+    for (const int tag : {3, 2, 1, 2, 3, 1})
+        adapter->insertItem(item(std::to_string(tag), tag), 0);
+    const std::array tags{1, 3};
+    adapter->removeItemsWithTags(tags);
+    EXPECT_THAT(titles(), ElementsAre("2", "2", "Start at Login", "Quit"));
+    adapter->removeItemsWithTags({});
+    EXPECT_EQ(titles().size(), 4U);
+}
+
+TEST_F(MenuAdapter, LogsAnIndexThatIsNoneAndGoesOn) {
+    adapter->insertItem(item("too far"), 3);
+    EXPECT_THAT(titles(), ElementsAre("Start at Login", "Quit"));
+    EXPECT_THAT(logLines(), ElementsAre(testing::StartsWith("The system refused to insert")));
+    adapter->insertItem(item("fine"), 2);
+    EXPECT_THAT(titles(), ElementsAre("Start at Login", "Quit", "fine"));
+}
+
+TEST_F(MenuAdapter, ChecksTheItemWithThatActionAlone) {
+    adapter->setChecked("terminate:", true);
+    EXPECT_EQ([check state], NSControlStateValueOff);
+    adapter->setChecked("toggleStartAtLogin:", true);
+    EXPECT_EQ([check state], NSControlStateValueOn);
+    EXPECT_EQ([[menu itemAtIndex:1] state], NSControlStateValueOff);
+    adapter->setChecked("toggleStartAtLogin:", false);
+    EXPECT_EQ([check state], NSControlStateValueOff);
+}
+
+TEST_F(MenuAdapter, CarriesOutTheItemThatIsChosen) {
+    adapter->insertItem(item("first"), 0);
+    adapter->insertItem(item("second"), 1);
+    auto other = item("other");
+    other.action = "unmountVolume:";
+    adapter->insertItem(other, 2);
+    for (const NSInteger index : {2, 0, 1})
+        choose(index);
+    EXPECT_THAT(performed, ElementsAre("other", "first", "second"));
+}
+
+TEST_F(MenuAdapter, HandsTheItemItselfToItsTarget) {
+    auto made = item("a", 105);
+    made.representedObject = std::make_shared<platform::RepresentedObject>();
+    std::optional<MenuItem> sender;
+    made.target = [&](const MenuItem& chosen) { sender = chosen; };
+    adapter->insertItem(made, 0);
+    choose(0);
+    ASSERT_TRUE(sender);
+    EXPECT_EQ(sender->tag, 105);
+    EXPECT_EQ(sender->title, "a");
+    EXPECT_EQ(sender->representedObject, made.representedObject);
+}
+
+TEST_F(MenuAdapter, MayBeRebuiltByTheItemThatIsChosen) {
+    auto made = item("a");
+    made.target = [this, label = std::string("performed ")](const MenuItem& sender) {
+        @autoreleasepool {
+            const std::array tags{1};
+            adapter->removeItemsWithTags(tags);
+        }
+        adapter->insertItem(item("new"), 0);
+        performed.push_back(label + sender.title);
+    };
+    adapter->insertItem(std::move(made), 0);
+    choose(0);
+    choose(0);
+    EXPECT_THAT(performed, ElementsAre("performed a", "new"));
+}
+
+TEST_F(MenuAdapter, DoesNothingForAnItemWithoutATarget) {
+    auto made = item("a");
+    made.target = nullptr;
+    adapter->insertItem(made, 0);
+    choose(0);
+    EXPECT_THAT(logLines(), ElementsAre());
+}
+
+TEST_F(MenuAdapter, LetsGoOfItemsThatAreRemoved) {
+    auto made = item("a");
+    const auto held = made.representedObject = std::make_shared<platform::RepresentedObject>();
+    @autoreleasepool {
+        adapter->insertItem(std::move(made), 0);
+        made = {};
+        EXPECT_GT(held.use_count(), 1);
+        const std::array tags{1};
+        adapter->removeItemsWithTags(tags);
+    }
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(MenuAdapter, KeepsTheTargetsOfItsItemsAlive) {
+    @autoreleasepool {
+        adapter->insertItem(item("a"), 0);
+    }
+    id const inserted = [menu itemAtIndex:0];
+    [menu update];
+    EXPECT_TRUE([inserted isEnabled]);
+    // The menu's own reference is the only one: items have none.
+    EXPECT_EQ([[inserted target] retainCount], 1U);
+    choose(0);
+    EXPECT_THAT(performed, ElementsAre("a"));
+}
+
+}  // namespace
+}  // namespace brisel::tests::macos

@@ -1,0 +1,143 @@
+// The item in the menu bar.
+// SPDX-License-Identifier: MIT
+#include "platform/macos/StatusItem.h"
+
+#import "platform/macos/Text.h"
+#import "tests/macos/adapters/AdapterTest.h"
+
+namespace brisel::tests::macos {
+namespace {
+
+using platform::macos::stdString;
+using testing::ElementsAre;
+
+class StatusItemAdapter : public AdapterTest {
+  protected:
+    platform::macos::Bundle bundle;
+    platform::macos::Menu menu;
+    platform::macos::StatusItem adapter{menu, bundle};
+    int changes = 0;
+
+    void create() { adapter.create(platform::VariableStatusItemLength); }
+    [[nodiscard]] std::string label() {
+        return stdString([[statusItem() button] accessibilityLabel]);
+    }
+    [[nodiscard]] std::string labelOf(const std::string& colour) {
+        adapter.setImage("brisel-status-" + colour + "-dark");
+        return label();
+    }
+    [[nodiscard]] platform::Subscription observe() {
+        return adapter.observeEffectiveAppearance([this] { ++changes; });
+    }
+};
+
+TEST_F(StatusItemAdapter, IsMadeAsWideAsTold) {
+    create();
+    EXPECT_EQ(mac.statusItem.length(), -1.0);
+    EXPECT_NE(statusItem(), nil);
+}
+
+TEST_F(StatusItemAdapter, StaysInTheMenuBarAsLongAsItsOwner) {
+    std::optional<platform::macos::StatusItem> owner(std::in_place, menu, bundle);
+    @autoreleasepool {
+        owner->create(-1);
+    }
+    EXPECT_NE(statusItem(), nil);
+    owner.reset();
+    EXPECT_EQ(statusItem(), nil);
+}
+
+TEST_F(StatusItemAdapter, ShowsTheStatusMenu) {
+    [StageApplication sharedApplication];
+    NSMenu* const nibMenu = [[[NSMenu alloc] initWithTitle:@"Status"] autorelease];
+    menu.connect(nibMenu, nil);
+    create();
+    EXPECT_EQ([statusItem() menu], nil);
+    adapter.showStatusMenu();
+    EXPECT_EQ([statusItem() menu], nibMenu);
+}
+
+TEST_F(StatusItemAdapter, ShowsTheImageOfThatNameOrNone) {
+    create();
+    adapter.setImage("brisel-status-blue-dark");
+    adapter.setImage("brisel-status-pink-dark");
+    adapter.setImage(std::nullopt);
+    EXPECT_THAT(lines(),
+                ElementsAre("icon: brisel-status-blue-dark", "icon: (none)", "icon: (none)"));
+}
+
+TEST_F(StatusItemAdapter, SaysEachStateInWordsOfTheUsersLanguage) {
+    create();
+    EXPECT_EQ(labelOf("grey"), "Brisel: kein NTFS-Volume");
+    EXPECT_EQ(labelOf("green"), "Brisel: ein Volume ist schreibgeschützt");
+    EXPECT_EQ(labelOf("blue"), "Brisel: ein Volume ist beschreibbar");
+    EXPECT_EQ(labelOf("orange"), "Brisel: in Arbeit");
+    EXPECT_EQ(labelOf("red"), "Brisel: etwas ist fehlgeschlagen");
+}
+
+TEST_F(StatusItemAdapter, SaysItsNameAloneOfNoState) {
+    create();
+    EXPECT_EQ(labelOf("pink"), "Brisel");
+    adapter.setImage(std::nullopt);
+    EXPECT_EQ(label(), "Brisel");
+}
+
+TEST_F(StatusItemAdapter, NamesTheAppearanceOfItsButton) {
+    EXPECT_EQ(adapter.effectiveAppearanceName(), "");
+    create();
+    EXPECT_EQ(adapter.effectiveAppearanceName(), "NSAppearanceNameAqua");
+    mac.statusItem.setAppearance("NSAppearanceNameVibrantDark");
+    EXPECT_EQ(adapter.effectiveAppearanceName(), "NSAppearanceNameVibrantDark");
+}
+
+TEST_F(StatusItemAdapter, TellsOfChangesOfTheAppearanceUntilTheObservationEnds) {
+    create();
+    auto observation = observe();
+    EXPECT_EQ(changes, 0);
+    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    EXPECT_EQ(changes, 1);
+    mac.statusItem.setAppearance("NSAppearanceNameAqua");
+    EXPECT_EQ(changes, 2);
+    observation.reset();
+    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    EXPECT_EQ(changes, 2);
+    EXPECT_THAT(logLines(), ElementsAre());
+}
+
+TEST_F(StatusItemAdapter, TellsEachObserver) {
+    create();
+    auto first = observe();
+    const auto second = observe();
+    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    EXPECT_EQ(changes, 2);
+    first.reset();
+    mac.statusItem.setAppearance("NSAppearanceNameAqua");
+    EXPECT_EQ(changes, 3);
+}
+
+TEST_F(StatusItemAdapter, LetsGoOfWhatObservedIt) {
+    create();
+    const auto held = std::make_shared<int>();
+    auto observation = adapter.observeEffectiveAppearance([held] {});
+    EXPECT_GT(held.use_count(), 1);
+    observation.reset();
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(StatusItemAdapter, EndsAnObservationThatNeverBegan) {
+    auto observation = observe();
+    create();
+    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    observation.reset();
+    EXPECT_EQ(changes, 0);
+    EXPECT_THAT(logLines(), ElementsAre());
+}
+
+TEST_F(StatusItemAdapter, DoesNothingBeforeItIsThere) {
+    adapter.setImage("brisel-status-blue-dark");
+    adapter.showStatusMenu();
+    EXPECT_THAT(lines(), ElementsAre());
+}
+
+}  // namespace
+}  // namespace brisel::tests::macos

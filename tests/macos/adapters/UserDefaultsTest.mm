@@ -1,0 +1,67 @@
+// The user's preferences.
+// SPDX-License-Identifier: MIT
+#include "platform/macos/UserDefaults.h"
+
+#import "tests/macos/adapters/AdapterTest.h"
+
+namespace brisel::tests::macos {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pointee;
+using List = std::vector<std::string>;
+
+class UserDefaultsAdapter : public AdapterTest {
+  protected:
+    platform::macos::UserDefaults adapter;
+
+    void setList(List list) {
+        adapter.setStringArray("List", std::make_shared<const List>(std::move(list)));
+    }
+};
+
+TEST_F(UserDefaultsAdapter, AnswersWithWhatIsStoredElseWithWhatIsRegistered) {
+    EXPECT_FALSE(adapter.boolForKey("Yes"));
+    adapter.registerDefaults({{"Yes", true}, {"No", false}});
+    EXPECT_TRUE(adapter.boolForKey("Yes"));
+    EXPECT_FALSE(adapter.boolForKey("No"));
+    adapter.setBool("Yes", false);
+    adapter.setBool("No", true);
+    EXPECT_FALSE(adapter.boolForKey("Yes"));
+    EXPECT_TRUE(adapter.boolForKey("No"));
+}
+
+TEST_F(UserDefaultsAdapter, StoresNothingThatIsOnlyRegistered) {
+    adapter.registerDefaults({{"Yes", true}});
+    EXPECT_THAT(mac.userDefaults.stored(), IsEmpty());
+}
+
+TEST_F(UserDefaultsAdapter, KeepsAListInItsOrder) {
+    setList({"b", "a", "", "Größe 💾", "b"});
+    EXPECT_THAT(adapter.stringArrayForKey("List"),
+                Pointee(ElementsAre("b", "a", "", "Größe 💾", "b")));
+}
+
+TEST_F(UserDefaultsAdapter, TellsAnEmptyListFromNone) {
+    EXPECT_EQ(adapter.stringArrayForKey("List"), nullptr);
+    setList({});
+    EXPECT_THAT(adapter.stringArrayForKey("List"), Pointee(IsEmpty()));
+}
+
+TEST_F(UserDefaultsAdapter, TakesAValueOfAnotherTypeAsAbsent) {
+    mac.userDefaults.store("List", true);
+    mac.userDefaults.store("Flag", std::string("text"));
+    EXPECT_EQ(adapter.stringArrayForKey("List"), nullptr);
+    EXPECT_FALSE(adapter.boolForKey("Flag"));
+}
+
+TEST_F(UserDefaultsAdapter, WritesToDiskWhenTold) {
+    adapter.setBool("Yes", true);
+    const auto before = lines().size();
+    adapter.synchronize();
+    EXPECT_GT(lines().size(), before);
+}
+
+}  // namespace
+}  // namespace brisel::tests::macos

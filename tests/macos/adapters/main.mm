@@ -1,0 +1,50 @@
+// Runs the tests of adapters, in a home and on a display of their own.
+// SPDX-License-Identifier: MIT
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "tests/linux/TemporaryFolder.h"
+#import "tests/macos/adapters/AdapterTest.h"
+
+// GNUstep's libraries drop a little memory at the end; what the adapters lose is counted.
+extern "C" const char* __asan_default_options();
+extern "C" const char* __asan_default_options() {
+    return "detect_leaks=0";
+}
+
+namespace {
+
+// A file with the display's number in it.
+void useDisplay(const char* file) {
+    std::string number;
+    if (file != nullptr && std::ifstream(file) >> number) {
+        setenv("DISPLAY", (":" + number).c_str(), 1);
+    }
+}
+
+// What GNUstep takes for its command line: the user is a German.
+void setArguments() {
+    std::string program = std::filesystem::read_symlink("/proc/self/exe");
+    std::string name = "-NSLanguages";
+    std::string languages = "(de, en)";
+    std::array<char*, 3> words{program.data(), name.data(), languages.data()};
+    [NSProcessInfo initializeWithArguments:words.data()
+                                     count:static_cast<int>(words.size())
+                               environment:environ];
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+    testing::InitGoogleMock(&argumentCount, arguments);
+    const brisel::tests::TemporaryFolder home;
+    for (const char* variable : {"HOME", "TMPDIR"})
+        setenv(variable, home.path().c_str(), 1);
+    useDisplay(getenv("BRISEL_TEST_DISPLAY"));
+    setArguments();
+    return RUN_ALL_TESTS();
+}
