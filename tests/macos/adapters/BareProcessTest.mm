@@ -44,6 +44,15 @@ TEST_F(BareProcess, KnowsAnOlderSystem) {
     EXPECT_FALSE(platform::macos::SystemVersion().isMacOS12OrLater());
 }
 
+TEST_F(BareProcess, IsNoApplicationWhetherItHasAnIdentifierOrNot) {
+#ifdef HAS_IDENTIFIER
+    EXPECT_NE([[NSBundle mainBundle] bundleIdentifier], nil);
+#else
+    EXPECT_EQ([[NSBundle mainBundle] bundleIdentifier], nil);
+#endif
+    EXPECT_FALSE([[[NSBundle mainBundle] bundlePath] hasSuffix:@".app"]);
+}
+
 TEST_F(BareProcess, NeverAsksTheNotificationCenter) {
     std::vector<std::string> errors;
     center.requestAuthorization(6, [&](bool granted, const auto& error) {
