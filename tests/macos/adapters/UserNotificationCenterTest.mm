@@ -64,6 +64,15 @@ TEST_F(Notifications, AreAnsweredOnAnotherThread) {
     EXPECT_NE(thread, std::this_thread::get_id());
 }
 
+TEST_F(Notifications, MayBeAcceptedLongAfterTheyWereHandedOver) {
+    orders().answersWait = true;
+    add();
+    EXPECT_EQ(answers, 0);
+    deliverAnswers();
+    EXPECT_EQ(answers, 1);
+    EXPECT_FALSE(error);
+}
+
 TEST_F(Notifications, ThatAreNotAllowedEndInAnError) {
     mac.userNotificationCenter.refuseNextRequest();
     add();
@@ -124,6 +133,15 @@ TEST_F(Permission, IsAskedForWithItsOptions) {
     EXPECT_TRUE(granted);
     EXPECT_FALSE(error);
     EXPECT_NE(thread, std::this_thread::get_id());
+}
+
+TEST_F(Permission, MayComeLongAfterTheRequest) {
+    orders().answersWait = true;
+    ask(platform::AuthorizationOptionAlert);
+    EXPECT_EQ(answers, 0);
+    deliverAnswers();
+    EXPECT_EQ(answers, 1);
+    EXPECT_TRUE(granted);
 }
 
 TEST_F(Permission, MayBeDenied) {

@@ -10,6 +10,9 @@
 
 namespace brisel::tests::macos {
 
+/// Gives the answers that were told to wait, on a thread of the framework's own.
+void deliverAnswers();
+
 /// Delivers the user's response to the center's delegate, on a thread of the framework's own, and
 /// calls `delivered` there.
 void deliverResponse(const platform::NotificationResponse& response,

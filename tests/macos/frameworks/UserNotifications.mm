@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 #import "tests/macos/frameworks/UserNotifications.h"
 
+#include <Block.h>
+
 #include <functional>
+#include <memory>
 #include <string>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #include "platform/macos/Text.h"
 #include "tests/macos/frameworks/Raising.h"
@@ -14,6 +18,8 @@
 
 using brisel::platform::macos::nsString;
 using brisel::platform::macos::stdString;
+using brisel::tests::macos::complain;
+using brisel::tests::macos::orders;
 using brisel::tests::macos::raiseIfTold;
 using brisel::tests::macos::world;
 namespace platform = brisel::platform;
@@ -34,6 +40,25 @@ void runOnAnotherThread(const std::function<void()>& work) {
         }
         GSUnregisterCurrentThread();
     }).join();
+}
+
+/// Answers that were told to wait.
+std::vector<std::function<void()>> waitingAnswers;
+
+void answer(std::function<void()> work) {
+    if (orders().answersWait) {
+        waitingAnswers.push_back(std::move(work));
+    } else {
+        runOnAnotherThread(work);
+    }
+}
+
+/// A copy of a block, which outlives the call that it came with.
+template <typename Block>
+std::function<Block()> kept(Block block) {
+    const std::shared_ptr<void> copy(reinterpret_cast<void*>(Block_copy(block)),
+                                     [](void* owned) { Block_release(owned); });
+    return [copy] { return reinterpret_cast<Block>(copy.get()); };
 }
 
 NSError* errorFrom(const std::optional<platform::Error>& error) {
@@ -134,24 +159,31 @@ platform::NotificationCategory valueOf(UNNotificationCategory* category) {
 - (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options
                       completionHandler:(void (^)(BOOL, NSError*))completionHandler {
     raiseIfTold();
+    const auto handler = kept(completionHandler);
     world().userNotificationCenter.requestAuthorization(
-        static_cast<unsigned>(options), [=](bool granted, const auto& error) {
-            runOnAnotherThread([&] { completionHandler(granted ? YES : NO, errorFrom(error)); });
+        static_cast<unsigned>(options), [handler](bool granted, const auto& error) {
+            answer([=] { handler()(granted ? YES : NO, errorFrom(error)); });
         });
 }
 
 - (void)addNotificationRequest:(UNNotificationRequest*)request
          withCompletionHandler:(void (^)(NSError*))completionHandler {
     raiseIfTold();
-    world().userNotificationCenter.addNotificationRequest(valueOf(request), [=](const auto& error) {
-        if (completionHandler == nil) return;
-        runOnAnotherThread([&] { completionHandler(errorFrom(error)); });
-    });
+    if (completionHandler == nil) complain("nobody hears whether a notification was accepted");
+    const auto handler = kept(completionHandler);
+    world().userNotificationCenter.addNotificationRequest(
+        valueOf(request),
+        [handler](const auto& error) { answer([=] { handler()(errorFrom(error)); }); });
 }
 
 @end
 
 namespace brisel::tests::macos {
+
+void deliverAnswers() {
+    for (const auto& work : std::exchange(waitingAnswers, {}))
+        runOnAnotherThread(work);
+}
 
 void deliverResponse(const platform::NotificationResponse& response,
                      const std::function<void()>& delivered) {

@@ -22,6 +22,8 @@ struct Orders {
     bool startsRealTools = false;
     /// The next call of those that can raise an exception does so.
     bool nextCallRaises = false;
+    /// The notification center answers when it is told to, not within the call.
+    bool answersWait = false;
 };
 Orders& orders();
 
