@@ -4,8 +4,6 @@
 
 #import <Foundation/Foundation.h>
 
-#include <cstring>
-
 #include "platform/macos/Exceptions.h"
 #include "platform/macos/Owned.h"
 #include "platform/macos/Text.h"
@@ -33,8 +31,9 @@
 
 - (BOOL)fileManager:(NSFileManager*)fileManager shouldRemoveItemAtPath:(NSString*)path {
     (void)fileManager;
-    // As the file system has them: the same text may come back composed in another way.
-    return std::strcmp([path fileSystemRepresentation], [folder_ fileSystemRepresentation]) == 0;
+    // Not by the characters: the system may hand over the path as it is on disk, where an "ö" is an
+    // "o" and a diaeresis.
+    return [path compare:folder_] == NSOrderedSame;
 }
 
 @end

@@ -33,11 +33,12 @@ NSError* errorFrom(const platform::Error& error) {
 }
 
 // What GNUstep's own does not: asks the delegate for each item, from the top, and leaves out what
-// must stay.
+// must stay. The delegate sees paths as they are on disk.
 std::optional<platform::Error> deleteReally(NSFileManager* manager, const std::string& path) {
     const id delegate = [manager delegate];
-    if (delegate != nil && ![delegate fileManager:manager shouldRemoveItemAtPath:nsString(path)])
-        return std::nullopt;
+    NSString* const item = [nsString(path) decomposedStringWithCanonicalMapping];
+    const bool goes = delegate == nil || [delegate fileManager:manager shouldRemoveItemAtPath:item];
+    if (!goes) return std::nullopt;
     std::error_code failure;
     if (std::filesystem::is_directory(std::filesystem::symlink_status(path))) {
         for (const auto& entry : std::filesystem::directory_iterator(path)) {
