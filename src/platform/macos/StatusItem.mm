@@ -25,7 +25,10 @@
     (void)object;
     (void)change;
     (void)context;
-    if ([keyPath isEqualToString:@"effectiveAppearance"]) changed();
+    if (![keyPath isEqualToString:@"effectiveAppearance"]) return;
+    // A copy: what it calls may end the observation.
+    const auto call = changed;
+    call();
 }
 
 @end

@@ -115,6 +115,18 @@ TEST_F(StatusItemAdapter, TellsEachObserver) {
     EXPECT_EQ(changes, 3);
 }
 
+TEST_F(StatusItemAdapter, LetsAnObservationEndItself) {
+    create();
+    platform::Subscription own;
+    own = adapter.observeEffectiveAppearance([&, by = std::make_shared<int>(1)] {
+        own.reset();
+        changes += *by;
+    });
+    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    mac.statusItem.setAppearance("NSAppearanceNameAqua");
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(StatusItemAdapter, LetsGoOfWhatObservedIt) {
     create();
     const auto held = std::make_shared<int>();
