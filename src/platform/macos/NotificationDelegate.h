@@ -4,12 +4,14 @@
 
 #import <UserNotifications/UserNotifications.h>
 
+#include <memory>
+
 #include "platform/UserNotificationCenter.h"
 
 /// The center may deliver a response on any thread; `handler` is called on the main thread, in the
 /// main loop's default mode where the response came elsewhere.
 @interface BriselNotificationDelegate : NSObject <UNUserNotificationCenterDelegate> {
   @public
-    brisel::platform::UserNotificationCenter::ResponseHandler handler;
+    std::shared_ptr<const brisel::platform::UserNotificationCenter::ResponseHandler> handler;
 }
 @end

@@ -59,9 +59,9 @@ UserNotificationCenter::CompletionHandler keptHandler(void (^handler)(void)) {
 @implementation BriselNotificationDelegate
 
 - (void)deliver:(BriselResponse*)delivery {
-    // A copy: what it calls may take the handler away.
+    // Kept meanwhile: what it calls may take the handler away.
     const auto call = handler;
-    if (call) call(delivery->response, delivery->completionHandler);
+    if (call) (*call)(delivery->response, delivery->completionHandler);
 }
 
 - (void)userNotificationCenter:(UNUserNotificationCenter*)center

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #import "platform/macos/UserNotificationCenter.h"
 
+#include <memory>
 #include <utility>
 
 #include "platform/macos/Exceptions.h"
@@ -78,10 +79,14 @@ UserNotificationCenter::UserNotificationCenter()
     : delegate_([[BriselNotificationDelegate alloc] init]) {}
 
 Subscription UserNotificationCenter::setDelegate(ResponseHandler handler) {
-    delegate_.get()->handler = std::move(handler);
+    const auto kept = std::make_shared<const ResponseHandler>(std::move(handler));
+    delegate_.get()->handler = kept;
     guarded("deliver responses to notifications",
             [this] { [currentCenter() setDelegate:delegate_.get()]; });
-    return Subscription([delegate = delegate_.get()] { delegate->handler = nullptr; });
+    return Subscription([delegate = delegate_.get(), kept] {
+        // There may be another one by now.
+        if (delegate->handler == kept) delegate->handler = nullptr;
+    });
 }
 
 void UserNotificationCenter::setNotificationCategories(

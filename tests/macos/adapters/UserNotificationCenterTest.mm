@@ -271,6 +271,14 @@ TEST_F(Responses, OnTheirWayAreDroppedWithTheSubscription) {
     EXPECT_THAT(seen, IsEmpty());
 }
 
+TEST_F(Responses, GoToTheHandlerThatTookThePlaceOfAnother) {
+    delegate = adapter.setDelegate([this](const auto&, const auto&) { ++answers; });
+    listen();
+    deliverHere();
+    EXPECT_EQ(seen.size(), 1U);
+    EXPECT_EQ(answers, 0);
+}
+
 TEST_F(Responses, MayEndTheirOwnSubscription) {
     const auto held = std::make_shared<int>(1);
     delegate = adapter.setDelegate([this, held](const auto&, const auto&) {
