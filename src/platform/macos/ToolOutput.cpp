@@ -57,6 +57,15 @@ void carryOver(std::FILE* toolOutput, int destination) {
     std::fclose(toolOutput);
 }
 
+// Two sockets like the system's own, not a pipe: their owner is 0 as well. No tool that is started
+// later inherits them: it would keep them open for its reader. False when there are none.
+bool makeSockets(std::array<int, 2>& ends) {
+    if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0) return false;
+    for (const int end : ends)
+        fcntl(end, F_SETFD, FD_CLOEXEC);
+    return true;
+}
+
 bool startCarrying(std::FILE* toolOutput, int destination) {
     try {
         std::thread(carryOver, toolOutput, destination).detach();
@@ -69,11 +78,8 @@ bool startCarrying(std::FILE* toolOutput, int destination) {
 }  // namespace
 
 std::FILE* neverFull(std::FILE* toolOutput) {
-    // A socket like the system's own, not a pipe: its owner is 0 as well.
     std::array<int, 2> ends{};
-    if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0) return toolOutput;
-    for (const int end : ends)
-        fcntl(end, F_SETFD, FD_CLOEXEC);
+    if (!makeSockets(ends)) return toolOutput;
     std::FILE* const stream = fdopen(ends[0], "r+");
     if (stream != nullptr && startCarrying(toolOutput, ends[1])) return stream;
     if (stream != nullptr) {

@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/macos/ToolOutput.h"
 
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
+#include <filesystem>
+#include <set>
 #include <thread>
 
 #include "platform/common/ToolProcess.h"
@@ -75,6 +79,30 @@ TEST_F(ToolOutput, IsReadToTheByteWhileTheToolRuns) {
     EXPECT_EQ(exitStatusOfChild(), 0);
 }
 
+TEST_F(ToolOutput, IsReadToTheByteThoughSignalsComeIn) {
+    struct sigaction action {};
+    action.sa_handler = [](int) {};
+    sigaction(SIGUSR1, &action, nullptr);
+    const auto text = muchText();
+    auto* const stream = toolThatSays(text);
+    EXPECT_EQ(exitStatusOfChild(), 0);
+    // From here on they come to the thread that carries the output over.
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGUSR1);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    std::string read;
+    for (int count = 0; count < 20; ++count) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        kill(getpid(), SIGUSR1);
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        std::array<char, 5000> piece{};
+        const auto size = ::read(fileno(stream), piece.data(), piece.size());
+        read.append(piece.data(), static_cast<std::size_t>(size));
+    }
+    EXPECT_TRUE(read + readAll(stream) == text);
+}
+
 TEST_F(ToolOutput, EndsForAToolThatSaysNothing) {
     auto* const stream = toolThatSays("");
     EXPECT_EQ(exitStatusOfChild(), 0);
@@ -107,6 +135,29 @@ TEST_F(ToolOutput, DoesNotChangeHowTheProcessTakesABrokenPipe) {
     pthread_sigmask(SIG_BLOCK, nullptr, &blocked);
     EXPECT_EQ(sigismember(&blocked, SIGPIPE), 0);
     EXPECT_EQ(std::signal(SIGPIPE, SIG_DFL), SIG_DFL);
+}
+
+/// The descriptors that a program started from here would have.
+std::set<std::string> inheritedDescriptors() {
+    std::set<std::string> found;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        const int descriptor = std::stoi(entry.path().filename());
+        const int flags = fcntl(descriptor, F_GETFD);
+        if (flags >= 0 && (flags & FD_CLOEXEC) == 0) found.insert(entry.path().filename());
+    }
+    return found;
+}
+
+TEST_F(ToolOutput, IsKeptFromToolsThatAreStartedLater) {
+    const auto before = inheritedDescriptors();
+    // Runs while the descriptors are looked at.
+    auto* const stream = neverFull(platform::common::startToolProcess([] {
+                                       usleep(200000);
+                                       _exit(0);
+                                   }).communicationsPipe);
+    EXPECT_EQ(inheritedDescriptors(), before);
+    EXPECT_EQ(exitStatusOfChild(), 0);
+    std::fclose(stream);
 }
 
 TEST_F(ToolOutput, IsTheToolsOwnStreamWhereThereAreNoDescriptorsLeft) {
