@@ -181,8 +181,12 @@ TEST_F(MenuAdapter, MayBeRebuiltByTheItemThatIsChosen) {
         adapter->insertItem(item("new"), 0);
         performed.push_back(label + sender.title);
     };
-    adapter->insertItem(std::move(made), 0);
-    choose(0);
+    @autoreleasepool {
+        adapter->insertItem(std::move(made), 0);
+    }
+    // Only the menu keeps the item alive, and it lets go of it meanwhile.
+    const id chosen = [menu itemAtIndex:0];
+    [[chosen target] performSelector:[chosen action] withObject:chosen];
     choose(0);
     EXPECT_THAT(performed, ElementsAre("performed a", "new"));
 }
