@@ -6,9 +6,12 @@
 #include <string>
 
 #include "platform/macos/Text.h"
+#include "tests/macos/frameworks/Counted.h"
 #include "tests/macos/frameworks/Raising.h"
 #include "tests/macos/frameworks/World.h"
 
+using brisel::tests::macos::countIn;
+using brisel::tests::macos::countOut;
 using brisel::tests::macos::itemsOf;
 using brisel::tests::macos::raiseIfTold;
 using brisel::platform::macos::nsString;
@@ -196,6 +199,17 @@ StageStatusItem* statusItem() {
 @end
 
 @implementation StageAlert
+
+- (instancetype)init {
+    self = [super init];
+    countIn("StageAlert");
+    return self;
+}
+
+- (void)dealloc {
+    countOut("StageAlert");
+    [super dealloc];
+}
 
 - (NSInteger)runModal {
     raiseIfTold();

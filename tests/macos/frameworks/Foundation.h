@@ -4,6 +4,8 @@
 
 #import <Foundation/Foundation.h>
 
+#include "tests/macos/frameworks/Counted.h"
+
 typedef struct {
     NSInteger majorVersion;
     NSInteger minorVersion;
@@ -29,7 +31,7 @@ typedef NSString* NSKeyValueChangeKey;
 - (BOOL)synchronize;
 @end
 
-@interface StageAppleScript : NSObject {
+@interface StageAppleScript : StageCounted {
   @private
     NSString* source_;
 }

@@ -197,7 +197,7 @@ void deliverResponseHere(const platform::NotificationResponse& response, NSDicti
     [centerDelegate userNotificationCenter:[UNUserNotificationCenter currentNotificationCenter]
             didReceiveNotificationResponse:responseFrom(response, userInfo)
                      withCompletionHandler:^{
-                       complain("a response was answered");
+                       complain("a response was answered: " + response.actionIdentifier);
                      }];
 }
 
