@@ -243,7 +243,7 @@ TEST_F(Responses, AreAnsweredOnceByTheHandlerThatIsHandedOn) {
     turn(NSDefaultRunLoopMode, Patience, &arrived);
     ASSERT_EQ(completions.size(), 1U);
     completions.front()();
-    EXPECT_THAT(takeComplaints(), ElementsAre("a response was answered"));
+    EXPECT_THAT(takeComplaints(), ElementsAre("a response was answered: yes"));
 }
 
 TEST_F(Responses, LeaveOutWhatIsNoText) {

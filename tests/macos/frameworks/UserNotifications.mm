@@ -194,10 +194,12 @@ void deliverResponse(const platform::NotificationResponse& response,
 }
 
 void deliverResponseHere(const platform::NotificationResponse& response, NSDictionary* userInfo) {
+    // A value of its own, so that a block that was not copied shows.
+    const std::string action = response.actionIdentifier;
     [centerDelegate userNotificationCenter:[UNUserNotificationCenter currentNotificationCenter]
             didReceiveNotificationResponse:responseFrom(response, userInfo)
                      withCompletionHandler:^{
-                       complain("a response was answered: " + response.actionIdentifier);
+                       complain("a response was answered: " + action);
                      }];
 }
 
