@@ -18,7 +18,7 @@ NAMES = ["Data", "Data", "Data", "My Data", "Data-disk4s1", "Data-disk5s1", "unm
 KINDS = ["ntfs"] * 12 + ["NTFS", "Ntfs", "com_ntfs_3g", "ufsd_NTFS 7", "exfat", "hfs", "nt fs"]
 UUIDS = ["0F1E2D3C-4B5A-6978-8796-A5B4C3D2E1F0", "11111111-2222-3333-4444-555555555555",
          "AAAAAAAA-BBBB-CCCC-DDDD-EEEEEEEEEEEE", "aaaaaaaa-bbbb-cccc-dddd-eeeeeeeeeeee"]
-HOMES = ["/Users/user", "/Users/user/", "/", "/Users/Jörg Müller", "/Volumes/Homes/o'neil",
+HOMES = ["/Users/user", "/Users/user/", "/Users/Jörg Müller", "/Volumes/Homes/o'neil",
          '/home "x"']
 LANGUAGES = ["de", "en", "es", "fr", "it", "ja", "pt", "zh-Hans", "nl"]
 APPEARANCES = ["NSAppearanceNameAqua", "NSAppearanceNameDarkAqua", "DARK", "light",
