@@ -13,6 +13,8 @@ from random_scenarios import scenario
 
 SCENARIOS = pathlib.Path(__file__).resolve().parent.parent / "scenarios"
 SLOWEST = 60
+# So many commands may be possible only together: an alert is called up, answered, and followed.
+FEW = 3
 
 
 def told_by_model(lines):
@@ -39,19 +41,27 @@ def is_valid(lines, bad_is_fine):
     return bad_is_fine or not told_by_model(lines)[1]
 
 
+def without_some(program, lines, size, bad_is_fine):
+    """Drops runs of that many commands where the two disagree all the same."""
+    start = 0
+    while start < len(lines):
+        fewer = lines[:start] + lines[start + size :]
+        if is_valid(fewer, bad_is_fine) and disagree(program, fewer):
+            lines = fewer
+        else:
+            start += size if size > FEW else 1
+    return lines
+
+
 def shrunk(program, lines):
     """The fewest of these commands over which the two disagree; good ones stay good."""
     bad_is_fine = not is_valid(lines, False)
-    size = len(lines) // 2
-    while size:
-        start = 0
-        while start < len(lines):
-            fewer = lines[:start] + lines[start + size :]
-            if is_valid(fewer, bad_is_fine) and disagree(program, fewer):
-                lines = fewer
-            else:
-                start += size
-        size = 1 if size > 1 and size // 2 == 0 else size // 2
+    before = None
+    while before != lines:
+        before, size = lines, len(lines) // 2
+        while size:
+            lines = without_some(program, lines, size, bad_is_fine)
+            size = size - 1 if size <= FEW else max(size // 2, FEW)
     return lines
 
 

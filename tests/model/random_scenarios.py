@@ -88,7 +88,7 @@ class Scenario:
         paths = ["/Volumes/Data", "/Volumes/Data/", "/Volumes/" + self.pick(NAMES), self.folder()]
         values = {"kind": self.pick(KINDS), "name": self.pick(NAMES), "path": self.pick(paths),
                   "volume-uuid": self.pick(UUIDS)}
-        rare = {"media-uuid": self.pick(UUIDS), "writable": self.pick(["yes", "no"]),
+        rare = {"media-uuid": self.pick(UUIDS), "writable": self.pick(["yes", "yes", "no"]),
                 "mountable": self.pick(["yes", "no"])}
         chosen = [pair for pair in values.items() if self.odds(percent)]
         chosen += [pair for pair in rare.items() if self.odds(percent / 5 + 5)]
@@ -185,6 +185,17 @@ class Scenario:
         place = 1 + next(i for i, other in enumerate(namesakes) if other is item)
         self.give("choose", item.title, *([str(place)] if place > 1 or self.odds(10) else []))
 
+    def choose_two_at_once(self):
+        """Starts one operation while another is under way."""
+        if not self.model.world.holding:
+            self.give("hold")
+        self.choose()
+        if not self.model.awaited:
+            self.give("respond", "DO_MOUNT", ("volume", self.pick(DEVICES)))
+        if self.odds(30):
+            self.detach()
+        self.give("release")
+
     def respond(self):
         given = []
         if self.odds(30) or not self.model.world.last_prompt:
@@ -239,7 +250,8 @@ class Scenario:
         if self.model.awaited:
             self.pick([self.answer] * len(surroundings) + surroundings)()
         elif self.model.started:
-            self.pick([self.choose] * 20 + [self.respond] * 5 + surroundings)()
+            self.pick([self.choose] * 20 + [self.choose_two_at_once] * 4 + [self.respond] * 4 +
+                      surroundings)()
         else:
             self.pick(surroundings)()
 
