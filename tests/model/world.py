@@ -129,12 +129,13 @@ class World:
     # Disks.
 
     def change(self, disk, changes):
-        """Changes a disk; a new path mounts it anew."""
+        """Changes a disk; another path mounts it anew."""
         for key, value in changes.items():
             if key == "writable":
                 disk.writable = value == "yes"
             elif key == "path" and value:
-                self.mount(disk, value, disk.writable)
+                if plain(disk.description.get("path")) != plain(value):
+                    self.mount(disk, value, disk.writable)
             elif value is None:
                 disk.description.pop(key, None)
             else:
