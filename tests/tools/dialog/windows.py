@@ -27,7 +27,7 @@ class Display:
     def __init__(self):
         reading, writing = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-nolisten", "tcp",
+            ["Xvfb", "-displayfd", str(writing), "-nolisten", "tcp", "-noreset",
              "-screen", "0", f"{SCREEN_WIDTH}x{SCREEN_HEIGHT}x24"],
             pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
