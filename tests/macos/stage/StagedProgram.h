@@ -9,7 +9,8 @@
 namespace brisel::tests::macos {
 
 /// Runs in the real main loop, which asks the scenario for commands when there is nothing else to
-/// do in its default mode. Its end is the process's end.
+/// do in its default mode. Its end is the process's end; one that has misused a framework or lost
+/// an object says so on standard error, and has an exit status of its own.
 class StagedProgram final : public simulator::Program {
   public:
     explicit StagedProgram(platform::simulated::Mac& mac) : mac_(mac) {}
@@ -43,9 +44,5 @@ class StagedProgram final : public simulator::Program {
     bool started_ = false;
     bool awaitsResponse_ = false;
 };
-
-/// The exit status of a scenario that has ended: whether it stopped at a bad command, and whether
-/// the program lost or misused something, which is told on standard error.
-int exitStatus(bool stoppedAtBadCommand, bool inTheMiddle);
 
 }  // namespace brisel::tests::macos

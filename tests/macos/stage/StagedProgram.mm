@@ -78,32 +78,33 @@ void setArguments(std::string language) {
                                environment:environ];
 }
 
-void reportAtExit() {
-    // Whatever ended the process, what the program wrote must have come out first.
-    std::cout.flush();
-    const int status = exitStatus(false, false);
-    if (status != 0) std::_Exit(status);
+bool misusedFrameworks() {
+    const auto complaints = takeComplaints();
+    for (const auto& complaint : complaints)
+        std::cerr << "misused: " << complaint << '\n';
+    return !complaints.empty();
 }
 
-}  // namespace
-
-int exitStatus(bool stoppedAtBadCommand, bool inTheMiddle) {
-    int status = stoppedAtBadCommand ? BadUse : 0;
-    for (const auto& complaint : takeComplaints()) {
-        std::cerr << "misused: " << complaint << '\n';
-        status = Misused;
-    }
-    // In the middle of something the program has every right to hold on to objects.
-    if (inTheMiddle) return status;
+bool lostObjects() {
+    bool lost = false;
     for (const auto& [kind, count] : liveObjects()) {
         // The session is kept as long as the process.
         const int expected = kind == "StageSession" ? 1 : 0;
         if (count == expected) continue;
         std::cerr << "lost: " << count << " of " << kind << ", not " << expected << '\n';
-        status = Misused;
+        lost = true;
     }
-    return status;
+    return lost;
 }
+
+void judgeAtExit() {
+    // Whatever ended the process, what the program wrote must have come out first.
+    std::cout.flush();
+    const bool misused = misusedFrameworks();
+    if (lostObjects() || misused) std::_Exit(Misused);
+}
+
+}  // namespace
 
 void StagedProgram::start() {
     started_ = true;
@@ -118,7 +119,7 @@ void StagedProgram::start() {
                selector:@selector(applicationDidFinishLaunching:)
                    name:NSApplicationDidFinishLaunchingNotification
                  object:nil];
-        std::atexit(&reportAtExit);
+        std::atexit(&judgeAtExit);
         char name[] = "Brisel";
         char* arguments[] = {name, nullptr};
         briselMain(1, arguments);
@@ -171,7 +172,9 @@ void StagedProgram::turn() {
 
 void StagedProgram::end() {
     std::cout.flush();
-    std::_Exit(exitStatus(scenario_->stopped(), true));
+    // In the middle of something the program has every right to hold on to objects.
+    if (misusedFrameworks()) std::_Exit(Misused);
+    std::_Exit(scenario_->stopped() ? BadUse : EXIT_SUCCESS);
 }
 
 }  // namespace brisel::tests::macos
