@@ -35,9 +35,7 @@ int runScript(const CommandLine& commandLine, std::istream& stream) {
     };
     // Whoever writes commands into a pipe may want to read what came of each before the next.
     manner.afterCommand = [] { std::cout.flush(); };
-    Scenario scenario(source, printLine, manner);
-    commandLine.scenarioMade(scenario);
-    return scenario.run() ? 0 : BadUse;
+    return Scenario(source, printLine, manner).run() ? 0 : BadUse;
 }
 
 int runInTerminal(const CommandLine& commandLine) {
@@ -52,9 +50,7 @@ int runInTerminal(const CommandLine& commandLine) {
     // What the program did must be seen before the next prompt, which another library writes.
     const auto show = [](const std::string& line) { std::cout << line << std::endl; };
     manner.badCommandHandler = [show](const Scenario::BadCommand& bad) { show(bad.complaint); };
-    Scenario scenario(source, show, manner);
-    commandLine.scenarioMade(scenario);
-    scenario.run();
+    Scenario(source, show, manner).run();
     return 0;
 }
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "simulator/Scenario.h"
@@ -16,8 +15,6 @@ struct CommandLine {
     std::string purpose;
     /// Builds the program under test; straight on the simulated Mac where nothing is given.
     Scenario::ProgramMaker makeProgram;
-    /// Told of the scenario before it runs.
-    std::function<void(Scenario&)> scenarioMade = [](Scenario&) {};
 };
 
 /// Runs the scenario in the file that the arguments name, or from standard input, which may be a

@@ -29,14 +29,14 @@ Scenario::Scenario(CommandSource& source, Output output, Manner manner)
       output_(std::move(output)),
       manner_(std::move(manner)),
       mac_(*this),
-      program_(manner_.makeProgram(mac_)),
+      program_(manner_.makeProgram(*this)),
       stage_{.mac = mac_, .program = *program_} {
     mac_.transcript.keepNothing();
     mac_.transcript.setListener(output_);
 }
 
-std::unique_ptr<Program> Scenario::makeDirectProgram(platform::simulated::Mac& mac) {
-    return std::make_unique<DirectProgram>(mac);
+std::unique_ptr<Program> Scenario::makeDirectProgram(Scenario& scenario) {
+    return std::make_unique<DirectProgram>(scenario.mac());
 }
 
 bool Scenario::run() {

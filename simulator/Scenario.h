@@ -31,7 +31,7 @@ class Scenario final : private platform::simulated::Person {
     enum class OnBadCommand { Stop, GoOn };
     enum class Echo { Commands, Nothing };
 
-    using ProgramMaker = std::function<std::unique_ptr<Program>(platform::simulated::Mac&)>;
+    using ProgramMaker = std::function<std::unique_ptr<Program>(Scenario&)>;
 
     struct Manner {
         OnBadCommand onBadCommand = OnBadCommand::Stop;
@@ -40,7 +40,8 @@ class Scenario final : private platform::simulated::Person {
         BadCommandHandler badCommandHandler = [](const BadCommand&) {};
         /// Called after each command, also while an alert or prompt blocks the program.
         std::function<void()> afterCommand = [] {};
-        /// Builds the program on the simulated Mac; unless told, straight on its services.
+        /// Builds the program on the scenario's simulated Mac; unless told, straight on its
+        /// services.
         ProgramMaker makeProgram = &makeDirectProgram;
     };
 
@@ -65,7 +66,7 @@ class Scenario final : private platform::simulated::Person {
     int answerAlert(const platform::AlertContent& alert) override;
     platform::OSStatus answerPasswordPrompt(const std::string& right) override;
 
-    static std::unique_ptr<Program> makeDirectProgram(platform::simulated::Mac& mac);
+    static std::unique_ptr<Program> makeDirectProgram(Scenario& scenario);
     int readUntilAnswered();
     [[nodiscard]] Complaint carryOut(const std::string& line);
     [[nodiscard]] Complaint help() const;

@@ -31,6 +31,9 @@ class DiskArbitration final : public platform::DiskArbitration {
                             Completion completion) override;
 
   private:
+    /// Either of the two calls that register a callback for reports of disks.
+    using Register = void (*)(DASessionRef, CFDictionaryRef, DADiskAppearedCallback, void*);
+    [[nodiscard]] Subscription registerCallback(Register registerAt, DiskCallback callback);
     [[nodiscard]] Owned<DADiskRef> diskNamed(const std::string& name) const;
 
     Owned<DASessionRef> session_;

@@ -90,27 +90,23 @@ void DiskArbitration::createSession() {
     session_ = Owned<DASessionRef>(DASessionCreate(kCFAllocatorDefault));
 }
 
-// The match dictionaries are null, which matches every disk, until there is a session: they are
-// read at the moment of the call.
-
-Subscription DiskArbitration::registerDiskAppearedCallback(DiskCallback callback) {
+Subscription DiskArbitration::registerCallback(Register registerAt, DiskCallback callback) {
     if (!session_) return {};
     const auto context = std::make_shared<DiskCallback>(std::move(callback));
-    DARegisterDiskAppearedCallback(session_.get(), kDADiskDescriptionMatchVolumeMountable, &report,
-                                   context.get());
+    // The match dictionaries are null, which matches every disk, until there is a session: they are
+    // read at the moment of the call.
+    registerAt(session_.get(), kDADiskDescriptionMatchVolumeMountable, &report, context.get());
     return Subscription([session = session_.get(), context] {
         DAUnregisterCallback(session, reinterpret_cast<void*>(&report), context.get());
     });
 }
 
+Subscription DiskArbitration::registerDiskAppearedCallback(DiskCallback callback) {
+    return registerCallback(&DARegisterDiskAppearedCallback, std::move(callback));
+}
+
 Subscription DiskArbitration::registerDiskDisappearedCallback(DiskCallback callback) {
-    if (!session_) return {};
-    const auto context = std::make_shared<DiskCallback>(std::move(callback));
-    DARegisterDiskDisappearedCallback(session_.get(), kDADiskDescriptionMatchVolumeMountable,
-                                      &report, context.get());
-    return Subscription([session = session_.get(), context] {
-        DAUnregisterCallback(session, reinterpret_cast<void*>(&report), context.get());
-    });
+    return registerCallback(&DARegisterDiskDisappearedCallback, std::move(callback));
 }
 
 void DiskArbitration::scheduleWithRunLoop() {

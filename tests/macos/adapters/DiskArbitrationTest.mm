@@ -113,7 +113,7 @@ TEST_F(DiskReports, OfAVolumeOnNoDeviceHaveNoName) {
 class WithoutASession : public DiskArbitrationAdapter {
   protected:
     WithoutASession() {
-        failNextSession();
+        orders().noSession = true;
         start();
     }
 };

@@ -47,7 +47,7 @@ TEST_F(DiskRequests, DoNotCompleteWhileAnAlertIsOpen) {
 }
 
 TEST_F(DiskRequests, MayCompleteBeforeTheCallReturns) {
-    completeRefusalsAtOnce();
+    orders().refusesAtOnce = true;
     attach("disk4s1");
     unmount("disk4s1");
     EXPECT_THAT(statuses, ElementsAre(DAReturn::NotPrivileged));

@@ -11,11 +11,6 @@ namespace brisel::tests::macos {
 /// there was anything. Nothing comes but through a session that is scheduled for the mode.
 bool deliverDiskEvents(NSString* mode);
 
-/// Lets the next session not come about.
-void failNextSession();
-/// Lets requests that are refused complete before the call returns, as those do that cannot even be
-/// handed to the system.
-void completeRefusalsAtOnce();
 /// Lets every description have this value for this key, of whatever type.
 void describeWith(CFStringRef key, id value);
 /// Everything as at the start of a process: no session is scheduled, nothing was told above.

@@ -28,8 +28,6 @@ struct Registration {
     platform::Subscription subscription;
 };
 
-bool sessionFails = false;
-bool refusalsCompleteAtOnce = false;
 /// The session that is scheduled, and the mode: the program has one.
 NSString* scheduledMode = nil;
 /// What takes the place of values in descriptions.
@@ -178,22 +176,12 @@ bool deliverDiskEvents(NSString* mode) {
     return world().mainLoop.turnOnce();
 }
 
-void failNextSession() {
-    sessionFails = true;
-}
-
-void completeRefusalsAtOnce() {
-    refusalsCompleteAtOnce = true;
-}
-
 void describeWith(CFStringRef key, id value) {
     if (toldValues == nil) toldValues = [[NSMutableDictionary alloc] init];
     [toldValues setObject:value forKey:(__bridge NSString*)key];
 }
 
 void resetDiskArbitration() {
-    sessionFails = false;
-    refusalsCompleteAtOnce = false;
     DESTROY(scheduledMode);
     DESTROY(toldValues);
     if (kDADiskDescriptionMatchVolumeMountable == nullptr) return;
@@ -217,7 +205,7 @@ const CFStringRef kDADiskDescriptionMediaUUIDKey = (__bridge CFStringRef) @"DAMe
 DASessionRef DASessionCreate(CFAllocatorRef /*allocator*/) {
     fillMatches();
     world().diskArbitration.createSession();
-    if (std::exchange(sessionFails, false)) return nullptr;
+    if (orders().noSession) return nullptr;
     return reinterpret_cast<DASessionRef>([[StageSession alloc] init]);
 }
 
@@ -292,7 +280,7 @@ CFDictionaryRef DADiskCopyDescription(DADiskRef disk) {
 void DADiskUnmount(DADiskRef disk, DADiskUnmountOptions options, DADiskUnmountCallback callback,
                    void* context) {
     if (options != kDADiskUnmountOptionDefault) complain("an unmount with unknown options");
-    if (refusalsCompleteAtOnce) {
+    if (orders().refusesAtOnce) {
         complete(callback, context, diskOf(disk),
                  Dissenter{.status = platform::DAReturn::NotPrivileged});
         return;
@@ -309,7 +297,7 @@ void DADiskMountWithArguments(DADiskRef disk, CFURLRef path, DADiskMountOptions 
     std::vector<std::string> words;
     for (; arguments != nullptr && *arguments != nullptr; ++arguments)
         words.push_back(stdString((__bridge NSString*)*arguments));
-    if (refusalsCompleteAtOnce) {
+    if (orders().refusesAtOnce) {
         complete(callback, context, diskOf(disk),
                  Dissenter{.status = platform::DAReturn::NotPrivileged});
         return;

@@ -22,6 +22,11 @@ struct Orders {
     bool startsRealTools = false;
     /// The next call of those that can raise an exception does so.
     bool nextCallRaises = false;
+    /// No session with Disk Arbitration comes about.
+    bool noSession = false;
+    /// Requests are refused before the call returns, as those are that cannot even be handed to the
+    /// system.
+    bool refusesAtOnce = false;
     /// The notification center answers when it is told to, not within the call.
     bool answersWait = false;
 };

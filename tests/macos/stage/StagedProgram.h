@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/simulated/Mac.h"
 #include "simulator/Program.h"
 #include "simulator/Scenario.h"
 
@@ -13,10 +12,8 @@ namespace brisel::tests::macos {
 /// an object says so on standard error, and has an exit status of its own.
 class StagedProgram final : public simulator::Program {
   public:
-    explicit StagedProgram(platform::simulated::Mac& mac) : mac_(mac) {}
-
-    /// The scenario that this program asks for commands.
-    void setScenario(simulator::Scenario& scenario) { scenario_ = &scenario; }
+    /// Asks `scenario` for commands; its simulated Mac becomes the world of the frameworks.
+    explicit StagedProgram(simulator::Scenario& scenario);
 
     /// Never returns.
     void start() override;
@@ -39,8 +36,7 @@ class StagedProgram final : public simulator::Program {
     void responseWasHandled() { awaitsResponse_ = false; }
 
   private:
-    platform::simulated::Mac& mac_;
-    simulator::Scenario* scenario_ = nullptr;
+    simulator::Scenario& scenario_;
     bool started_ = false;
     bool awaitsResponse_ = false;
 };

@@ -106,10 +106,14 @@ void judgeAtExit() {
 
 }  // namespace
 
+StagedProgram::StagedProgram(simulator::Scenario& scenario) : scenario_(scenario) {
+    setWorld(scenario.mac());
+}
+
 void StagedProgram::start() {
     started_ = true;
     @autoreleasepool {
-        setArguments(mac_.bundle.language());
+        setArguments(scenario_.mac().bundle.language());
         // The application object that NSApplicationMain finds.
         [StageApplication sharedApplication];
         turner = [[StageTurner alloc] init];
@@ -167,14 +171,14 @@ void StagedProgram::turnWhileBlocked() {
 
 void StagedProgram::turn() {
     if (awaitsResponse_ || deliverDiskEvents(NSDefaultRunLoopMode)) return;
-    if (!scenario_->step()) std::exit(EXIT_SUCCESS);
+    if (!scenario_.step()) std::exit(EXIT_SUCCESS);
 }
 
 void StagedProgram::end() {
     std::cout.flush();
     // In the middle of something the program has every right to hold on to objects.
     if (misusedFrameworks()) std::_Exit(Misused);
-    std::_Exit(scenario_->stopped() ? BadUse : EXIT_SUCCESS);
+    std::_Exit(scenario_.stopped() ? BadUse : EXIT_SUCCESS);
 }
 
 }  // namespace brisel::tests::macos

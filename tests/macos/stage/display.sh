@@ -1,5 +1,5 @@
 #!/bin/sh
-# Opens an X display in memory for many tests, and closes it: display.sh open|close FILE
+# Opens an X display in memory, and closes it: display.sh open|close FILE
 # SPDX-License-Identifier: MIT
 #
 # FILE holds the display's number and the server's process.
@@ -16,11 +16,16 @@ close_display() {
 case $1 in
 open)
     close_display
+    rm -f "$file.ready"
     mkfifo "$file.ready"
     Xvfb -displayfd 3 -screen 0 640x480x24 -nolisten tcp -noreset 3>"$file.ready" >/dev/null 2>&1 </dev/null &
     server=$!
-    read -r number <"$file.ready"
+    read -r number <"$file.ready" || true
     rm "$file.ready"
+    if [ -z "$number" ]; then
+        echo "There is no Xvfb to run on." >&2
+        exit 1
+    fi
     echo "$number $server" >"$file"
     ;;
 close) close_display ;;
