@@ -99,6 +99,12 @@ TEST_F(FileManagerAdapter, MakesAnErrorOfAnException) {
                                         "The system refused to list a folder: raised as told"));
 }
 
+TEST_F(FileManagerAdapter, MakesAnErrorOfAFolderThatIsStillThereWhenItIsSaidToBeDeleted) {
+    mac.fileSystem.makeFolder("/Users/user/.brisel/Data");
+    orders().onlySaysItDeletes = true;
+    EXPECT_TRUE(adapter.removeItem("/Users/user/.brisel/Data"));
+}
+
 class RealFolder : public FileManagerAdapter {
   protected:
     RealFolder() { orders().deletesRealFiles = true; }

@@ -114,6 +114,7 @@ std::optional<platform::Error> deleteReally(NSFileManager* manager, const std::s
 
 - (BOOL)removeItemAtPath:(NSString*)path error:(NSError**)error {
     raiseIfTold();
+    if (orders().onlySaysItDeletes) return YES;
     const auto failure = orders().deletesRealFiles
                              ? deleteReally(self, stdString(path))
                              : world().fileManager.removeItem(stdString(path));

@@ -18,6 +18,8 @@ void setWorld(platform::simulated::Mac& mac);
 struct Orders {
     /// File managers delete what is on the real file system, not in the simulated Mac's.
     bool deletesRealFiles = false;
+    /// File managers say that they have deleted what they leave there.
+    bool onlySaysItDeletes = false;
     /// The tools that are started are the system's own, not the simulated Mac's.
     bool startsRealTools = false;
     /// The next call of those that can raise an exception does so.
