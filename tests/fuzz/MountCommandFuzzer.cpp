@@ -3,21 +3,18 @@
 #include <algorithm>
 #include <climits>
 #include <cstdint>
-#include <cstdlib>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "tests/fuzz/Must.h"
 #include "tools/mount-tool/CommandLine.h"
 
 namespace {
 
 using namespace brisel::mounttool;
-
-void must(bool held) {
-    if (!held) std::abort();
-}
+using brisel::tests::must;
 
 // The input's first line is the home folder, each further one an argument; a line may hold any byte
 // but its end and NUL, so 0x01 stands for the line end.

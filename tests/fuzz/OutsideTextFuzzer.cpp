@@ -2,36 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
-#include "platform/common/StringsTable.h"
 #include "platform/common/VisibleText.h"
 #include "platform/linux/DiskDescriptions.h"
-#include "platform/linux/MountInfo.h"
 #include "platform/linux/ScriptRunner.h"
 #include "simulator/Words.h"
+#include "tests/fuzz/Must.h"
 
 namespace {
 
 using namespace brisel;
-
-void must(bool held) {
-    if (!held) std::abort();
-}
-
-void readTable(const std::string& text) {
-    const auto table = platform::common::StringsTable::parse(text);
-    if (!table) return;
-    for (const auto& [key, value] : table->texts())
-        must(table->localizedString(key) == value);
-}
-
-void readMountInfo(const std::string& text) {
-    using platform::linux::MountState;
-    must(platform::linux::mountState(text, "no such folder/") == MountState::NotMounted);
-    static_cast<void>(platform::linux::mountState(text, "/media/user/Data"));
-}
+using brisel::tests::must;
 
 void readScript(const std::string& text) {
     const auto command = platform::linux::shellCommandOf("do shell script \"" + text);
@@ -62,8 +44,7 @@ void readWords(const std::string& text) {
     }
 }
 
-constexpr std::array Readers{&readTable, &readMountInfo,  &readScript,
-                             &readUUID,  &showOnTerminal, &readWords};
+constexpr std::array Readers{&readScript, &readUUID, &showOnTerminal, &readWords};
 
 }  // namespace
 
