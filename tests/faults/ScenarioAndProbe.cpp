@@ -6,13 +6,14 @@
 #include <array>
 #include <string_view>
 
+#include "tests/support/FirstButton.h"
+
 namespace brisel::tests {
 
 namespace {
 
 // A program that asks more often than this does so without end.
 constexpr std::size_t MostAnswers = 200;
-constexpr std::string_view ButtonsEvent = "buttons: ";
 
 // `start` is a bad command, and does nothing, where the scenario has given it.
 constexpr std::array Ending{"start", "release",
@@ -44,8 +45,7 @@ std::string ScenarioAndProbe::pressFirstButton() const {
     const auto last = std::find_if(transcript_.rbegin(), transcript_.rend(),
                                    [](const auto& line) { return line.starts_with(ButtonsEvent); });
     if (last == transcript_.rend()) return "press OK";
-    const auto titles = last->substr(ButtonsEvent.size());
-    return "press \"" + titles.substr(0, titles.find(" | ")) + '"';
+    return tests::pressFirstButton(*last);
 }
 
 }  // namespace brisel::tests

@@ -10,11 +10,10 @@ import sys
 
 from brisel_model import transcript
 from random_scenarios import scenario
+from shrinking import shrunk
 
 SCENARIOS = pathlib.Path(__file__).resolve().parent.parent / "scenarios"
 SLOWEST = 60
-# So many commands may be possible only together: an alert is called up, answered, and followed.
-FEW = 3
 
 
 def told_by_model(lines):
@@ -37,32 +36,11 @@ def disagree(program, lines):
     return told_by_model(lines) != told_by_program(program, lines)
 
 
-def is_valid(lines, bad_is_fine):
-    return bad_is_fine or not told_by_model(lines)[1]
-
-
-def without_some(program, lines, size, bad_is_fine):
-    """Drops runs of that many commands where the two disagree all the same."""
-    start = 0
-    while start < len(lines):
-        fewer = lines[:start] + lines[start + size :]
-        if is_valid(fewer, bad_is_fine) and disagree(program, fewer):
-            lines = fewer
-        else:
-            start += size if size > FEW else 1
-    return lines
-
-
-def shrunk(program, lines):
+def shortest(program, lines):
     """The fewest of these commands over which the two disagree; good ones stay good."""
-    bad_is_fine = not is_valid(lines, False)
-    before = None
-    while before != lines:
-        before, size = lines, len(lines) // 2
-        while size:
-            lines = without_some(program, lines, size, bad_is_fine)
-            size = size - 1 if size <= FEW else max(size // 2, FEW)
-    return lines
+    bad_is_fine = told_by_model(lines)[1]
+    return shrunk(lines, lambda fewer: (bad_is_fine or not told_by_model(fewer)[1]) and
+                  disagree(program, fewer))
 
 
 def show_difference(program, lines):
@@ -93,17 +71,17 @@ def compare_scenarios(program):
     return bool(differing) or not files
 
 
-def compare_random(program, first, count):
+def compare_random(program, seeds, steps):
     """Compares over random scenarios, and stops at the first that differs."""
     commands = 0
-    for seed in range(first, first + count):
-        lines = scenario(seed)
+    for seed in seeds:
+        lines = scenario(seed, steps)
         commands += len(lines)
         if disagree(program, lines):
             print(f"seed {seed}: model and program disagree; the shortest scenario that shows it:")
-            show_difference(program, shrunk(program, lines))
+            show_difference(program, shortest(program, lines))
             return True
-    print(f"{count} random scenarios of {commands} commands compared, none differs")
+    print(f"{len(seeds)} random scenarios of {commands} commands compared, none differs")
     return False
 
 
@@ -113,12 +91,14 @@ def main():
     parser.add_argument("--scenarios", action="store_true", help="the scenarios of the tests")
     parser.add_argument("--random", type=int, default=0, metavar="N", help="N random scenarios")
     parser.add_argument("--seed", type=int, default=1, help="the first one's seed")
+    parser.add_argument("--steps", type=int, help="so many steps each, instead of a few")
     chosen = parser.parse_args()
     if not chosen.scenarios and chosen.random < 1:
         parser.error("nothing to compare: --scenarios or --random N")
     failed = chosen.scenarios and compare_scenarios(chosen.program)
     if chosen.random:
-        failed = compare_random(chosen.program, chosen.seed, chosen.random) or failed
+        seeds = range(chosen.seed, chosen.seed + chosen.random)
+        failed = compare_random(chosen.program, seeds, chosen.steps) or failed
     return 1 if failed else 0
 
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-# Makes random scenarios, the same for the same seed: random_scenarios.py SEED
+# Makes random scenarios, the same for the same seed: random_scenarios.py SEED [STEPS]
 # SPDX-License-Identifier: MIT
 import random
 import sys
@@ -48,8 +48,10 @@ def word(text, chance):
 class Scenario:
     """Commands that come about one by one, each of them possible after those before."""
 
-    def __init__(self, seed):
+    def __init__(self, seed, steps=None):
         self.chance = random.Random(seed)
+        # A scenario of so many steps goes on to its end; a short one may end early.
+        self.steps = steps
         self.model = Model()
         self.lines = []
 
@@ -113,6 +115,16 @@ class Scenario:
     def detach(self):
         if self.disks(True):
             self.give("detach", self.pick(self.disks(True)))
+
+    def plug_in_again(self):
+        """Brings back a volume that was unmounted, or never mounted."""
+        disks = self.model.world.disks
+        lost = [device for device in self.disks(True) if not disks[device].description.get("path")]
+        if lost:
+            device = self.pick(lost)
+            self.give("detach", device)
+            if not self.model.world.holding or self.odds(30):
+                self.give("attach", device, *self.properties(90))
 
     def refuse(self):
         if self.model.world.disks:
@@ -178,7 +190,7 @@ class Scenario:
             self.attach()
             return
         item = self.pick(about_volumes if about_volumes and self.odds(90) else items)
-        if item.action == "terminate:" and self.odds(90):
+        if item.action == "terminate:" and (self.odds(90) or self.steps):
             return
         namesakes = [other for other in self.model.program.menu.items
                      if other.title == item.title and not other.is_separator()]
@@ -225,24 +237,24 @@ class Scenario:
             self.give("home", self.pick(HOMES))
         if self.odds(40):
             self.give("language", self.pick(LANGUAGES))
-        if self.odds(80):
+        if self.odds(80) or self.steps:
             self.give("default", "showDisclaimer", "NO")
         if self.odds(20):
             self.give("default", "shouldStartAtLogin", self.pick(["YES", "NO"]))
-        if self.odds(40):
+        if self.odds(80 if self.steps else 40):
             self.give("default", "volumeList", *self.listed())
         if self.odds(5):
             self.give("launch", "missing")
 
     def listed(self):
-        if self.odds(15):
+        if self.odds(50 if self.steps else 15):
             return [f"{place:08X}-0000-0000-0000-000000000000"
                     for place in range(self.chance.randrange(126, 131))]
         return [self.pick(UUIDS[:3]) for _ in range(self.chance.randrange(4))]
 
     def step(self):
         """One more command, whatever fits the moment."""
-        often = [self.attach, self.attach, self.detach, self.hold, self.report, self.set,
+        often = [self.attach, self.attach, self.detach, self.plug_in_again, self.hold, self.report, self.set,
                  self.refuse, self.tool, self.fail]
         seldom = [self.launch, self.file, self.rmdir, self.script, self.notifications,
                   self.login_items, self.appearance, self.show, self.remark]
@@ -257,22 +269,22 @@ class Scenario:
 
     def make(self):
         self.before_start()
-        for _ in range(self.chance.choice([0, 0, 0, 2, 6])):
+        for _ in range(30 if self.steps else self.chance.choice([0, 0, 0, 2, 6])):
             self.step()
         self.give("start")
-        for _ in range(self.chance.randrange(5, 50)):
+        for _ in range(self.steps or self.chance.randrange(5, 50)):
             self.step()
         for what in SHOWS:
             self.give("show", what)
-        if self.odds(15):
+        if not self.steps and self.odds(15):
             self.add(self.pick(BAD))
-        if not self.model.awaited and self.odds(30):
+        if not self.model.awaited and (self.steps or self.odds(30)):
             self.give("quit")
 
 
-def scenario(seed):
+def scenario(seed, steps=None):
     """The lines of a scenario; what would follow its end or a bad command is left out."""
-    made = Scenario(seed)
+    made = Scenario(seed, steps)
     try:
         made.make()
     except (Ended, BadCommand):
@@ -281,4 +293,4 @@ def scenario(seed):
 
 
 if __name__ == "__main__":
-    print("\n".join(scenario(int(sys.argv[1]))))
+    print("\n".join(scenario(*map(int, sys.argv[1:3]))))
