@@ -210,6 +210,23 @@ class Session:
     def press(self, *keys):
         self.run("xdotool", "key", *keys)
 
-    def screenshot(self, file):
-        """The whole screen as a PNG file."""
-        run("import", "-window", "root", "-display", self.environment["DISPLAY"], file)
+    def screenshot(self, file, part=None):
+        """The whole screen, or the part (left, top, width, height) of it, as a PNG file."""
+        options = []
+        if part:
+            left, top, width, height = part
+            options = ["-crop", f"{width}x{height}+{left}+{top}", "+repage"]
+        run("import", "-window", "root", "-display", self.environment["DISPLAY"], *options, file)
+
+    def wait_until_still(self):
+        """Waits until everything is drawn: windows come first, and what is in them fades in."""
+        before = None
+
+        def is_still():
+            nonlocal before
+            screen = subprocess.run(
+                ["import", "-window", "root", "-display", self.environment["DISPLAY"], "rgb:-"],
+                check=True, capture_output=True).stdout
+            before, last = screen, before
+            return screen == last
+        wait_for(is_still, "the screen keeps still")

@@ -1,12 +1,15 @@
 # Sticks: NTFS volumes in image files, attached, mounted, pulled and looked into.
 # SPDX-License-Identifier: MIT
 import os
+import secrets
 import subprocess
 
 from .programs import run
 from .waiting import wait_for
 
 PAGE = 4096
+# Where an NTFS volume has it.
+SERIAL_NUMBER = 0x48
 
 
 def mounts_of(device):
@@ -49,7 +52,14 @@ class Stick:
         with open(self.image, "wb") as file:
             file.truncate(8 << 20)
         run("mkntfs", "-F", "-q", "-L", label, self.image)
+        self._become_one_of_a_kind()
         cleanup.callback(self._throw_away)
+
+    def _become_one_of_a_kind(self):
+        """A serial number of its own: mkntfs gives the same one to all that it makes in a second."""
+        with open(self.image, "r+b") as file:
+            file.seek(SERIAL_NUMBER)
+            file.write(secrets.token_bytes(8))
 
     def _throw_away(self):
         self.pull()

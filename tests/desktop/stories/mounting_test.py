@@ -107,12 +107,6 @@ class Mounting(Story):
         self.wait_for_writable(stick)
         self.unmount(stick)
 
-    def in_use(self, stick, folder):
-        """A stick that somebody holds as long as the context lasts."""
-        if self.stage.mocked:
-            return stick.kept_busy()
-        return open(f"{folder}/held", "w", encoding="ascii")
-
     def test_a_hibernated_stick_is_reported_and_left_unmounted(self):
         self.start_brisel()
         stick = self.stage.new_stick("StageData")

@@ -93,6 +93,12 @@ class Story(unittest.TestCase):
         stick.wait_until_unmounted()
         self.tray.wait_until_gone(f"show {stick.label} in Finder")
 
+    def in_use(self, stick, folder):
+        """A stick that somebody holds as long as the context lasts."""
+        if self.stage.mocked:
+            return stick.kept_busy()
+        return open(f"{folder}/held", "w", encoding="ascii")
+
     def write_greeting(self, folder):
         """Puts a file on the stick that is mounted there, as the person would."""
         if not self.stage.mocked:

@@ -1,0 +1,105 @@
+# What the user's guide shows: the parts of the screen that Brisel puts there.
+# SPDX-License-Identifier: MIT
+import os
+
+from stage.notifications import NotificationWindow
+from stage.waiting import wait_for
+
+from .story import Story
+
+# The middle of the panel's one icon, and a place where the mouse points at nothing.
+ICON = (17, 16)
+ASIDE = (900, 600)
+
+
+class Guide(Story):
+    """Told only when pictures are wanted."""
+
+    def setUp(self):
+        if not self.pictures:
+            self.skipTest("no pictures are wanted")
+        super().setUp()
+
+    def test_the_notice(self):
+        self.stage.preferences.forget()
+        self.brisel = self.stage.start_brisel()
+        self.show_window("A Warning Notice - Please Read Carefully", "notice")
+
+    def test_the_prompt(self):
+        self.stage.stop_notifications()
+        self.stage.session.start_notification_server()
+        self.start_brisel()
+        self.attach("Holiday")
+        window = NotificationWindow(self.stage.session)
+        window.wait_until_shown()
+        self.show(window.wait_until_shown, "prompt")
+
+    def test_the_menu_from_nothing_to_a_writable_volume(self):
+        self.start_brisel()
+        self.tray.wait_for_colour("grey")
+        self.show_menu("menu-empty")
+        stick = self.attach("Holiday")
+        self.tray.wait_for_colour("green")
+        self.show_menu("menu-read-only")
+        self.make_writable(stick)
+        self.show_menu("menu")
+
+    def test_the_menu_of_several_volumes(self):
+        self.start_brisel()
+        first = self.attach("Holiday")
+        self.make_writable(first)
+        posted = len(self.notifications.posted)
+        second = self.attach("Music")
+        self.accept_prompt(second, posted)
+        self.wait_for_writable(second)
+        self.tray.choose("mount automatically", below="show Music in Finder")
+        self.tray.wait_for_entry("mount manually")
+        self.attach("Work")
+        self.tray.wait_for_entry("re-mount Work")
+        self.show_menu("menu-several")
+
+    def test_the_alert_of_a_volume_in_use(self):
+        self.start_brisel()
+        stick = self.attach("Holiday")
+        folder = self.make_writable(stick)
+        with self.in_use(stick, folder):
+            self.tray.choose("unmount")
+            alert = self.show_window('Volume "Holiday" not unmountable', "alert")
+            self.stage.alerts.answer(alert, "Return")
+
+    def test_the_menu_in_a_window(self):
+        self.start_brisel()
+        self.attach("Holiday")
+        self.tray.wait_for_colour("green")
+        self.stage.start_brisel()
+        window = wait_for(self.stage.alerts.windows, "the menu is shown in a window")[0]
+        self.show(lambda: self.stage.session.geometry(window), "menu-window")
+
+    def show_window(self, text, name):
+        """Keeps a picture of the alert that says `text`; the alert."""
+        alert = self.stage.alerts.wait_for(text)
+        self.show(lambda: self.stage.session.geometry(alert), name)
+        return alert
+
+    def show_menu(self, name):
+        """Opens the menu, keeps a picture of it and of the icon above it, and closes it."""
+        session = self.stage.session
+        session.click(*ICON)
+        wait_for(session.open_menu, "there is a menu")
+        session.run("xdotool", "mousemove", *map(str, ASIDE))
+        session.wait_until_still()
+        left, top, width, height = session.open_menu()
+        self.keep((left, 0, width, top + height), name)
+        session.press("Escape")
+        wait_for(lambda: not session.open_menu(), "the menu closes")
+
+    def show(self, place, name):
+        """Keeps a picture of what is at `place()` once it is there wholly."""
+        self.stage.session.wait_until_still()
+        self.keep(place(), name)
+
+    def keep(self, part, name):
+        self.stage.session.screenshot(os.path.join(self.pictures, f"{name}.png"), part)
+
+    def take_picture(self, moment):
+        """None of those that are only for whoever wonders what went wrong."""
