@@ -47,6 +47,11 @@ done
 
 dpkg-deb -f "$folder"/brisel_*.deb Depends | grep -q 'brisel-mount-tool\|pkexec' &&
     complain "brisel drags code in that runs as root."
+# As the documents install it.
+apt-get install --simulate "$folder"/brisel_*.deb >"$folder/simulated" 2>&1 || {
+    cat "$folder/simulated"
+    complain "brisel would not be installed."
+}
 lintian --allow-root --fail-on error,warning "$folder"/*.deb ||
     complain "lintian finds fault with the packages."
 exit $failures

@@ -3,13 +3,15 @@
 import os
 
 from stage.notifications import NotificationWindow
-from stage.waiting import wait_for
+from stage.waiting import NeverHappened, wait_for
 
 from .story import Story
 
 # The middle of the panel's one icon, and a place where the mouse points at nothing.
 ICON = (17, 16)
 ASIDE = (900, 600)
+# What an entry of a menu has at least.
+LEAST_HEIGHT = 20
 
 
 class Guide(Story):
@@ -83,13 +85,31 @@ class Guide(Story):
 
     def show_menu(self, name):
         """Opens the menu, keeps a picture of it and of the icon above it, and closes it."""
+        left, top, width, height = wait_for(self.open_whole_menu, "there is a whole menu")
+        self.keep((left, 0, width, top + height), name)
+        self.close_menu()
+
+    def open_whole_menu(self):
+        """Clicks on the icon; where the menu is, if it has grown to all that is in it by now."""
         session = self.stage.session
+        session.wait_until_still()
         session.click(*ICON)
-        wait_for(session.open_menu, "there is a menu")
+        try:
+            wait_for(session.open_menu, "there is a menu", seconds=1)
+        except NeverHappened:
+            # The panel had not put the icon in its place yet.
+            return None
         session.run("xdotool", "mousemove", *map(str, ASIDE))
         session.wait_until_still()
-        left, top, width, height = session.open_menu()
-        self.keep((left, 0, width, top + height), name)
+        place = session.open_menu()
+        entries = [label for label in self.tray.labels() if label]
+        if place and place[3] > LEAST_HEIGHT * len(entries):
+            return place
+        self.close_menu()
+        return None
+
+    def close_menu(self):
+        session = self.stage.session
         session.press("Escape")
         wait_for(lambda: not session.open_menu(), "the menu closes")
 

@@ -1,0 +1,87 @@
+# What stands in the documents: commands, what programs print, links and headings.
+# SPDX-License-Identifier: MIT
+import re
+from dataclasses import dataclass
+
+FENCE = re.compile(r"^\s*```(\S*)\s*$")
+# A comment behind a command. No command in the documents has such a sign otherwise.
+COMMENT = re.compile(r"\s+#\s.*$")
+SPAN = re.compile(r"(?<!`)`((?:(?!\n\n)[^`])+)`(?!`)")
+LINK = re.compile(r"\[(?:[^\[\]]|\[[^\]]*\])*\]\(([^()\s]+)\)")
+HEADING = re.compile(r"^#+\s+(.*?)\s*$", re.MULTILINE)
+
+
+@dataclass
+class Block:
+    """What stands between fences. `kind` is the word behind the first fence."""
+
+    kind: str
+    line: int
+    lines: list
+
+
+class Document:
+    """One file in Markdown."""
+
+    def __init__(self, root, path):
+        self.path = path
+        self.name = str(path.relative_to(root))
+        self.blocks = []
+        self._prose = self._read(path.read_text(encoding="utf-8").splitlines())
+
+    def _read(self, lines):
+        """Takes the blocks out; what is left, in as many lines."""
+        prose = []
+        block = None
+        for number, line in enumerate(lines, 1):
+            fence = FENCE.match(line)
+            prose.append("" if block or fence else line)
+            if fence and block:
+                self.blocks.append(block)
+                block = None
+            elif fence:
+                block = Block(fence.group(1), number, [])
+            elif block:
+                block.lines.append(line)
+        return "\n".join(prose)
+
+    def typed(self):
+        """Line and text of each command in a block; one that goes on in the next line is one."""
+        for block in self.blocks:
+            if block.kind != "sh":
+                continue
+            text = "\n".join(block.lines).replace("\\\n", " ")
+            for offset, line in enumerate(text.split("\n"), 1):
+                command = " ".join(COMMENT.sub("", line).split())
+                if command and not command.startswith("#"):
+                    yield block.line + offset, command
+
+    def spans(self):
+        """Line and text of what stands in backquotes."""
+        for found in SPAN.finditer(self._prose):
+            yield self._line(found), " ".join(found.group(1).split())
+
+    def links(self):
+        """Line and target of each link and picture."""
+        # As long as it was, so that lines stay where they are.
+        text = SPAN.sub(lambda span: re.sub(r"[^\n]", "x", span.group(0)), self._prose)
+        for found in LINK.finditer(text):
+            yield self._line(found), found.group(1)
+
+    def anchors(self):
+        """What may stand behind # in a link to this document, made as web pages make it."""
+        seen = {}
+        for found in HEADING.finditer(self._prose):
+            anchor = re.sub(r"[^\w\- ]", "", found.group(1).lower()).replace(" ", "-")
+            count = seen.get(anchor, 0)
+            seen[anchor] = count + 1
+            yield f"{anchor}-{count}" if count else anchor
+
+    def _line(self, found):
+        return self._prose.count("\n", 0, found.start()) + 1
+
+
+def all_documents(root):
+    """Everything in Markdown that is for readers."""
+    files = [*sorted(root.glob("*.md")), *sorted((root / "docs").rglob("*.md"))]
+    return [Document(root, file) for file in files]
