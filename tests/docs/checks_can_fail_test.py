@@ -20,7 +20,7 @@ class Tree(unittest.TestCase):
         self.addCleanup(scratch.cleanup)
         self.root = pathlib.Path(scratch.name)
         for name, text in {"CMakePresets.json": PRESETS, "CMakeLists.txt": "option(BRISEL_TESTS)\n",
-                           "Makefile": "all:\n\ttrue\nother:\n\tcmake --preset gone\n",
+                           "Makefile": ".PHONY: empty\nall:\n\ttrue\nother:\n\tcmake --preset gone\n",
                            ".ci/run": "make other\n", "tests/docs/commands.txt": "",
                            "docs/pictures/used.png": "", "scripts/tool": "",
                            "README.md": "![](docs/pictures/used.png)\n"}.items():
@@ -90,6 +90,7 @@ class Commands(Tree):
     def test_must_do_what_is_said_of_them(self):
         self.check_way("false", "run", "it ends with 1")
         self.check_way("make gone", "make", "make does not know that target")
+        self.check_way("make empty", "make", "make does nothing for that target")
         self.check_way("make other", "make", "there is no configure preset gone")
         self.check_way("make", "part of make other", "`make other` does not do `true`")
         self.check_way("make", "ci", ".ci/run does not run it")
@@ -108,7 +109,7 @@ class Commands(Tree):
 
     def test_may_be_options_that_cmake_knows(self):
         self.assertEqual(self.complaints("`-DBRISEL_TESTS=OFF`"), "")
-        self.assertIn("CMake is told nothing of GONE", self.complaints("`-DGONE=OFF`"))
+        self.assertIn("CMake is told nothing of BRISEL", self.complaints("`-DBRISEL=OFF`"))
 
 
 class Links(Tree):

@@ -3,6 +3,7 @@
 #
 # usage: commands_test.py ROOT BUILD PROGRAMS
 import pathlib
+import re
 import sys
 
 from accounts import named_commands, read_accounts
@@ -27,7 +28,7 @@ def complaints_about_options(house, documents):
     for document in documents:
         for line, span in document.spans():
             name = span.removeprefix("-D").partition("=")[0]
-            if span.startswith("-D") and name not in house.cmake_text:
+            if span.startswith("-D") and not re.search(rf"\b{name}\b", house.cmake_text):
                 yield f"{document.name}:{line}: CMake is told nothing of {name}."
 
 

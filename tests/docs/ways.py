@@ -66,6 +66,8 @@ class Ways:
         recipe = self._house.recipe(command.split()[1:])
         if recipe is None:
             yield "make does not know that target"
+        elif all(line.startswith("make: ") for line in recipe):
+            yield "make does nothing for that target"
         for line in recipe or ():
             for complaint in self._house.complaints(line):
                 yield f"its step `{line}`: {complaint}"
