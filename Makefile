@@ -1,5 +1,5 @@
 # What there is to do with the sources; CMakePresets.json says how each build is made.
-.PHONY: all run test macos-stage bench bench-desktop package coverage tidy format clean
+.PHONY: all run test macos-stage bench bench-desktop package coverage tidy diagram format clean
 
 all:
 	scripts/install-needs build
@@ -66,6 +66,11 @@ coverage:
 tidy:
 	scripts/install-needs test
 	scripts/tidy
+
+# The drawing in docs/architecture.md.
+diagram:
+	scripts/install-needs diagram
+	dot -Tsvg docs/architecture.dot -o docs/pictures/architecture.svg
 
 format:
 	git ls-files '*.h' '*.cpp' '*.mm' | xargs clang-format -i

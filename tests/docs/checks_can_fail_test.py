@@ -5,6 +5,7 @@ import tempfile
 import unittest
 
 import commands_test
+import diagram_test
 import links_test
 from house import House
 from printed_test import is_printed
@@ -127,6 +128,11 @@ class Links(Tree):
         self.assertIn("this document has no heading for #gone", self.complaints("[a](#gone)"))
         self.assertIn("README.md has no heading for #gone", self.complaints("[a](README.md#gone)"))
 
+    def test_must_lead_to_the_name_they_have(self):
+        self.write("src/a.cpp", "void inProgress() {}\n")
+        self.assertEqual(self.complaints("[`inProgress`](src/a.cpp)"), "")
+        self.assertIn("README.md:3: src/a.cpp has no progress", self.complaints("[`progress`](src/a.cpp)"))
+
     def test_must_show_each_picture(self):
         self.write("docs/pictures/unused.png", "")
         self.assertIn("docs/pictures/unused.png is in no document", self.complaints(""))
@@ -134,6 +140,33 @@ class Links(Tree):
     def test_must_not_show_large_pictures(self):
         self.write("docs/pictures/used.png", "x" * 60_001)
         self.assertIn("has more than 60000 bytes", self.complaints(""))
+
+
+class Diagram(Tree):
+    def complaints(self, includes, drawing):
+        self.write("src/app/a.cpp", "".join(f'#include "{file}"\n' for file in includes))
+        self.write("src/app/a.h", "")
+        self.write("src/volumes/v.h", '#include "platform/p.h"\n')
+        self.write("src/platform/p.h", "")
+        self.write("docs/architecture.dot", f"digraph {{ {drawing} }}")
+        return "\n".join(diagram_test.complaints_about_arrows(self.root))
+
+    def test_is_good_with_what_is_included(self):
+        self.assertEqual(self.complaints(["app/a.h", "volumes/v.h", "platform/p.h"],
+                                         '"app" -> "volumes" "volumes" -> "platform"'), "")
+
+    def test_must_have_each_include(self):
+        self.assertIn("app includes volumes, which is not drawn",
+                      self.complaints(["volumes/v.h"], '"volumes" -> "platform"'))
+
+    def test_must_have_no_more(self):
+        self.assertIn("app -> platform is drawn, and no file of app includes one of platform",
+                      self.complaints([], '"app" -> "platform" "volumes" -> "platform"'))
+
+    def test_must_not_draw_what_follows(self):
+        self.assertIn("app -> platform is drawn, and follows from other arrows",
+                      self.complaints(["volumes/v.h", "platform/p.h"],
+                                      '"app" -> "volumes" "volumes" -> "platform" "app" -> "platform"'))
 
 
 class WhatIsPrinted(unittest.TestCase):

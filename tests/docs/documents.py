@@ -7,6 +7,8 @@ FENCE = re.compile(r"^\s*```(\S*)\s*$")
 # A comment behind a command. No command in the documents has such a sign otherwise.
 COMMENT = re.compile(r"\s+#\s.*$")
 SPAN = re.compile(r"(?<!`)`((?:(?!\n\n)[^`])+)`(?!`)")
+# A link whose text is a name in the sources.
+NAME_LINK = re.compile(r"\[`([^`\[\]]+)`\]\(([^()\s#]+)\)")
 LINK = re.compile(r"\[(?:[^\[\]]|\[[^\]]*\])*\]\(([^()\s]+)\)")
 HEADING = re.compile(r"^#+\s+(.*?)\s*$", re.MULTILINE)
 
@@ -67,6 +69,11 @@ class Document:
         text = SPAN.sub(lambda span: re.sub(r"[^\n]", "x", span.group(0)), self._prose)
         for found in LINK.finditer(text):
             yield self._line(found), found.group(1)
+
+    def names(self):
+        """Line, name and target of each link to a name in a file."""
+        for found in NAME_LINK.finditer(self._prose):
+            yield self._line(found), found.group(1), found.group(2)
 
     def anchors(self):
         """What may stand behind # in a link to this document, made as web pages make it."""

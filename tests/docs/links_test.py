@@ -1,8 +1,9 @@
-# Checks that links in the documents lead somewhere, and that pictures are there, small and used.
+# Checks that links in the documents lead to what they say, and that pictures are there and used.
 # SPDX-License-Identifier: MIT
 #
 # usage: links_test.py ROOT
 import pathlib
+import re
 import sys
 
 from documents import all_documents
@@ -26,6 +27,15 @@ def complaint_about(document, target, anchors):
     return None
 
 
+def complaints_about_names(document):
+    """A sentence for each link to a name that its file does not have."""
+    for line, name, target in document.names():
+        file, _ = target_of(document, target)
+        word = re.escape(name.split("::")[-1])
+        if file.is_file() and not re.search(rf"\b{word}\b", file.read_text(encoding="utf-8")):
+            yield f"{document.name}:{line}: {target} has no {name}."
+
+
 def complaints(root):
     """A sentence for each link or picture that is not as it should be."""
     documents = all_documents(root)
@@ -38,6 +48,7 @@ def complaints(root):
             used.add(target_of(document, target)[0])
             if complaint := complaint_about(document, target, anchors):
                 yield f"{document.name}:{line}: {complaint}."
+        yield from complaints_about_names(document)
     for picture in sorted((root / PICTURES).glob("*")):
         if picture.resolve() not in used:
             yield f"{PICTURES}/{picture.name} is in no document: show it or remove it."

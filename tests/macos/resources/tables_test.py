@@ -40,8 +40,8 @@ def placeholders(text):
 
 
 class Tables(unittest.TestCase):
-    def test_are_there_in_eight_languages(self):
-        self.assertEqual(LANGUAGES, ["de", "en", "es", "fr", "it", "ja", "pt", "zh-Hans"])
+    def test_are_there_in_eight_languages_at_least(self):
+        self.assertGreaterEqual(set(LANGUAGES), {"de", "en", "es", "fr", "it", "ja", "pt", "zh-Hans"})
 
     def test_have_the_same_keys_in_all_languages(self):
         for table in TABLES:
