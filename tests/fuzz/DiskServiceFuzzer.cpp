@@ -97,27 +97,22 @@ class Nonsense {
 
     /// `a{sv}`
     [[nodiscard]] GVariant* properties() {
-        GVariantBuilder builder;
-        g_variant_builder_init(&builder, G_VARIANT_TYPE_VARDICT);
-        while (goesOn()) {
+        return dictionary("a{sv}", [this](GVariantBuilder& builder) {
             const auto property = input_.PickValueInArray(Properties);
             const bool fits = input_.ConsumeIntegralInRange(0, 3) > 0;
             const auto made = value(fits ? property.type : input_.PickValueInArray(Types));
             g_variant_builder_add(&builder, "{sv}", property.name, made.get());
-        }
-        return g_variant_builder_end(&builder);
+        });
     }
 
     /// `a{sa{sv}}`
     [[nodiscard]] GVariant* interfaces() {
-        GVariantBuilder builder;
-        g_variant_builder_init(&builder, G_VARIANT_TYPE("a{sa{sv}}"));
-        while (goesOn())
+        return dictionary("a{sa{sv}}", [this](GVariantBuilder& builder) {
             g_variant_builder_add(&builder, "{s@a{sv}}", interface(), properties());
-        return g_variant_builder_end(&builder);
+        });
     }
 
-    /// `a{oa{sa{sv}}}`
+    /// `a{oa{sa{sv}}}`, a disk in order at its end.
     [[nodiscard]] GVariant* objects() {
         GVariantBuilder builder;
         g_variant_builder_init(&builder, G_VARIANT_TYPE("a{oa{sa{sv}}}"));
@@ -167,6 +162,15 @@ class Nonsense {
     }
 
   private:
+    [[nodiscard]] GVariant* dictionary(const char* type,
+                                       const std::function<void(GVariantBuilder&)>& addEntry) {
+        GVariantBuilder builder;
+        g_variant_builder_init(&builder, G_VARIANT_TYPE(type));
+        while (goesOn())
+            addEntry(builder);
+        return g_variant_builder_end(&builder);
+    }
+
     FuzzedDataProvider& input_;
 };
 
