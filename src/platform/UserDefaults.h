@@ -20,7 +20,8 @@ class UserDefaults {
 
     /// Answers for keys that are not stored; never written to disk. Repeating it is harmless.
     virtual void registerDefaults(const std::map<std::string, bool>& defaults) = 0;
-    /// The stored value, else the registered one, else no; no for a value of another type.
+    /// The stored value, else the registered one, else no. A value of another type is no, or as if
+    /// it were not stored where people write the file themselves.
     [[nodiscard]] virtual bool boolForKey(std::string_view key) const = 0;
     /// Null when the key is absent or holds anything but a list of texts.
     [[nodiscard]] virtual StringArray stringArrayForKey(std::string_view key) const = 0;

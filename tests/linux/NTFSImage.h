@@ -11,6 +11,11 @@ std::string shell(const std::string& command);
 /// Whether a shell command ends with status 0.
 bool succeeds(const std::string& command);
 
+/// A shell command that fills the volume it runs on until not even an empty file has room.
+inline constexpr const char* Filling =
+    "{ dd if=/dev/zero of=filling bs=64k; i=0; while touch filling-$i; do i=$((i + 1)); done; "
+    "true; }";
+
 class NTFSImage {
   public:
     /// Makes the image in the folder; it is not attached yet.

@@ -81,13 +81,27 @@ TEST(TheUsersLanguage, IsNamedAsTheTablesAre) {
     const Variable locale("LC_ALL", "");
     const auto languageFor = [](const char* value) {
         const Variable language("LANGUAGE", value);
-        return userLanguage();
+        return userLanguages().front();
     };
     EXPECT_EQ(languageFor("de_DE.UTF-8"), "de");
     EXPECT_EQ(languageFor("pt_BR"), "pt");
     EXPECT_EQ(languageFor("sr_RS@latin"), "sr");
     EXPECT_EQ(languageFor("zh_CN.UTF-8"), "zh-Hans");
     EXPECT_EQ(languageFor("fr:de"), "fr");
+}
+
+TEST(TheUsersLanguages, ComeInTheirOrder) {
+    const Variable locale("LC_ALL", "");
+    const Variable language("LANGUAGE", "nl:de_AT");
+    EXPECT_THAT(userLanguages(), testing::ElementsAre("nl", "de", "de", "C"));
+}
+
+TEST(TheUsersLanguages, AreTriedUntilThereAreTexts) {
+    common::Bundle bundle;
+    bundle.setLanguages({"nl", "de", "fr"});
+    EXPECT_EQ(bundle.language(), "de");
+    bundle.setLanguages({"nl", "C"});
+    EXPECT_EQ(bundle.language(), "en");
 }
 
 TEST(TheTools, LieBesideTheProgramOrInItsLibexec) {

@@ -137,6 +137,19 @@ TEST_F(RealVolume, PulledWhileMountedLeavesTheMenuAndComesBack) {
     EXPECT_EQ(console_->quit(), 0);
 }
 
+TEST_F(RealVolume, ThatIsFullIsRemountedAllTheSame) {
+    image_->attach();
+    const auto aside = folder_ + "/aside";
+    fs::create_directory(aside);
+    ASSERT_TRUE(succeeds("ntfs-3g " + image_->device() + " " + aside + " && (cd " + aside + " && " +
+                         Filling + ") && umount " + aside));
+    startConsole();
+    const auto folder = acceptPrompt();
+    EXPECT_FALSE(succeeds("touch '" + folder + "/one-more'"));
+    ASSERT_TRUE(succeeds("rm '" + folder + "'/filling*"));
+    EXPECT_TRUE(succeeds("touch '" + folder + "/one-more'"));
+}
+
 TEST_F(RealVolume, OutlivesTheDiskService) {
     image_->attach();
     startConsole();

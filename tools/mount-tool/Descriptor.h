@@ -22,6 +22,8 @@ class Descriptor {
 
     [[nodiscard]] bool isOpen() const { return number_ >= 0; }
     [[nodiscard]] int number() const { return number_; }
+    /// Leaves it to somebody else to close.
+    int release() { return std::exchange(number_, -1); }
 
   private:
     int number_;

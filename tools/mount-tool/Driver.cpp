@@ -41,12 +41,13 @@ constexpr std::array Meanings{
 constexpr std::array ProbePaths{"/usr/bin/ntfs-3g.probe", "/bin/ntfs-3g.probe"};
 constexpr std::array DriverPaths{"/usr/bin/ntfs-3g", "/bin/ntfs-3g"};
 
-// The first of the paths that can be started; none, with `errno`, if none can.
+// The first of the paths that is there; none, with `errno`, where none is or it cannot be started.
 template <typename Paths>
 std::optional<Ended> runFirst(const Paths& paths, const std::vector<std::string>& arguments) {
     for (const char* const path : paths) {
         auto ended = run(path, arguments);
-        if (!ended) continue;
+        if (!ended && errno == ENOENT) continue;
+        if (!ended) return std::nullopt;
         std::fputs(ended->output.c_str(), stdout);
         if (!ended->output.empty() && !ended->output.ends_with('\n')) std::putchar('\n');
         return ended;
@@ -63,7 +64,10 @@ std::string optionsFor(const Person& person) {
 
 std::optional<Refusal> probe(const std::string& device) {
     const auto ended = runFirst(ProbePaths, {"--readwrite", device});
-    if (!ended || ended->status == 0) return std::nullopt;
+    // A driver that came without its probe judges the volume when it mounts it.
+    if (!ended && errno == ENOENT) return std::nullopt;
+    if (!ended) return refuseByError("The probe ntfs-3g.probe cannot be started");
+    if (ended->status == 0) return std::nullopt;
     return refusalFor(ended->status);
 }
 

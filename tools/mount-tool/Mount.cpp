@@ -9,6 +9,7 @@
 #include <sys/statvfs.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <string>
 
@@ -56,7 +57,9 @@ bool canCreateFiles(int root) {
     const Descriptor file(openat(root, name.c_str(),
                                  O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                                  S_IRUSR | S_IWUSR));
-    return file.isOpen() && unlinkat(root, name.c_str(), 0) == 0;
+    // Room can be made on a full volume.
+    if (!file.isOpen()) return errno == ENOSPC || errno == EDQUOT;
+    return unlinkat(root, name.c_str(), 0) == 0;
 }
 
 bool isFUSE(int root) {

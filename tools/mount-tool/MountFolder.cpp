@@ -32,32 +32,35 @@ std::optional<struct statx> factsOf(int folder) {
     return facts;
 }
 
-// Kernels before 5.8 know no mount ids; there the file system has to do.
-bool isPlainFolderOf(int parent, int folder) {
+// Kernels before 5.8 know no mount ids; there the file system has to do. None, with `errno`, where
+// one of them cannot be examined.
+std::optional<bool> isPlainFolderOf(int parent, int folder) {
     const auto outer = factsOf(parent);
+    if (!outer) return std::nullopt;
     const auto inner = factsOf(folder);
-    if (!outer || !inner) return false;
+    if (!inner) return std::nullopt;
     const bool sameMount =
         (inner->stx_mask & STATX_MNT_ID) == 0 || inner->stx_mnt_id == outer->stx_mnt_id;
     return sameMount && inner->stx_dev_major == outer->stx_dev_major &&
            inner->stx_dev_minor == outer->stx_dev_minor;
 }
 
-bool isEmpty(int folder) {
+// None, with `errno`, where it cannot be listed.
+std::optional<bool> isEmpty(int folder) {
     // A second descriptor, because reading takes it over.
-    const int list = openat(folder, ".", Folder);
-    if (list < 0) return false;
-    const std::unique_ptr<DIR, int (*)(DIR*)> entries(fdopendir(list), &closedir);
-    if (!entries) {
-        close(list);
-        return false;
-    }
+    Descriptor list(openat(folder, ".", Folder));
+    if (!list.isOpen()) return std::nullopt;
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(fdopendir(list.number()), &closedir);
+    if (!entries) return std::nullopt;
+    // The list of entries closes it from here on.
+    list.release();
     errno = 0;
     while (const dirent* const entry = readdir(entries.get())) {
         const std::string_view name = entry->d_name;
         if (name != "." && name != "..") return false;
     }
-    return errno == 0;
+    if (errno != 0) return std::nullopt;
+    return true;
 }
 
 }  // namespace
@@ -71,9 +74,12 @@ Result<MountFolder> MountFolder::open(const Person& person, const std::string& l
     auto folder = owned(Descriptor(openat(parent->number(), label.c_str(), Folder | O_NOFOLLOW)),
                         person, "The mount point");
     if (!folder) return folder.refusal();
-    if (!isPlainFolderOf(parent->number(), folder->number()))
-        return refuse("Something is mounted on the mount point already.");
-    if (!isEmpty(folder->number())) return refuse("The mount point is not empty.");
+    const auto plain = isPlainFolderOf(parent->number(), folder->number());
+    if (!plain) return refuseByError("The mount point cannot be examined");
+    if (!*plain) return refuse("Something is mounted on the mount point already.");
+    const auto empty = isEmpty(folder->number());
+    if (!empty) return refuseByError("The mount point cannot be listed");
+    if (!*empty) return refuse("The mount point is not empty.");
     return MountFolder(std::move(*home), std::move(*folder), label);
 }
 

@@ -25,10 +25,12 @@ std::optional<dev_t> blockDeviceNumber(int descriptor) {
     return facts.st_rdev;
 }
 
-bool startsAsNTFS(int device) {
+// None, with `errno`, where the device cannot be read.
+std::optional<bool> startsAsNTFS(int device) {
     std::array<char, SectorSize> sector{};
-    if (pread(device, sector.data(), sector.size(), 0) != static_cast<ssize_t>(sector.size()))
-        return false;
+    const auto length = pread(device, sector.data(), sector.size(), 0);
+    if (length < 0) return std::nullopt;
+    if (length < static_cast<ssize_t>(sector.size())) return false;
     const std::string_view text(sector.data(), sector.size());
     return text.substr(NameOffset).starts_with(NTFSName) &&
            text.substr(SignatureOffset) == Signature;
@@ -46,8 +48,9 @@ Result<NTFSDevice> NTFSDevice::open(const std::string& path) {
     if (!device.isOpen()) return refuseByError("The device cannot be opened");
     if (blockDeviceNumber(device.number()) != number)
         return refuse("The device has just been replaced by another.");
-    if (!startsAsNTFS(device.number()))
-        return Refusal{NotNTFS, "There is no NTFS volume on the device."};
+    const auto isNTFS = startsAsNTFS(device.number());
+    if (!isNTFS) return refuseByError("The device cannot be read");
+    if (!*isNTFS) return Refusal{NotNTFS, "There is no NTFS volume on the device."};
     return NTFSDevice(path, std::move(device), *number);
 }
 

@@ -23,6 +23,13 @@ std::optional<uid_t> parseUID(std::string_view text) {
     return uid;
 }
 
+// Some databases of users end it in one.
+std::string withoutLastSlash(std::string folder) {
+    while (folder.size() > 1 && folder.ends_with('/'))
+        folder.pop_back();
+    return folder;
+}
+
 }  // namespace
 
 Result<Person> whoAsked(const char* pkexecUID) {
@@ -30,7 +37,7 @@ Result<Person> whoAsked(const char* pkexecUID) {
     if (!uid) return refuse("PKEXEC_UID is not the number of a user.");
     const passwd* const entry = getpwuid(*uid);
     if (entry == nullptr) return refuse("The user who asked does not exist.");
-    Person person{entry->pw_uid, entry->pw_gid, entry->pw_dir};
+    Person person{entry->pw_uid, entry->pw_gid, withoutLastSlash(entry->pw_dir)};
     if (!person.home.starts_with('/')) return refuse("The user who asked has no home folder.");
     return person;
 }

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "entry/console/Console.h"
 
-#include <glib-unix.h>
-
 #include "app/MainMenu.h"
 #include "platform/linux/Process.h"
 #include "volumes/NTFSVolumeManager.h"
@@ -15,16 +13,11 @@ namespace {
 constexpr const char* Help =
     "A number chooses from the menu, y or n answers a prompt; also: menu, quit.";
 
-gboolean terminateNow(gint /*descriptor*/, GIOCondition /*condition*/, gpointer application) {
-    static_cast<platform::Application*>(application)->terminate();
-    return G_SOURCE_REMOVE;
-}
-
 }  // namespace
 
 Console::Console(int input, std::ostream& output)
     : terminal_(input, output, interruption_.descriptor()) {
-    bundle_.setLanguage(platform::linux::userLanguage());
+    bundle_.setLanguages(platform::linux::userLanguages());
     application_.setEnd([this] { g_main_loop_quit(mainLoop_.get()); });
 }
 
@@ -36,7 +29,8 @@ void Console::run() {
     delegate_ = std::make_shared<AppDelegate>(platform_);
     statusMenu_.load(mainMenuItems(delegate_, platform_));
     application_.setTerminationStep([this] { delegate_->applicationWillTerminate(); });
-    g_unix_fd_add(interruption_.descriptor(), G_IO_IN, &terminateNow, &application_);
+    const auto ending = platform::linux::whenReadable(interruption_.descriptor(),
+                                                      [this] { application_.terminate(); });
     terminal_.print(Help);
     delegate_->awakeFromNib();
     const auto lines = terminal_.handleLines([this](const auto& line) { carryOut(line); });

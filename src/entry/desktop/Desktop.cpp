@@ -31,7 +31,7 @@ Desktop::Desktop(GDBusConnection* bus)
                    .bundle = bundle_,
                    .menu = statusMenu_,
                    .mainThread = mainThread_}) {
-    bundle_.setLanguage(platform::linux::userLanguage());
+    bundle_.setLanguages(platform::linux::userLanguages());
     application_.setEnd([this] { mainLoop_.quit(); });
 }
 

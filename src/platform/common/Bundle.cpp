@@ -23,12 +23,19 @@ const EmbeddedTable* findTable(std::string_view language) {
     return found == tables.end() ? nullptr : &*found;
 }
 
-// Drops subtags from the end until there is a table: pt-BR, then pt.
+// Drops subtags from the end until there is a table: pt-BR, then pt. Null where there is none.
 const EmbeddedTable* closestTable(std::string_view code) {
     while (!code.empty()) {
         if (const auto* const table = findTable(code)) return table;
         const auto hyphen = code.rfind('-');
         code = code.substr(0, hyphen == std::string_view::npos ? 0 : hyphen);
+    }
+    return nullptr;
+}
+
+const EmbeddedTable* firstTable(const std::vector<std::string>& codes) {
+    for (const auto& code : codes) {
+        if (const auto* const table = closestTable(code)) return table;
     }
     return findTable("en");
 }
@@ -39,8 +46,8 @@ Bundle::Bundle() {
     setLanguage("en");
 }
 
-void Bundle::setLanguage(std::string_view code) {
-    const auto* const table = closestTable(code);
+void Bundle::setLanguages(const std::vector<std::string>& codes) {
+    const auto* const table = firstTable(codes);
     language_ = table != nullptr ? table->language : "";
     texts_ = StringsTable::parse(table != nullptr ? table->text : "").value_or(StringsTable());
 }

@@ -27,7 +27,9 @@ class Bundle : public platform::Bundle {
 
     /// Takes the texts of this language, such as "de", "pt-BR" or "zh-Hans"; for an unknown
     /// variant those of the plain language, for an unknown language the English ones.
-    void setLanguage(std::string_view code);
+    void setLanguage(std::string_view code) { setLanguages({std::string(code)}); }
+    /// The same for the first of these languages that there are texts in.
+    void setLanguages(const std::vector<std::string>& codes);
     /// The language of the texts.
     [[nodiscard]] const std::string& language() const { return language_; }
 

@@ -45,12 +45,17 @@ DiskService::CallFailure noSuchDisk() {
 
 }  // namespace
 
-/// A call under way. Its end is not told once the service object has gone.
+/// A call under way. Its end is not told once the service object has gone, which the cancellable
+/// says; the error does not tell, for a service can answer with that one too.
 struct DiskService::Call {
+    Call(Done whenDone, GCancellable* service)
+        : done(std::move(whenDone)), cancellable(G_CANCELLABLE(g_object_ref(service))) {}
+
     Done done;
+    OwnedObject<GCancellable> cancellable;
 
     void end(const CallError& error, const std::string& result) const {
-        if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE) return;
+        if (g_cancellable_is_cancelled(cancellable.get()) != FALSE) return;
         done(error ? std::optional(failureOf(error.get())) : std::nullopt, result);
     }
 };
@@ -91,7 +96,7 @@ void DiskService::unmount(const std::string& device, Done done) {
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(target.get()), G_MAXINT);
     udisks_filesystem_call_unmount(target.get(), g_variant_new("a{sv}", nullptr),
                                    cancellable_.get(), &DiskService::finishUnmount,
-                                   new Call{std::move(done)});
+                                   new Call(std::move(done), cancellable_.get()));
 }
 
 void DiskService::mount(const std::string& device, const Mounting& mounting, Done done) {
@@ -110,7 +115,8 @@ void DiskService::mount(const std::string& device, const Mounting& mounting, Don
     }
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(target.get()), G_MAXINT);
     udisks_filesystem_call_mount(target.get(), g_variant_builder_end(&builder), cancellable_.get(),
-                                 &DiskService::finishMount, new Call{std::move(done)});
+                                 &DiskService::finishMount,
+                                 new Call(std::move(done), cancellable_.get()));
 }
 
 void DiskService::finishUnmount(GObject* source, GAsyncResult* result, gpointer data) {

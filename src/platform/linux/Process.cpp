@@ -10,6 +10,15 @@
 
 namespace brisel::platform::linux {
 
+namespace {
+
+std::string languageOf(const std::string& locale) {
+    if (locale.starts_with("zh")) return "zh-Hans";
+    return locale.substr(0, locale.find_first_of("_.@"));
+}
+
+}  // namespace
+
 void prepareProcess() {
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(descriptor, F_GETFD) < 0) static_cast<void>(open("/dev/null", O_RDWR) >= 0);
@@ -17,10 +26,11 @@ void prepareProcess() {
     std::signal(SIGCHLD, SIG_DFL);
 }
 
-std::string userLanguage() {
-    const std::string locale = *g_get_language_names();
-    if (locale.starts_with("zh")) return "zh-Hans";
-    return locale.substr(0, locale.find_first_of("_.@"));
+std::vector<std::string> userLanguages() {
+    std::vector<std::string> languages;
+    for (const char* const* name = g_get_language_names(); *name != nullptr; ++name)
+        languages.push_back(languageOf(*name));
+    return languages;
 }
 
 }  // namespace brisel::platform::linux

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace brisel::platform::linux {
 
@@ -10,8 +11,8 @@ namespace brisel::platform::linux {
 /// next thing that is opened would take, or ignore ended children, of which the program must hear.
 void prepareProcess();
 
-/// The user's language as the localised tables name it: de from de_DE.UTF-8, zh-Hans from zh_CN. Of
-/// use once the locale is set.
-std::string userLanguage();
+/// The user's languages, the preferred one first, as the localised tables name them: de from
+/// de_DE.UTF-8, zh-Hans from zh_CN. Of use once the locale is set.
+std::vector<std::string> userLanguages();
 
 }  // namespace brisel::platform::linux

@@ -37,6 +37,13 @@ GDBusConnection* connectionOf(GDBusObjectManager* objects) {
 
 }  // namespace
 
+/// Who has asked, and has gone when it is cancelled; the error does not tell, for a service can
+/// answer with that one too.
+struct UDisksObjects::Question {
+    UDisksObjects& asking;
+    OwnedObject<GCancellable> cancellable;
+};
+
 UDisksObjects::UDisksObjects(platform::SystemLog& log, Changed changed)
     : log_(log), changed_([this, changed = std::move(changed)] {
           noteOwner();
@@ -58,19 +65,21 @@ void UDisksObjects::connect() {
     }
     // A service that answers this has been started, by the bus if need be, and its loop turns: the
     // same question will be answered once more, without delay.
-    g_dbus_connection_call(connection.get(), BusName, ObjectPath,
-                           "org.freedesktop.DBus.ObjectManager", "GetManagedObjects", nullptr,
-                           nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
-                           &UDisksObjects::finishFirstQuestion, this);
+    g_dbus_connection_call(
+        connection.get(), BusName, ObjectPath, "org.freedesktop.DBus.ObjectManager",
+        "GetManagedObjects", nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
+        &UDisksObjects::finishFirstQuestion,
+        new Question{*this,
+                     OwnedObject<GCancellable>(G_CANCELLABLE(g_object_ref(cancellable_.get())))});
 }
 
-void UDisksObjects::finishFirstQuestion(GObject* connection, GAsyncResult* result, gpointer self) {
+void UDisksObjects::finishFirstQuestion(GObject* connection, GAsyncResult* result, gpointer data) {
+    const std::unique_ptr<Question> question(static_cast<Question*>(data));
     CallError error;
     const OwnedVariant answer(
         g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, error.receive()));
-    // Then the asking object has gone.
-    if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE) return;
-    auto& asking = *static_cast<UDisksObjects*>(self);
+    if (g_cancellable_is_cancelled(question->cancellable.get()) != FALSE) return;
+    auto& asking = question->asking;
     if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_TIMED_OUT) != FALSE) {
         asking.tryAgain(error.message());
     } else {
@@ -133,14 +142,20 @@ bool UDisksObjects::areThere() const {
 }
 
 void UDisksObjects::noteOwner() {
-    if (toldThere_ == areThere()) return;
-    toldThere_ = !toldThere_;
-    if (toldThere_) {
-        log_.log("The disk service UDisks2 is back.");
-    } else {
-        log_.log("The disk service UDisks2 has gone; waiting for it.");
-        askForRestart();
+    const bool there = areThere();
+    if (toldThere_ != there) tell(there);
+    toldThere_ = there;
+    wasThere_ = wasThere_ || there;
+}
+
+void UDisksObjects::tell(bool there) {
+    if (there) {
+        log_.log("The disk service UDisks2 is %@.", wasThere_ ? "back" : "there");
+        return;
     }
+    log_.log("The disk service UDisks2 %@; waiting for it.",
+             wasThere_ ? "has gone" : "is not there");
+    askForRestart();
 }
 
 // The bus starts the service if it can; its answer does not matter, the coming name does.

@@ -40,8 +40,10 @@ class UDisksObjects {
     void disconnect();
     void tryAgain(const std::string& reason);
     void noteOwner();
+    void tell(bool there);
     void askForRestart() const;
-    static void finishFirstQuestion(GObject* connection, GAsyncResult* result, gpointer self);
+    struct Question;
+    static void finishFirstQuestion(GObject* connection, GAsyncResult* result, gpointer data);
 
     platform::SystemLog& log_;
     Changed changed_;
@@ -51,6 +53,7 @@ class UDisksObjects {
     Subscription nextTry_;
     /// Whether the log's last word was that the service is there, which is taken for granted.
     bool toldThere_ = true;
+    bool wasThere_ = false;
 };
 
 }  // namespace brisel::platform::linux

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdlib>
 #include <fstream>
 
@@ -18,7 +19,8 @@ namespace {
 bool takesAFile(const std::string& folder) {
     auto path = folder + "/.brisel-XXXXXX";
     const int file = mkstemp(path.data());
-    if (file < 0) return false;
+    // Room can be made on a full volume.
+    if (file < 0) return errno == ENOSPC || errno == EDQUOT;
     close(file);
     return unlink(path.c_str()) == 0;
 }

@@ -7,7 +7,7 @@
 namespace brisel::platform::linux {
 
 /// Whether the kernel's table of mounts says read-write for this mount point and a file can indeed
-/// be made there; the file is removed at once.
+/// be made there, or could be if there were room; the file is removed at once.
 bool takesWriting(const std::string& mountPoint);
 
 /// Whether Windows sleeps on the volume mounted there: its hibernation file then begins with the

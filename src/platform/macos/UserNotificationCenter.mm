@@ -32,6 +32,12 @@ Error noCenter() {
             .localizedFailureReason = std::nullopt};
 }
 
+// What was raised is in the log.
+Error refused() {
+    return {.localizedDescription = "The system refused it.",
+            .localizedFailureReason = std::nullopt};
+}
+
 std::optional<Error> optionalError(NSError* error) {
     return error != nil ? std::optional(errorFrom(error)) : std::nullopt;
 }
@@ -114,7 +120,7 @@ void UserNotificationCenter::requestAuthorization(unsigned options, Authorizatio
         [center requestAuthorizationWithOptions:static_cast<UNAuthorizationOptions>(options)
                               completionHandler:completion];
     });
-    if (!asked) handler(false, noCenter());
+    if (!asked) handler(false, refused());
 }
 
 void UserNotificationCenter::addNotificationRequest(const NotificationRequest& request,
@@ -132,7 +138,7 @@ void UserNotificationCenter::addNotificationRequest(const NotificationRequest& r
         const bool added = guarded("show a notification", [&] {
             [center addNotificationRequest:requestFrom(request) withCompletionHandler:completion];
         });
-        if (!added) handler(noCenter());
+        if (!added) handler(refused());
     }
 }
 

@@ -127,6 +127,12 @@ TEST_F(RefusedRequest, IsOneForWhatIsNoBlockDevice) {
     expectRefusal(runTool(), "The device is not a block device.");
 }
 
+TEST_F(RefusedRequest, IsOneForADeviceThatCannotBeRead) {
+    const auto file = shell("losetup --noheadings --output BACK-FILE " + device_);
+    shell("truncate -s 0 '" + file + "'; blockdev --flushbufs " + device_);
+    expectNothingMounted(runTool(), 1, "The device cannot be read: Input/output error.");
+}
+
 TEST_F(RefusedRequest, IsOneForADeviceWithoutNTFS) {
     const std::string sentence = "There is no NTFS volume on the device.";
     shell("printf 'NOTFS   ' | dd of=" + device_ + " bs=1 seek=3 oflag=sync");

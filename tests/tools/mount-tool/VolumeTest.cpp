@@ -56,6 +56,14 @@ TEST_F(Volume, IsMountedReadWriteForThePersonWhoAsked) {
     EXPECT_FALSE(succeeds("setpriv --reuid 1 --regid 1 --clear-groups ls " + mountPoint()));
 }
 
+TEST_F(Volume, IsMountedThoughItIsFull) {
+    withVolume(Filling);
+    expectMounted(runTool());
+    EXPECT_FALSE(succeeds("touch " + mountPoint() + "/one-more"));
+    ASSERT_TRUE(succeeds("rm " + mountPoint() + "/filling*"));
+    EXPECT_TRUE(succeeds("touch " + mountPoint() + "/one-more"));
+}
+
 TEST_F(Volume, CanBeUnmountedAndTakenAwayAfterwards) {
     expectMounted(runTool());
     std::ofstream(mountPoint() + "/greeting.txt") << "hello";
