@@ -3,7 +3,6 @@
 #include "simulator/Commands.h"
 
 #include <algorithm>
-#include <array>
 
 namespace brisel::simulator {
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
+#include <utility>
 
 #include "simulator/Commands.h"
 

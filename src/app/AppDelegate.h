@@ -41,13 +41,16 @@ class AppDelegate final : public NTFSVolumeManagerDelegate,
     void applicationWillTerminate();
 
     // Actions of the fixed menu items.
+    /// Brings the program to the front and shows what it is.
     void bringToFront();
+    /// Adds or removes the login item, and stores the choice if the platform agreed; else says so.
     void toggleStartAtLogin();
 
     void refreshVolumes() override;
     void errorIcon() override;
     /// Shows the image for the present state and appearance.
     void refreshIcon();
+    /// What was observed has changed; only the appearance matters.
     void observeValueForKeyPath(std::string_view keyPath);
 
     /// The states of the icon, in the order of their codes.

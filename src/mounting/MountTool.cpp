@@ -1,6 +1,5 @@
 // The read-write mount by the system's mount tool, run as administrator.
 // SPDX-License-Identifier: MIT
-#include <utility>
 
 #include "mounting/Remount.h"
 #include "mounting/StatusMessages.h"

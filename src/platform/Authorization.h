@@ -39,6 +39,7 @@ struct AuthorizationItem {
     std::uint32_t flags = 0;
 };
 
+/// On success the reference may be null where the platform keeps rights by process.
 struct CreatedAuthorization {
     OSStatus status = errAuthorizationInternal;
     AuthorizationRef authorization = nullptr;
@@ -63,10 +64,10 @@ class Authorization {
     [[nodiscard]] virtual OSStatus copyRights(AuthorizationRef authorization,
                                               const AuthorizationItem& right,
                                               std::uint32_t flags) = 0;
+    /// Takes null, too.
     virtual void free(AuthorizationRef authorization, std::uint32_t flags) = 0;
 
-    /// Whether the system offers the call below. It is looked up by name, once; the answer never
-    /// changes.
+    /// Whether the system offers the call below. On a Mac it is looked up by name, once.
     [[nodiscard]] virtual bool offersExecuteWithPrivileges() const = 0;
     /// Starts the tool as root. `arguments` ends with a null and leaves the tool's path out.
     [[nodiscard]] virtual StartedTool executeWithPrivileges(AuthorizationRef authorization,

@@ -14,6 +14,7 @@ class Bundle {
 
     /// The text for this English key in the default table, or the key itself.
     [[nodiscard]] virtual std::string localizedString(std::string_view key) const = 0;
+    /// Whether there is an image of this name, which has no ending: what a status item shows.
     [[nodiscard]] virtual bool hasImage(const std::string& name) const = 0;
 };
 

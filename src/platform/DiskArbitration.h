@@ -70,7 +70,7 @@ class DiskArbitration {
     [[nodiscard]] virtual std::optional<Disk> diskFromVolumePath(
         const std::optional<FileURL>& path) = 0;
     /// The description of a report, else the current one; of a disk that is gone, the last one
-    /// known or an empty one.
+    /// known, or one that has its BSD name at most.
     [[nodiscard]] virtual DiskDescription copyDescription(const Disk& disk) = 0;
 
     /// Unmounts without force. The completion may come before the call returns.

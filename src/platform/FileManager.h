@@ -12,7 +12,7 @@
 namespace brisel::platform {
 
 struct FolderListing {
-    /// Hidden entries count, "." and ".." don't.
+    /// Hidden entries count, "." and ".." don't. Means nothing beside an error.
     std::size_t entryCount = 0;
     std::optional<Error> error;
 };
@@ -26,9 +26,11 @@ class FileManager {
     [[nodiscard]] virtual std::string homeDirectory() const = 0;
     /// Where the platform itself mounts volumes for the user: /Volumes on a Mac.
     [[nodiscard]] virtual std::string volumesDirectory() const = 0;
+    /// The process's; empty where it cannot be told.
     [[nodiscard]] virtual std::string currentDirectoryPath() const = 0;
     /// Whether the user may write at this path; no for none, and on a read-only volume.
     [[nodiscard]] virtual bool isWritableFileAtPath(const std::optional<std::string>& path) = 0;
+    /// How many entries the folder itself has.
     [[nodiscard]] virtual FolderListing contentsOfDirectory(const FileURL& folder) = 0;
     /// Makes the folder and those above it; one that is there already is no error.
     [[nodiscard]] virtual std::optional<Error> createDirectory(const std::string& path) = 0;

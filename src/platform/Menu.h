@@ -48,7 +48,7 @@ class Menu {
     virtual void removeItemsWithTags(std::span<const int> tags) = 0;
     /// Puts the item before the one at `index`, counted from the top; at most the item count.
     virtual void insertItem(MenuItem item, std::size_t index) = 0;
-    /// Sets or clears the check mark of the fixed item with this action.
+    /// Sets or clears the check mark of the fixed item with this action, if there is one.
     virtual void setChecked(std::string_view action, bool checked) = 0;
 };
 

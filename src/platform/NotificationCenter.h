@@ -9,7 +9,8 @@
 
 namespace brisel::platform {
 
-/// Synchronous: observers run on the posting thread before the call returns.
+/// Synchronous: observers run on the posting thread before the call returns, in the order in which
+/// they came. The object is compared and handed on, never kept.
 class NotificationCenter {
   public:
     /// The argument is the object the notification is about.

@@ -9,7 +9,7 @@
 
 namespace brisel::platform {
 
-/// Main thread only.
+/// The core calls it on the main thread only.
 class RunLoop {
   public:
     virtual ~RunLoop() = default;

@@ -18,9 +18,10 @@ class StatusItem {
   public:
     virtual ~StatusItem() = default;
 
-    /// Puts the item into the status bar, `length` points wide or as wide as its image.
+    /// Puts the item into the status bar, `length` points wide or as wide as its image. Once,
+    /// before all else.
     virtual void create(double length) = 0;
-    /// Lets the item show the status menu.
+    /// Lets the item show the status menu from now on.
     virtual void showStatusMenu() = 0;
     /// Shows the image of this name (see Bundle), or none.
     virtual void setImage(const std::optional<std::string>& name) = 0;

@@ -4,6 +4,7 @@
 
 namespace brisel::platform {
 
+/// Main thread only.
 class SystemVersion {
   public:
     virtual ~SystemVersion() = default;

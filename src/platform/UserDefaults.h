@@ -25,7 +25,9 @@ class UserDefaults {
     [[nodiscard]] virtual bool boolForKey(std::string_view key) const = 0;
     /// Null when the key is absent or holds anything but a list of texts.
     [[nodiscard]] virtual StringArray stringArrayForKey(std::string_view key) const = 0;
+    /// Known to this process at once, on disk at `synchronize` at the latest.
     virtual void setBool(std::string_view key, bool value) = 0;
+    /// The same; `value` must not be null.
     virtual void setStringArray(std::string_view key, StringArray value) = 0;
     /// Writes to disk now. The result is the platform's matter: it logs what it could not write.
     virtual void synchronize() = 0;

@@ -80,16 +80,17 @@ class KJPrivilegedTask : public std::enable_shared_from_this<KJPrivilegedTask> {
     /// Class and address, then the command line, its arguments in single quotes, unescaped.
     [[nodiscard]] std::string description() const;
 
+    // What is set here takes effect at the next launch.
     [[nodiscard]] const std::vector<std::string>& arguments() const { return arguments_; }
     void setArguments(std::vector<std::string> arguments);
     [[nodiscard]] const std::string& currentDirectoryPath() const { return currentDirectoryPath_; }
     void setCurrentDirectoryPath(std::string path);
     [[nodiscard]] const std::string& launchPath() const { return launchPath_; }
     void setLaunchPath(std::string path);
-    /// Called once when the poll notices the end, after the notification.
     [[nodiscard]] const TerminationHandler& terminationHandler() const {
         return terminationHandler_;
     }
+    /// Called once when the poll notices the end, after the notification.
     void setTerminationHandler(TerminationHandler handler);
 
     /// The tool's standard output; null before the first launch.

@@ -61,6 +61,8 @@ class NTFSVolumeManager {
     void goAhead(const std::shared_ptr<NTFSVolume>& volume);
 
     // mounting/Unmount.cpp
+    /// Unmounts the sender's volume without force; where no disk is mounted there, only the log
+    /// tells.
     void unmountVolume(const platform::MenuItem& sender);
 
     // mounting/Finder.cpp
@@ -72,13 +74,16 @@ class NTFSVolumeManager {
     void cleanupFinderInfo(const platform::MenuItem& sender);
 
     // volumes/AutomountActions.cpp
+    /// Puts the volume's UUID on the automount list; a volume without one gets a line in the log.
     void saveVolumeForAutomount(const platform::MenuItem& sender);
+    /// Takes it off again.
     void unsaveVolumeForAutomount(const platform::MenuItem& sender);
     /// Drops the record of an unmounted volume and its emptied mount point. Despite its name it
     /// leaves the automount list alone.
     void removeVolumeFromList(const std::shared_ptr<NTFSVolume>& volume);
 
     // app/RemountPrompt.cpp
+    /// Tells the center of the prompt's two buttons, and takes the user's responses.
     void registerNotificationCategory();
     /// Starts the remount when the user pressed the prompt's affirmative button.
     void userNotificationCenterDidReceiveNotificationResponse(

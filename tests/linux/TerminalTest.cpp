@@ -13,7 +13,7 @@
 #include "platform/common/VisibleText.h"
 #include "platform/linux/Interruption.h"
 #include "platform/terminal/Alert.h"
-#include "platform/terminal/StatusDisplay.h"
+#include "platform/terminal/StatusItem.h"
 #include "platform/terminal/Terminal.h"
 #include "platform/terminal/UserNotificationCenter.h"
 
@@ -143,7 +143,7 @@ TEST_F(Screen, NumbersTheMenuItemsThatCanBeChosen) {
     second.action = "second:";
     second.checked = true;
     menu.load({title, separator, first, second});
-    StatusDisplay display(*terminal_, menu, [](const auto&) { return Subscription(); });
+    StatusItem display(*terminal_, menu, [](const auto&) { return Subscription(); });
     display.show();
     EXPECT_THAT(shown(), HasSubstr("      Status\n      ----\n   1  First\n   2  Second [x]\n"));
     EXPECT_EQ(display.itemWithNumber("2")->title, "Second");

@@ -10,6 +10,7 @@
 
 namespace brisel::dialog {
 
+// Brisel reads these words in platform/linux/DialogProcess.cpp.
 std::string shownLine() {
     return "shown\n";
 }

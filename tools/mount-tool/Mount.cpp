@@ -12,13 +12,15 @@
 #include <cerrno>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 #include "tools/mount-tool/Driver.h"
 #include "tools/mount-tool/MountCalls.h"
 
 namespace brisel::mounttool {
 
-// Root's alone; goes with whatever is mounted on it. A mount cloned from there stays.
+// Root's alone; goes with whatever is mounted on it. A mount cloned from there stays. Brisel knows
+// the beginning of its name, and takes no notice of what is mounted there.
 class Mount::StagingFolder {
   public:
     StagingFolder() {

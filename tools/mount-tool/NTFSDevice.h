@@ -5,6 +5,7 @@
 #include <sys/types.h>
 
 #include <string>
+#include <utility>
 
 #include "tools/mount-tool/Descriptor.h"
 #include "tools/mount-tool/Result.h"

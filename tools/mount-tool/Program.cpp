@@ -9,10 +9,10 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <utility>
 
 #include "tools/mount-tool/Descriptor.h"
 

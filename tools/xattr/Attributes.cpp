@@ -5,7 +5,6 @@
 #include <sys/xattr.h>
 
 #include <cerrno>
-#include <string_view>
 #include <system_error>
 
 namespace brisel::xattr {

@@ -7,7 +7,6 @@
 
 #include <cerrno>
 #include <memory>
-#include <string_view>
 #include <system_error>
 
 namespace brisel::xattr {

@@ -23,10 +23,12 @@
 #include "platform/linux/UserDefaults.h"
 #include "platform/Platform.h"
 #include "platform/terminal/Alert.h"
-#include "platform/terminal/SmallServices.h"
-#include "platform/terminal/StatusDisplay.h"
+#include "platform/terminal/Application.h"
+#include "platform/terminal/LoginItems.h"
+#include "platform/terminal/StatusItem.h"
 #include "platform/terminal/Terminal.h"
 #include "platform/terminal/UserNotificationCenter.h"
+#include "platform/terminal/Workspace.h"
 
 namespace brisel::console {
 
@@ -60,8 +62,8 @@ class Console {
     platform::terminal::LoginItems loginItems_;
     platform::linux::RunLoop runLoop_;
     platform::linux::ScriptRunner scriptRunner_;
-    platform::terminal::StatusDisplay statusItem_{terminal_, statusMenu_,
-                                                  &platform::linux::whenMainLoopTurns};
+    platform::terminal::StatusItem statusItem_{terminal_, statusMenu_,
+                                               &platform::linux::whenMainLoopTurns};
     platform::linux::SystemVersion systemVersion_;
     platform::linux::UserDefaults userDefaults_{systemLog_,
                                                 platform::linux::UserDefaults::defaultPath()};

@@ -15,8 +15,8 @@
 #include "platform/linux/Alert.h"
 #include "platform/linux/Application.h"
 #include "platform/linux/Authorization.h"
+#include "platform/linux/CommonModesQueue.h"
 #include "platform/linux/DiskArbitration.h"
-#include "platform/linux/EveryModeQueue.h"
 #include "platform/linux/FileManager.h"
 #include "platform/linux/Installation.h"
 #include "platform/linux/Interruption.h"
@@ -55,7 +55,7 @@ class Desktop {
     platform::linux::Interruption interruption_;
     platform::linux::SystemLog systemLog_;
     platform::linux::Activation activation_;
-    platform::linux::EveryModeQueue mainThread_;
+    platform::linux::CommonModesQueue mainThread_;
     platform::linux::NotificationServer notifications_;
     platform::common::Bundle bundle_;
     platform::common::Menu statusMenu_;

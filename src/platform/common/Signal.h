@@ -11,7 +11,8 @@
 
 namespace brisel::platform::common {
 
-/// One thread. A subscription may outlive the signal; a callback may end any subscription.
+/// One thread. Slots are called in the order in which they came; one that comes during a call hears
+/// from the next on. A subscription may outlive the signal; a callback may end any subscription.
 template <typename... Arguments>
 class Signal {
   public:

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/common/StringsTable.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace brisel::platform::common {

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "platform/common/Signal.h"

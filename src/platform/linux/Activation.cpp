@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/Activation.h"
 
-#include <string_view>
 #include <utility>
 
 namespace brisel::platform::linux {

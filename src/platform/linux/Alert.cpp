@@ -10,6 +10,8 @@
 #include <chrono>
 #include <iterator>
 
+#include "platform/common/AlertButtons.h"
+
 namespace brisel::platform::linux {
 
 namespace {
@@ -18,7 +20,6 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr int NothingPressed = -1;
-constexpr const char* DefaultButton = "OK";
 
 bool isWaiting(const DialogProcess& window) {
     return window.state() == DialogProcess::State::Starting ||
@@ -35,8 +36,7 @@ int patienceWith(const DialogProcess& window, Clock::time_point latestShown) {
 }  // namespace
 
 int Alert::runModal(const AlertContent& content) {
-    auto buttons = content.buttons;
-    if (buttons.empty()) buttons.emplace_back(DefaultButton);
+    const auto buttons = common::buttonsOf(content);
     std::vector<std::string> arguments{"alert", content.messageText, content.informativeText};
     arguments.insert(arguments.end(), buttons.begin(), buttons.end());
     DialogProcess window(surroundings_.dialog, arguments);

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "platform/Alert.h"
+#include "platform/linux/CommonModesQueue.h"
 #include "platform/linux/DialogProcess.h"
-#include "platform/linux/EveryModeQueue.h"
 #include "platform/linux/NotificationServer.h"
 #include "platform/SystemLog.h"
 
@@ -26,7 +26,7 @@ class Alert final : public platform::Alert {
     /// as unanswered.
     struct Surroundings {
         platform::SystemLog& log;
-        EveryModeQueue& mainThread;
+        CommonModesQueue& mainThread;
         NotificationServer& notifications;
         int interruption;
         /// The path of the dialog program.

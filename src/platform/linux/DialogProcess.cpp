@@ -18,6 +18,7 @@ namespace brisel::platform::linux {
 
 namespace {
 
+// As tools/dialog/Protocol.cpp writes them.
 constexpr std::string_view ShownWord = "shown";
 constexpr std::string_view PressedWord = "pressed ";
 

@@ -42,7 +42,7 @@ bool isInMountFolder(const std::optional<FileURL>& path) {
     return path && path->path().starts_with(home.string() + "/.brisel/");
 }
 
-// Where the mount tool has a volume for a moment, until it is in order.
+// Where the mount tool has a volume for a moment, until it is in order: its StagingFolder.
 bool isUnderWay(const std::optional<FileURL>& path) {
     return path && path->path().starts_with("/run/brisel-");
 }

@@ -20,7 +20,7 @@ namespace brisel::platform::linux {
 /// Main thread only; everything is called back from the main context.
 class DiskService {
   public:
-    /// None on success, else the name and the message of a D-Bus error.
+    /// The name and the message of a D-Bus error; the name is empty for one made on this side.
     struct CallFailure {
         std::string errorName;
         std::string message;
@@ -30,6 +30,7 @@ class DiskService {
         std::string options;
         std::string driver;
     };
+    /// None on success; the result is the mount point, empty after an unmount.
     using Done = std::function<void(const std::optional<CallFailure>&, const std::string& result)>;
 
     /// `changed` is called as UDisksObjects says.

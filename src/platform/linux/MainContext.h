@@ -6,7 +6,6 @@
 
 #include <chrono>
 #include <functional>
-#include <memory>
 
 #include "platform/RunLoop.h"
 
@@ -23,6 +22,7 @@ namespace brisel::platform::linux {
 /// Lets `work` wait for the loop of another thread, the one that runs `context`. Any thread.
 void handTo(GMainContext* context, std::function<void()> work);
 
+/// The loop of the calling thread, also of one that is not the main thread.
 class RunLoop final : public platform::RunLoop {
   public:
     [[nodiscard]] Subscription scheduledTimer(std::chrono::milliseconds interval,

@@ -8,6 +8,7 @@ namespace brisel::platform::linux {
 
 namespace {
 
+// As tools/dialog/MenuLines.cpp reads it.
 const char* kindOf(const MenuEntry& entry) {
     switch (entry.kind) {
         case MenuEntry::Kind::Separator:

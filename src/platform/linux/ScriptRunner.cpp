@@ -6,6 +6,7 @@
 
 #include <array>
 #include <string_view>
+#include <utility>
 
 #include "platform/linux/GLibOwners.h"
 #include "platform/linux/Installation.h"

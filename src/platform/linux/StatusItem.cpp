@@ -11,7 +11,7 @@
 
 namespace brisel::platform::linux {
 
-/// What lives on the desk's thread.
+/// What lives on the tray's thread.
 struct StatusItem::Tray {
     Tray(const Surroundings& surroundings, TrayMenu::Chosen chosen,
          const std::function<void(ColourScheme::Scheme)>& changed)
@@ -30,7 +30,7 @@ StatusItem::StatusItem(const Surroundings& surroundings) : surroundings_(surroun
 
 StatusItem::~StatusItem() {
     surroundings_.menu.setChanged({});
-    desk_.post([this] { tray_.reset(); });
+    trayThread_.post([this] { tray_.reset(); });
 }
 
 StatusItem::Tray& StatusItem::tray() {
@@ -55,7 +55,7 @@ void StatusItem::setImage(const std::optional<std::string>& name) {
     const auto key = common::statusWords(name.value_or(""));
     TrayLook look{.iconName = name.value_or(""),
                   .words = surroundings_.bundle.localizedString(key)};
-    desk_.post([this, look = std::move(look)] { tray().icon.show(look); });
+    trayThread_.post([this, look = std::move(look)] { tray().icon.show(look); });
 }
 
 std::string StatusItem::effectiveAppearanceName() const {
@@ -82,7 +82,7 @@ void StatusItem::showMenu() {
     auto entries = numbered_.update(surroundings_.menu.items());
     if (entries == entries_) return;
     entries_ = std::move(entries);
-    desk_.post([this, shown = entries_] { tray().menu.show(shown); });
+    trayThread_.post([this, shown = entries_] { tray().menu.show(shown); });
 }
 
 const std::vector<MenuEntry>& StatusItem::menuEntries() {

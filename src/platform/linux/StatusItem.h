@@ -15,15 +15,15 @@
 #include "platform/common/Menu.h"
 #include "platform/common/Signal.h"
 #include "platform/linux/ColourScheme.h"
-#include "platform/linux/DeskThread.h"
-#include "platform/linux/EveryModeQueue.h"
+#include "platform/linux/CommonModesQueue.h"
 #include "platform/linux/NumberedMenu.h"
+#include "platform/linux/TrayThread.h"
 #include "platform/StatusItem.h"
 #include "platform/SystemLog.h"
 
 namespace brisel::platform::linux {
 
-/// Main thread. What the tray needs of it is handed to the desk's thread at once, so that the state
+/// Main thread. What the tray needs of it is handed to the tray's thread at once, so that the state
 /// shows also while the main thread is busy.
 class StatusItem final : public platform::StatusItem {
   public:
@@ -33,7 +33,7 @@ class StatusItem final : public platform::StatusItem {
         platform::SystemLog& log;
         const platform::Bundle& bundle;
         common::Menu& menu;
-        EveryModeQueue& mainThread;
+        CommonModesQueue& mainThread;
     };
 
     explicit StatusItem(const Surroundings& surroundings);
@@ -59,7 +59,7 @@ class StatusItem final : public platform::StatusItem {
     void showMenu();
     void showMenuSoon();
     void noteScheme(ColourScheme::Scheme scheme);
-    /// On the desk's thread.
+    /// On the tray's thread.
     [[nodiscard]] Tray& tray();
     /// `work` for the main thread, which may come to it when the item has gone: nothing then.
     [[nodiscard]] std::function<void()> whileHere(std::function<void()> work) const;
@@ -75,7 +75,7 @@ class StatusItem final : public platform::StatusItem {
     /// There as long as the item.
     std::shared_ptr<void> here_ = std::make_shared<char>();
     std::unique_ptr<Tray> tray_;
-    DeskThread desk_;
+    TrayThread trayThread_;
 };
 
 }  // namespace brisel::platform::linux

@@ -15,6 +15,7 @@ class SystemVersion final : public platform::SystemVersion {
     [[nodiscard]] bool isMacOS12OrLater() const override { return hasMountTool_; }
 
   private:
+    // What the core then runs.
     const bool hasMountTool_ = access("/sbin/mount_ntfs", X_OK) == 0;
 };
 

@@ -4,6 +4,8 @@
 
 #import <Foundation/Foundation.h>
 
+#include <utility>
+
 #include "platform/macos/Exceptions.h"
 #include "platform/macos/Owned.h"
 #include "platform/macos/Text.h"

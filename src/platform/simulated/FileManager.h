@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <string>
+#include <utility>
 
 #include "platform/FileManager.h"
 #include "platform/simulated/DiskArbitration.h"

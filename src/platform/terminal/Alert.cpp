@@ -4,6 +4,8 @@
 
 #include <sstream>
 
+#include "platform/common/AlertButtons.h"
+
 namespace brisel::platform::terminal {
 
 namespace {
@@ -13,8 +15,7 @@ constexpr int NothingPressed = -1;
 }  // namespace
 
 int Alert::runModal(const AlertContent& content) {
-    auto buttons = content.buttons;
-    if (buttons.empty()) buttons.emplace_back("OK");
+    const auto buttons = common::buttonsOf(content);
     terminal_.print("");
     terminal_.print("! " + content.messageText);
     std::istringstream lines(content.informativeText);

@@ -29,6 +29,7 @@ class Terminal {
     void print(std::string_view text);
     /// Blocks until a line was typed; none at the end of input or once interrupted.
     [[nodiscard]] std::optional<std::string> ask(std::string_view question);
+    /// One handler at a time; what was typed before comes to it when the loop turns.
     [[nodiscard]] Subscription handleLines(LineHandler handler);
 
   private:

@@ -62,7 +62,7 @@ class AnAlert : public testing::Test {
 
     tests::TestLoop loop_;
     tests::RecordedLog log_;
-    EveryModeQueue mainThread_;
+    CommonModesQueue mainThread_;
     tests::BusyNotifications desktop_{{}};
     NotificationServer notifications_{tests::SessionBus::shared().program()};
 };

@@ -6,8 +6,8 @@
 
 #include <thread>
 
-#include "platform/linux/DeskThread.h"
-#include "platform/linux/EveryModeQueue.h"
+#include "platform/linux/CommonModesQueue.h"
+#include "platform/linux/TrayThread.h"
 #include "tests/linux/desktop/SessionBus.h"
 
 namespace brisel::platform::linux {
@@ -29,7 +29,7 @@ class TheQueue : public testing::Test {
     }
 
     tests::TestLoop loop_;
-    std::unique_ptr<EveryModeQueue> queue_ = std::make_unique<EveryModeQueue>();
+    std::unique_ptr<CommonModesQueue> queue_ = std::make_unique<CommonModesQueue>();
     std::vector<std::string> events_;
 };
 
@@ -100,7 +100,7 @@ TEST(TheDesk, WorksInOrderOnAThreadOfItsOwn) {
     std::vector<int> done;
     std::thread::id worker;
     {
-        DeskThread desk;
+        TrayThread desk;
         for (const int piece : {1, 2, 3})
             desk.post([&done, piece] { done.push_back(piece); });
         desk.post([&worker] { worker = std::this_thread::get_id(); });
@@ -112,12 +112,12 @@ TEST(TheDesk, WorksInOrderOnAThreadOfItsOwn) {
 
 TEST(TheDesk, EndsEvenIfItHasHardlyBegun) {
     for (int time = 0; time < 50; ++time)
-        DeskThread desk;
+        TrayThread desk;
 }
 
 TEST(TheDesk, LeavesTheMainThreadsLoopToIt) {
     const tests::TestLoop loop;
-    DeskThread desk;
+    TrayThread desk;
     std::thread::id worker;
     bool done = false;
     desk.post([&] {

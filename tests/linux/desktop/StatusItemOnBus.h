@@ -30,7 +30,7 @@ class StatusItemOnBus : public testing::Test {
     RecordedLog log_;
     platform::common::Bundle bundle_;
     platform::common::Menu menu_;
-    platform::linux::EveryModeQueue mainThread_;
+    platform::linux::CommonModesQueue mainThread_;
     std::unique_ptr<platform::linux::StatusItem> item_;
 };
 

@@ -12,14 +12,14 @@ namespace brisel::platform::linux {
 
 /// Made on the main thread, whose loop does the work that comes in; so does an alert while it
 /// waits.
-class EveryModeQueue {
+class CommonModesQueue {
   public:
-    EveryModeQueue();
-    EveryModeQueue(const EveryModeQueue&) = delete;
-    EveryModeQueue& operator=(const EveryModeQueue&) = delete;
-    ~EveryModeQueue();
+    CommonModesQueue();
+    CommonModesQueue(const CommonModesQueue&) = delete;
+    CommonModesQueue& operator=(const CommonModesQueue&) = delete;
+    ~CommonModesQueue();
 
-    /// Any thread.
+    /// In order; what still waits when the queue goes is dropped. Any thread.
     void post(std::function<void()> work);
     /// Readable while there is work to do.
     [[nodiscard]] int descriptor() const { return event_; }

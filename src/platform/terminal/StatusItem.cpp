@@ -1,11 +1,10 @@
 // The status item and its menu as lines on the terminal.
 // SPDX-License-Identifier: MIT
-#include "platform/terminal/StatusDisplay.h"
+#include "platform/terminal/StatusItem.h"
 
 #include <algorithm>
 #include <iterator>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "platform/common/StatusWords.h"
@@ -27,12 +26,12 @@ std::vector<MenuItem> choosableItems(const common::Menu& menu) {
 
 }  // namespace
 
-void StatusDisplay::setImage(const std::optional<std::string>& name) {
+void StatusItem::setImage(const std::optional<std::string>& name) {
     state_ = common::statusWords(name.value_or(""));
     pending_ = later_([this] { showIfChanged(); });
 }
 
-std::string StatusDisplay::text() const {
+std::string StatusItem::text() const {
     std::string text = "[Brisel: " + state_ + "]\n";
     std::size_t number = 0;
     for (const auto& item : menu_.items()) {
@@ -49,11 +48,11 @@ std::string StatusDisplay::text() const {
     return text;
 }
 
-void StatusDisplay::showIfChanged() {
+void StatusItem::showIfChanged() {
     if (text() != shown_) show();
 }
 
-void StatusDisplay::show() {
+void StatusItem::show() {
     shown_ = text();
     shownItems_ = choosableItems(menu_);
     std::string_view rest = shown_;
@@ -64,7 +63,7 @@ void StatusDisplay::show() {
     }
 }
 
-const MenuItem* StatusDisplay::itemWithNumber(const std::string& number) const {
+const MenuItem* StatusItem::itemWithNumber(const std::string& number) const {
     const auto position = numberUpTo(number, shownItems_.size());
     return position ? &shownItems_[*position - 1] : nullptr;
 }

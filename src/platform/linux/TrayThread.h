@@ -12,13 +12,13 @@ namespace brisel::platform::linux {
 /// Turns GLib's default context. The main thread may be kept for minutes by an alert, a password
 /// prompt or a tool; meanwhile the panel goes on asking for the icon and the menu, and gets its
 /// answers from here.
-class DeskThread {
+class TrayThread {
   public:
-    DeskThread();
-    DeskThread(const DeskThread&) = delete;
-    DeskThread& operator=(const DeskThread&) = delete;
+    TrayThread();
+    TrayThread(const TrayThread&) = delete;
+    TrayThread& operator=(const TrayThread&) = delete;
     /// Ends the thread; work that still waits is dropped.
-    ~DeskThread();
+    ~TrayThread();
 
     /// Lets `work` run on the thread. Any thread.
     void post(std::function<void()> work);

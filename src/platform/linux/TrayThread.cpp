@@ -1,6 +1,6 @@
 // The thread that serves the desktop.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/DeskThread.h"
+#include "platform/linux/TrayThread.h"
 
 #include <utility>
 
@@ -8,16 +8,16 @@
 
 namespace brisel::platform::linux {
 
-DeskThread::DeskThread() : thread_([this] { g_main_loop_run(loop_); }) {}
+TrayThread::TrayThread() : thread_([this] { g_main_loop_run(loop_); }) {}
 
-DeskThread::~DeskThread() {
+TrayThread::~TrayThread() {
     // As work of its own: a loop that does not run yet would miss the call.
     post([this] { g_main_loop_quit(loop_); });
     thread_.join();
     g_main_loop_unref(loop_);
 }
 
-void DeskThread::post(std::function<void()> work) {
+void TrayThread::post(std::function<void()> work) {
     handTo(g_main_loop_get_context(loop_), std::move(work));
 }
 

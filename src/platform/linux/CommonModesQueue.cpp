@@ -1,6 +1,6 @@
 // Work for the main thread that does not wait until an alert is closed.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/EveryModeQueue.h"
+#include "platform/linux/CommonModesQueue.h"
 
 #include <sys/eventfd.h>
 #include <unistd.h>
@@ -11,22 +11,22 @@
 
 namespace brisel::platform::linux {
 
-EveryModeQueue::EveryModeQueue()
+CommonModesQueue::CommonModesQueue()
     : event_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
       reading_(whenReadable(event_, [this] { work(); })) {}
 
-EveryModeQueue::~EveryModeQueue() {
+CommonModesQueue::~CommonModesQueue() {
     reading_.reset();
     close(event_);
 }
 
-void EveryModeQueue::post(std::function<void()> work) {
+void CommonModesQueue::post(std::function<void()> work) {
     const std::lock_guard lock(mutex_);
     waiting_.push_back(std::move(work));
     eventfd_write(event_, 1);
 }
 
-void EveryModeQueue::work() {
+void CommonModesQueue::work() {
     eventfd_t count = 0;
     eventfd_read(event_, &count);
     std::vector<std::function<void()>> due;

@@ -16,12 +16,12 @@ namespace brisel::platform::terminal {
 
 /// Prints the state in words and the menu as numbered lines once the main loop turns, if they
 /// differ from what was printed last.
-class StatusDisplay final : public platform::StatusItem {
+class StatusItem final : public platform::StatusItem {
   public:
     /// Lets work wait for the main loop until the subscription ends.
     using Later = std::function<Subscription(std::function<void()> work)>;
 
-    StatusDisplay(Terminal& terminal, const common::Menu& menu, Later later)
+    StatusItem(Terminal& terminal, const common::Menu& menu, Later later)
         : terminal_(terminal), menu_(menu), later_(std::move(later)) {}
 
     void create(double /*length*/) override {}
