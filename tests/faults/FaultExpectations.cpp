@@ -10,14 +10,32 @@ namespace {
 
 constexpr std::string_view Placeholder = "%@";
 
-const std::vector<ExpectedLine>& launchFailure() {
-    static const std::vector<ExpectedLine> lines{
-        {"log: ", "something went wrong with mount command launch"}, {"delete: ", "%@/.brisel/%@"}};
-    return lines;
+FaultExpectation logged(std::string_view call, std::string_view text) {
+    return {call, Comes::AtOnce, {{"log: ", text}}};
 }
 
-const std::vector<FaultExpectation>& table() {
-    static const std::vector<FaultExpectation> expectations{
+FaultExpectation refused(std::string_view request, std::string_view message,
+                         std::string_view text) {
+    return {request,
+            Comes::WithCompletion,
+            {{"icon: ", "brisel-status-red-%@"},
+             {"log: ", "kDAReturnError for volume %@"},
+             {"alert: ", message},
+             {"text: ", text},
+             {"buttons: ", "OK"},
+             {"menu: ", "%@"},
+             {"icon: ", "%@"}}};
+}
+
+FaultExpectation notLaunched(std::string_view call) {
+    return {call,
+            Comes::AtOnce,
+            {{"log: ", "something went wrong with mount command launch"},
+             {"delete: ", "%@/.brisel/%@"}}};
+}
+
+std::vector<FaultExpectation> callsToDisks() {
+    return {
         // Deliberately not looked at: such a session reports nothing.
         {"createSession", Comes::AtOnce, {}},
         // A volume whose writability is not known counts as read-only, and nothing is said.
@@ -30,55 +48,52 @@ const std::vector<FaultExpectation>& table() {
            "The volume %@ is not mounted currently at the specified path. Please remove and "
            "re-attach the device."},
           {"buttons: ", "OK"}}},
-        {"diskFromVolumePath", Comes::AtOnce, {{"log: ", "Unmount failed for volume at URL %@"}}},
-        {"unmount",
-         Comes::WithCompletion,
-         {{"icon: ", "brisel-status-red-%@"},
-          {"log: ", "kDAReturnError for volume %@"},
-          {"alert: ", R"(Volume "%@" not unmountable)"},
-          {"text: ",
-           "The volume is not unmountable. Probably it is still used by another application."},
-          {"buttons: ", "OK"},
-          {"menu: ", "%@"},
-          {"icon: ", "%@"}}},
-        {"mount",
-         Comes::WithCompletion,
-         {{"icon: ", "brisel-status-red-%@"},
-          {"log: ", "kDAReturnError for volume %@"},
-          {"alert: ", R"(Volume "%@" not re-mountable)"},
-          {"text: ",
-           "The volume is not re-mountable in read/write mode. Probably it was not clean unmounted "
-           "before."},
-          {"buttons: ", "OK"},
-          {"menu: ", "%@"},
-          {"icon: ", "%@"}}},
-        {"create",
-         Comes::AtOnce,
-         {{"log: ", "Unable to create folder: The call failed., reason: (null)"}}},
-        {"list",
-         Comes::AtOnce,
-         {{"log: ", "Unable to list folder: The call failed., reason: (null)"}}},
-        {"delete",
-         Comes::AtOnce,
-         {{"log: ", "Unable to delete folder: The call failed., reason: (null)"}}},
-        {"createAuthorization", Comes::AtOnce, launchFailure()},
-        {"copyRights", Comes::AtOnce, launchFailure()},
-        {"execute", Comes::AtOnce, launchFailure()},
+        logged("diskFromVolumePath", "Unmount failed for volume at URL %@"),
+        refused("unmount", R"(Volume "%@" not unmountable)",
+                "The volume is not unmountable. Probably it is still used by another application."),
+        refused("mount", R"(Volume "%@" not re-mountable)",
+                "The volume is not re-mountable in read/write mode. Probably it was not clean "
+                "unmounted before."),
+    };
+}
+
+std::vector<FaultExpectation> callsToFolders() {
+    return {
+        logged("create", "Unable to create folder: The call failed., reason: (null)"),
+        logged("list", "Unable to list folder: The call failed., reason: (null)"),
+        logged("delete", "Unable to delete folder: The call failed., reason: (null)"),
+    };
+}
+
+std::vector<FaultExpectation> callsToLaunchTheTool() {
+    return {notLaunched("createAuthorization"), notLaunched("copyRights"), notLaunched("execute")};
+}
+
+std::vector<FaultExpectation> callsToOtherServices() {
+    return {
         {"script",
          Comes::AtOnce,
          {{"log: ", "Error executing Apple Script: (null)"},
           {"log: ", "key: NSAppleScriptErrorMessage, value: The call failed."},
           {"menu: ", "%@"}}},
-        {"requestAuthorization",
-         Comes::AtOnce,
-         {{"log: ", "Requesting auth for Local Notification failed!"}}},
-        {"addNotification", Comes::AtOnce, {{"log: ", "Adding Local Notification failed!"}}},
+        logged("requestAuthorization", "Requesting auth for Local Notification failed!"),
+        logged("addNotification", "Adding Local Notification failed!"),
         {"loginItem",
          Comes::AtOnce,
          {{"alert: ", "An error ocurred"},
           {"text: ", "Couldn't %@ Helper App to launch at login item list."},
           {"buttons: ", "OK"}}},
     };
+}
+
+const std::vector<FaultExpectation>& table() {
+    static const auto expectations = [] {
+        std::vector<FaultExpectation> joined;
+        for (const auto& part :
+             {callsToDisks(), callsToFolders(), callsToLaunchTheTool(), callsToOtherServices()})
+            joined.insert(joined.end(), part.begin(), part.end());
+        return joined;
+    }();
     return expectations;
 }
 
