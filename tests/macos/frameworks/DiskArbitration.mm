@@ -10,14 +10,13 @@
 
 #include "platform/macos/Text.h"
 #include "tests/macos/frameworks/CoreFoundation.h"
+#include "tests/macos/frameworks/DiskArbitrationValues.h"
 #include "tests/macos/frameworks/World.h"
 
 using namespace brisel;
 using namespace brisel::tests::macos;
-using platform::macos::nsString;
 using platform::macos::stdString;
 using platform::Disk;
-using platform::DiskDescription;
 using platform::Dissenter;
 
 namespace {
@@ -50,71 +49,7 @@ NSMutableDictionary* toldValues = nil;
 
 @end
 
-@interface StageDisk : StageCounted {
-  @public
-    Disk disk;
-}
-@end
-
-@implementation StageDisk
-@end
-
-@interface StageDissenter : StageCounted {
-  @public
-    std::uint32_t status;
-}
-@end
-
-@implementation StageDissenter
-@end
-
 namespace {
-
-DADiskRef createDisk(const Disk& disk) {
-    StageDisk* const object = [[StageDisk alloc] init];
-    object->disk = disk;
-    return reinterpret_cast<DADiskRef>(object);
-}
-
-const Disk& diskOf(DADiskRef disk) {
-    return reinterpret_cast<StageDisk*>(disk)->disk;
-}
-
-StageUUID* uuid(const std::string& text) {
-    return [[[StageUUID alloc] initWithText:nsString(text)] autorelease];
-}
-
-NSDictionary* dictionaryFrom(const DiskDescription& description) {
-    NSMutableDictionary* const values = [NSMutableDictionary dictionary];
-    const auto set = [values](CFStringRef key, id value) {
-        [values setObject:value forKey:(__bridge NSString*)key];
-    };
-    if (const auto& value = description.volumeMountable) {
-        set(kDADiskDescriptionVolumeMountableKey, [NSNumber numberWithBool:*value]);
-    }
-    if (const auto& value = description.volumeKind) {
-        set(kDADiskDescriptionVolumeKindKey, nsString(*value));
-    }
-    if (const auto& value = description.volumeName) {
-        set(kDADiskDescriptionVolumeNameKey, nsString(*value));
-    }
-    if (const auto& value = description.mediaBSDName) {
-        // A volume that is on no device has no such name.
-        if (!value->empty()) set(kDADiskDescriptionMediaBSDNameKey, nsString(*value));
-    }
-    if (const auto& value = description.volumePath) {
-        set(kDADiskDescriptionVolumePathKey, [NSURL fileURLWithPath:nsString(value->path())
-                                                        isDirectory:YES]);
-    }
-    if (const auto& value = description.mediaUUID) {
-        set(kDADiskDescriptionMediaUUIDKey, uuid(*value));
-    }
-    if (const auto& value = description.volumeUUID) {
-        set(kDADiskDescriptionVolumeUUIDKey, uuid(*value));
-    }
-    if (toldValues != nil) [values addEntriesFromDictionary:toldValues];
-    return values;
-}
 
 using DiskCallback = void (*)(DADiskRef, void*);
 
@@ -135,12 +70,11 @@ void complete(RequestCallback callback, void* context, const Disk& disk,
               const std::optional<Dissenter>& dissenter) {
     if (callback == nullptr) return;
     @autoreleasepool {
-        StageDissenter* const refusal = dissenter ? [[StageDissenter alloc] init] : nil;
-        if (dissenter) refusal->status = dissenter->status;
+        const DADissenterRef refusal = dissenter ? createDissenter(dissenter->status) : nullptr;
         const DADiskRef completed = createDisk(disk);
-        callback(completed, reinterpret_cast<DADissenterRef>(refusal), context);
+        callback(completed, refusal, context);
         CFRelease(completed);
-        [refusal release];
+        if (refusal != nullptr) CFRelease(refusal);
     }
 }
 
@@ -192,15 +126,6 @@ void resetDiskArbitration() {
 }  // namespace brisel::tests::macos
 
 CFDictionaryRef kDADiskDescriptionMatchVolumeMountable = nullptr;
-
-const CFStringRef kDADiskDescriptionVolumeKindKey = (__bridge CFStringRef) @"DAVolumeKind";
-const CFStringRef kDADiskDescriptionVolumeMountableKey =
-    (__bridge CFStringRef) @"DAVolumeMountable";
-const CFStringRef kDADiskDescriptionVolumeNameKey = (__bridge CFStringRef) @"DAVolumeName";
-const CFStringRef kDADiskDescriptionVolumePathKey = (__bridge CFStringRef) @"DAVolumePath";
-const CFStringRef kDADiskDescriptionVolumeUUIDKey = (__bridge CFStringRef) @"DAVolumeUUID";
-const CFStringRef kDADiskDescriptionMediaBSDNameKey = (__bridge CFStringRef) @"DAMediaBSDName";
-const CFStringRef kDADiskDescriptionMediaUUIDKey = (__bridge CFStringRef) @"DAMediaUUID";
 
 DASessionRef DASessionCreate(CFAllocatorRef /*allocator*/) {
     fillMatches();
@@ -263,17 +188,13 @@ DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef /*allocator*/, DASessionRef 
     return disk ? createDisk(*disk) : nullptr;
 }
 
-const char* DADiskGetBSDName(DADiskRef disk) {
-    const bool named = disk != nullptr && !diskOf(disk).bsdName.empty();
-    return named ? diskOf(disk).bsdName.c_str() : nullptr;
-}
-
 CFDictionaryRef DADiskCopyDescription(DADiskRef disk) {
     const auto description = world().diskArbitration.copyDescription(diskOf(disk));
     if (!description.mediaBSDName) return nullptr;
     @autoreleasepool {
-        return reinterpret_cast<CFDictionaryRef>(
-            [[StageDictionary alloc] initWithValues:dictionaryFrom(description)]);
+        NSMutableDictionary* const values = dictionaryFrom(description);
+        if (toldValues != nil) [values addEntriesFromDictionary:toldValues];
+        return reinterpret_cast<CFDictionaryRef>([[StageDictionary alloc] initWithValues:values]);
     }
 }
 
@@ -304,9 +225,4 @@ void DADiskMountWithArguments(DADiskRef disk, CFURLRef path, DADiskMountOptions 
     }
     world().diskArbitration.mountWithArguments({.bsdName = diskOf(disk).bsdName, .reported = {}},
                                                words, completer(callback, context));
-}
-
-DAReturn DADissenterGetStatus(DADissenterRef dissenter) {
-    const auto* const refusal = reinterpret_cast<const StageDissenter*>(dissenter);
-    return static_cast<DAReturn>(refusal->status);
 }
