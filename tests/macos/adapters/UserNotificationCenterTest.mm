@@ -1,52 +1,12 @@
-// Notifications with buttons.
+// Notifications with buttons, and the permission to show them.
 // SPDX-License-Identifier: MIT
-#include "platform/macos/UserNotificationCenter.h"
-
-#include <thread>
-
-#import "tests/macos/adapters/AdapterTest.h"
-#import "tests/macos/frameworks/UserNotifications.h"
+#import "tests/macos/adapters/Notifications.h"
 
 namespace brisel::tests::macos {
 namespace {
 
-using namespace std::chrono_literals;
-using platform::Error;
-using platform::NotificationResponse;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-class Notifications : public AdapterTest {
-  protected:
-    platform::macos::UserNotificationCenter adapter;
-    const platform::NotificationRequest request{.identifier = "disk4s1",
-                                                .title = "Größe 💾 detected",
-                                                .body = "%@?",
-                                                .soundName = "Hero",
-                                                .categoryIdentifier = "REMOUNT",
-                                                .userInfo = {{"volume", "disk4s1"}},
-                                                .delay = 200ms};
-    int answers = 0;
-    std::optional<Error> error;
-    bool granted = false;
-    std::thread::id thread;
-
-    void add() {
-        adapter.addNotificationRequest(request, [this](const auto& failure) {
-            ++answers;
-            error = failure;
-            thread = std::this_thread::get_id();
-        });
-    }
-    void ask(unsigned options) {
-        adapter.requestAuthorization(options, [this](bool answer, const auto& failure) {
-            ++answers;
-            granted = answer;
-            error = failure;
-            thread = std::this_thread::get_id();
-        });
-    }
-};
 
 TEST_F(Notifications, AreHandedOverWithAllTheySay) {
     add();
@@ -169,137 +129,6 @@ TEST_F(Permission, IsNotGivenByAnException) {
     EXPECT_EQ(answers, 1);
     EXPECT_FALSE(granted);
     EXPECT_TRUE(error);
-}
-
-class Responses : public Notifications {
-  protected:
-    static constexpr NSTimeInterval Patience = 5;
-    static constexpr NSTimeInterval AWhile = 0.1;
-
-    const NotificationResponse response{.requestIdentifier = "disk4s1",
-                                        .actionIdentifier = "yes",
-                                        .userInfo = {{"volume", "disk4s1"}, {"größe", "💾"}}};
-    platform::Subscription delegate;
-    std::vector<NotificationResponse> seen;
-    std::vector<platform::UserNotificationCenter::CompletionHandler> completions;
-    bool arrived = false;
-
-    void listen() {
-        delegate = adapter.setDelegate([this](const auto& told, auto completion) {
-            seen.push_back(told);
-            completions.push_back(std::move(completion));
-            thread = std::this_thread::get_id();
-            arrived = true;
-        });
-    }
-    void deliverHere(NSDictionary* userInfo = nil) const {
-        deliverResponseHere(response, userInfo);
-    }
-    void deliver() const {
-        @autoreleasepool {
-            deliverResponse(response, [] {});
-        }
-    }
-};
-
-TEST_F(Responses, ReachTheHandlerOnTheMainThread) {
-    listen();
-    deliver();
-    EXPECT_THAT(seen, IsEmpty());
-    turn(NSDefaultRunLoopMode, Patience, &arrived);
-    ASSERT_EQ(seen.size(), 1U);
-    EXPECT_EQ(thread, std::this_thread::get_id());
-    EXPECT_EQ(seen[0].requestIdentifier, "disk4s1");
-    EXPECT_EQ(seen[0].actionIdentifier, "yes");
-    EXPECT_EQ(seen[0].userInfo, response.userInfo);
-}
-
-TEST_F(Responses, WaitWhileAnAlertIsOpen) {
-    listen();
-    deliver();
-    turn(NSModalPanelRunLoopMode, AWhile);
-    EXPECT_THAT(seen, IsEmpty());
-    turn(NSDefaultRunLoopMode, Patience, &arrived);
-    EXPECT_EQ(seen.size(), 1U);
-}
-
-TEST_F(Responses, OnTheMainThreadAreHandledAtOnce) {
-    listen();
-    deliverHere();
-    EXPECT_EQ(seen.size(), 1U);
-}
-
-TEST_F(Responses, AreNotAnsweredUnlessTheHandlerDoes) {
-    listen();
-    deliver();
-    turn(NSDefaultRunLoopMode, Patience, &arrived);
-    completions.clear();
-    EXPECT_THAT(takeComplaints(), IsEmpty());
-}
-
-TEST_F(Responses, AreAnsweredOnceByTheHandlerThatIsHandedOn) {
-    listen();
-    deliver();
-    turn(NSDefaultRunLoopMode, Patience, &arrived);
-    ASSERT_EQ(completions.size(), 1U);
-    completions.front()();
-    EXPECT_THAT(takeComplaints(), ElementsAre("a response was answered: yes"));
-}
-
-TEST_F(Responses, LeaveOutWhatIsNoText) {
-    listen();
-    NSNumber* const number = [NSNumber numberWithInt:1];
-    deliverHere([NSDictionary dictionaryWithObjectsAndKeys:@"disk4s1", @"volume", number, @"number",
-                                                           @"text", number, nil]);
-    ASSERT_EQ(seen.size(), 1U);
-    EXPECT_EQ(seen[0].userInfo, (platform::UserInfo{{"volume", "disk4s1"}}));
-}
-
-TEST_F(Responses, AreNotDeliveredAfterTheSubscription) {
-    listen();
-    delegate.reset();
-    deliver();
-    turn(NSDefaultRunLoopMode, AWhile);
-    EXPECT_THAT(seen, IsEmpty());
-}
-
-TEST_F(Responses, OnTheirWayAreDroppedWithTheSubscription) {
-    listen();
-    deliver();
-    delegate.reset();
-    turn(NSDefaultRunLoopMode, AWhile);
-    EXPECT_THAT(seen, IsEmpty());
-}
-
-TEST_F(Responses, GoToTheHandlerThatTookThePlaceOfAnother) {
-    delegate = adapter.setDelegate([this](const auto&, const auto&) { ++answers; });
-    listen();
-    deliverHere();
-    EXPECT_EQ(seen.size(), 1U);
-    EXPECT_EQ(answers, 0);
-}
-
-TEST_F(Responses, MayEndTheirOwnSubscription) {
-    const auto held = std::make_shared<int>(1);
-    delegate = adapter.setDelegate([this, held](const auto&, const auto&) {
-        delegate.reset();
-        answers += *held;
-    });
-    deliverHere();
-    deliverHere();
-    EXPECT_EQ(answers, 1);
-    EXPECT_EQ(held.use_count(), 1);
-}
-
-TEST_F(Responses, FindTheDelegateAlive) {
-    @autoreleasepool {
-        listen();
-    }
-    for (int count = 0; count < 3; ++count)
-        deliver();
-    while (seen.size() < 3 && !HasFailure())
-        turn(NSDefaultRunLoopMode, AWhile);
-    EXPECT_EQ(seen.size(), 3U);
 }
 
 }  // namespace
