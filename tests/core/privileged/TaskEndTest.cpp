@@ -1,6 +1,6 @@
 // The end of a privileged task: noticed by the poll, or waited for.
 // SPDX-License-Identifier: MIT
-#include "tests/core/privileged/RealTools.h"
+#include "tests/core/privileged/WatchedTask.h"
 
 namespace brisel::tests {
 namespace {
@@ -9,29 +9,6 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::StartsWith;
-
-/// Notes notifications and handler calls in their order.
-class WatchedTask : public PrivilegedTask {
-  protected:
-    std::vector<std::string> heard;
-    const void* object = nullptr;
-    platform::Subscription observation = mac.notificationCenter.addObserver(
-        "KJPrivilegedTaskDidTerminateNotification", [this](const void* subject) {
-            heard.emplace_back("notification");
-            object = subject;
-        });
-
-    void watch(const Task& made) {
-        made->setTerminationHandler([this](KJPrivilegedTask& ended) {
-            EXPECT_FALSE(ended.isRunning());
-            heard.emplace_back("handler");
-        });
-    }
-    void launchAndEnd(const Task& made) {
-        ASSERT_EQ(made->launch(), 0);
-        waitForTheEnd(made->processIdentifier());
-    }
-};
 
 TEST_F(WatchedTask, PostsItsNotificationBeforeItCallsItsHandlerOnce) {
     const auto made = shell("exit 1");
@@ -205,61 +182,6 @@ TEST_F(WatchedTask, CannotBeTerminated) {
     tools.tell("\n");
     made->waitUntilExit();
     EXPECT_EQ(made->terminationStatus(), 6);
-}
-
-class TaskFactory : public WatchedTask {
-  protected:
-    static void expectEnded(const Task& made, int status, const std::string& output) {
-        EXPECT_FALSE(made->isRunning());
-        EXPECT_EQ(made->terminationStatus(), status);
-        EXPECT_EQ(made->outputFileHandle()->readDataToEndOfFile(), output);
-    }
-};
-
-TEST_F(TaskFactory, RunsALaunchPath) {
-    expectEnded(KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPath(withTools, "/bin/echo"), 0,
-                "\n");
-    EXPECT_THAT(heard, ElementsAre());
-}
-
-TEST_F(TaskFactory, RunsArguments) {
-    expectEnded(KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArguments(
-                    withTools, "/bin/sh", {"-c", "echo out; exit 7"}),
-                7, "out\n");
-}
-
-TEST_F(TaskFactory, RunsInADirectory) {
-    expectEnded(KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectory(
-                    withTools, "/bin/pwd", {}, "/"),
-                0, "/\n");
-}
-
-TEST_F(TaskFactory, RunsWithAnAuthorizationOfTheCaller) {
-    expectEnded(KJPrivilegedTask::
-                    launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectoryAuthorization(
-                        withTools, "/bin/pwd", {}, "/", tools.own()),
-                0, "/\n");
-    EXPECT_THAT(tools.calls, ElementsAre("execute"));
-}
-
-TEST_F(TaskFactory, ReturnsATaskAlsoWhereTheLaunchFailed) {
-    tools.executeStatus = -60031;
-    tools.copyStatus = -60006;
-    const std::vector<Task> made{
-        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPath(withTools, "/bin/true"),
-        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArguments(withTools, "/bin/true", {}),
-        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectory(
-            withTools, "/bin/true", {}, "/"),
-        KJPrivilegedTask::
-            launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectoryAuthorization(
-                withTools, "/bin/true", {}, "/", tools.own())};
-    for (const auto& one : made) {
-        EXPECT_FALSE(one->isRunning());
-        EXPECT_EQ(one->terminationStatus(), 0);
-    }
-    const auto lines = newLogLines();
-    EXPECT_EQ(lines.size(), 4U);
-    EXPECT_THAT(lines, testing::Each(EndsWith("> is not running")));
 }
 
 }  // namespace

@@ -1,0 +1,67 @@
+// Tasks made, launched and waited for by one call.
+// SPDX-License-Identifier: MIT
+#include "tests/core/privileged/WatchedTask.h"
+
+namespace brisel::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+
+class TaskFactory : public WatchedTask {
+  protected:
+    static void expectEnded(const Task& made, int status, const std::string& output) {
+        EXPECT_FALSE(made->isRunning());
+        EXPECT_EQ(made->terminationStatus(), status);
+        EXPECT_EQ(made->outputFileHandle()->readDataToEndOfFile(), output);
+    }
+};
+
+TEST_F(TaskFactory, RunsALaunchPath) {
+    expectEnded(KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPath(withTools, "/bin/echo"), 0,
+                "\n");
+    EXPECT_THAT(heard, ElementsAre());
+}
+
+TEST_F(TaskFactory, RunsArguments) {
+    expectEnded(KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArguments(
+                    withTools, "/bin/sh", {"-c", "echo out; exit 7"}),
+                7, "out\n");
+}
+
+TEST_F(TaskFactory, RunsInADirectory) {
+    expectEnded(KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectory(
+                    withTools, "/bin/pwd", {}, "/"),
+                0, "/\n");
+}
+
+TEST_F(TaskFactory, RunsWithAnAuthorizationOfTheCaller) {
+    expectEnded(KJPrivilegedTask::
+                    launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectoryAuthorization(
+                        withTools, "/bin/pwd", {}, "/", tools.own()),
+                0, "/\n");
+    EXPECT_THAT(tools.calls, ElementsAre("execute"));
+}
+
+TEST_F(TaskFactory, ReturnsATaskAlsoWhereTheLaunchFailed) {
+    tools.executeStatus = -60031;
+    tools.copyStatus = -60006;
+    const std::vector<Task> made{
+        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPath(withTools, "/bin/true"),
+        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArguments(withTools, "/bin/true", {}),
+        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectory(
+            withTools, "/bin/true", {}, "/"),
+        KJPrivilegedTask::
+            launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectoryAuthorization(
+                withTools, "/bin/true", {}, "/", tools.own())};
+    for (const auto& one : made) {
+        EXPECT_FALSE(one->isRunning());
+        EXPECT_EQ(one->terminationStatus(), 0);
+    }
+    const auto lines = newLogLines();
+    EXPECT_EQ(lines.size(), 4U);
+    EXPECT_THAT(lines, testing::Each(EndsWith("> is not running")));
+}
+
+}  // namespace
+}  // namespace brisel::tests
