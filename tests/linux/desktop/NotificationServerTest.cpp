@@ -1,12 +1,9 @@
 // Pop-ups on the bus: what is sent of them, and what servers make of them.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/Installation.h"
-#include "platform/linux/NotificationServer.h"
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "tests/linux/desktop/FakeDesktop.h"
+#include "platform/linux/Installation.h"
+#include "tests/linux/desktop/Notifications.h"
 
 namespace brisel::platform::linux {
 
@@ -14,40 +11,10 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Pair;
 using testing::UnorderedElementsAre;
 using tests::FakeNotifications;
 using tests::turnUntil;
-
-class Notifications : public testing::Test {
-  protected:
-    struct Shown {
-        std::uint32_t number = 0;
-        std::optional<Error> error;
-    };
-
-    Shown show(const Notification& notification) {
-        std::optional<Shown> shown;
-        server_.show(notification, [&shown](auto number, const auto& error) {
-            shown = {.number = number, .error = error};
-        });
-        turnUntil([&shown] { return shown.has_value(); });
-        return *shown;
-    }
-    void leave(FakeNotifications& desktop) {
-        bool gone = false;
-        const auto leaving = server_.onVanished([&gone] { gone = true; });
-        desktop.service.vanish();
-        turnUntil([&gone] { return gone; });
-    }
-    static Notification popUp(const std::string& summary, const std::string& body = "") {
-        return {.summary = summary, .body = body};
-    }
-
-    tests::TestLoop loop_;
-    NotificationServer server_{tests::SessionBus::shared().program()};
-};
 
 TEST_F(Notifications, SayWhoseTheyAre) {
     FakeNotifications desktop({});
@@ -208,51 +175,6 @@ TEST_F(Notifications, GoToTheServerThatAnswersAtLast) {
     waiting->answer(g_variant_new("(u)", 4));
     turnUntil([&number] { return number.has_value(); });
     EXPECT_EQ(number, 4U);
-}
-
-class NotificationSignals : public Notifications {
-  protected:
-    NotificationSignals() { desktop_.service.appear(); }
-    void catchUp() { show(popUp("Last")); }
-
-    FakeNotifications desktop_{{}};
-    std::vector<std::string> heard_;
-    Subscription actions_ = server_.onActionInvoked([this](auto number, const auto& key) {
-        heard_.push_back(std::to_string(number) + " " + key);
-    });
-    Subscription closings_ = server_.onClosed([this](auto number, auto reason) {
-        heard_.push_back(std::to_string(number) + " closed " + std::to_string(reason));
-    });
-};
-
-TEST_F(NotificationSignals, AreHeard) {
-    desktop_.invoke(3, "DO");
-    desktop_.close(3, 2);
-    turnUntil([this] { return heard_.size() == 2; });
-    EXPECT_THAT(heard_, ElementsAre("3 DO", "3 closed 2"));
-}
-
-TEST_F(NotificationSignals, OfOtherTypesArePassedOver) {
-    desktop_.service.emit("ActionInvoked", g_variant_new("(s)", "DO"));
-    desktop_.service.emit("ActionInvoked", nullptr);
-    desktop_.service.emit("NotificationClosed", g_variant_new("(u)", 3));
-    catchUp();
-    EXPECT_THAT(heard_, IsEmpty());
-}
-
-TEST_F(NotificationSignals, FromStrangersArePassedOver) {
-    const FakeNotifications stranger({});
-    stranger.invoke(3, "DO");
-    g_dbus_connection_flush_sync(stranger.service.bus(), nullptr, nullptr);
-    catchUp();
-    EXPECT_THAT(heard_, IsEmpty());
-}
-
-TEST_F(NotificationSignals, AreNotHeardAfterTheEndOfTheSubscription) {
-    actions_.reset();
-    desktop_.invoke(3, "DO");
-    catchUp();
-    EXPECT_THAT(heard_, IsEmpty());
 }
 
 }  // namespace
