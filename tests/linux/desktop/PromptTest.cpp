@@ -1,10 +1,8 @@
-// Prompts: one pop-up for one identifier, and one response to each.
+// Prompts: one pop-up for one identifier, whenever they are asked for.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "platform/linux/UserNotificationCenter.h"
-#include "tests/linux/desktop/FakeDesktop.h"
+#include "tests/linux/desktop/Prompts.h"
 
 namespace brisel::platform::linux {
 
@@ -13,72 +11,7 @@ namespace {
 using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using tests::FakeNotifications;
 using tests::turnUntil;
-
-constexpr std::uint32_t Expired = 1;
-constexpr std::uint32_t Dismissed = 2;
-constexpr std::uint32_t ClosedByCall = 3;
-
-class Prompts : public testing::Test {
-  protected:
-    using Handler = UserNotificationCenter::AddHandler;
-
-    Prompts() {
-        center_.setNotificationCategories(
-            {{.identifier = "OTHER", .actions = {{"X", "Wrong"}}},
-             {.identifier = "MOUNT", .actions = {{"DO", "Yes, sure!"}, {"NOT", "No, thanks."}}}});
-    }
-    static NotificationRequest request(const std::string& identifier, const std::string& volume) {
-        return {.identifier = identifier,
-                .title = volume + " detected",
-                .body = "Go?",
-                .soundName = "Hero",
-                .categoryIdentifier = "MOUNT",
-                .userInfo = {{"volume", volume}}};
-    }
-    void add(const NotificationRequest& request) {
-        center_.addNotificationRequest(
-            request, [this](const auto& error) { results_.push_back(error ? "failed" : "shown"); });
-    }
-    void waitForResults(std::size_t count) {
-        turnUntil([&] { return results_.size() >= count; });
-    }
-    void prompt(const std::string& identifier, const std::string& volume) {
-        add(request(identifier, volume));
-        waitForResults(results_.size() + 1);
-    }
-    /// What was sent to the program before has arrived after this.
-    void catchUp() { static_cast<void>(observer_.newSignals()); }
-
-    tests::TestLoop loop_;
-    tests::BusCaller observer_{"org.freedesktop.DBus", "/", "org.freedesktop.DBus"};
-    NotificationServer server_{tests::SessionBus::shared().program()};
-    UserNotificationCenter center_{server_};
-    std::vector<std::string> results_;
-    std::vector<std::string> responses_;
-    Subscription delegate_ = center_.setDelegate([this](const auto& response, const auto& done) {
-        responses_.push_back(response.requestIdentifier + " " + response.actionIdentifier + " " +
-                             response.userInfo.at("volume"));
-        done();
-    });
-};
-
-class ShownPrompts : public Prompts {
-  protected:
-    ShownPrompts() { desktop_.service.appear(); }
-
-    /// Replaces the server by one that numbers from 1 on again.
-    void restartServer(FakeNotifications& other) {
-        bool gone = false;
-        const auto leaving = server_.onVanished([&gone] { gone = true; });
-        desktop_.service.vanish();
-        turnUntil([&gone] { return gone; });
-        other.service.appear();
-    }
-
-    FakeNotifications desktop_{{"sound"}};
-};
 
 TEST_F(ShownPrompts, HaveTheTextsAndTheButtonsOfTheirCategoryAndASound) {
     prompt("mount", "Data");
@@ -162,73 +95,12 @@ TEST_F(ShownPrompts, AskedForByTheEndOfAnotherAreShownOnce) {
     EXPECT_EQ(desktop_.calls().size(), 2U);
 }
 
-TEST_F(ShownPrompts, GiveTheChosenActionToTheDelegate) {
-    prompt("mount", "Data");
-    desktop_.invoke(1, "NOT");
-    turnUntil([this] { return !responses_.empty(); });
-    EXPECT_THAT(responses_, ElementsAre("mount NOT Data"));
-}
-
-TEST_F(ShownPrompts, GiveOneResponseEvenIfTheServerAlsoClosesThem) {
-    prompt("mount", "Data");
-    desktop_.invoke(1, "DO");
-    desktop_.close(1, Dismissed);
-    desktop_.invoke(0, "DO");
-    catchUp();
-    EXPECT_THAT(responses_, ElementsAre("mount DO Data"));
-}
-
 TEST_F(ShownPrompts, AreNotReplacedOnceTheyHaveBeenAnswered) {
     prompt("mount", "Data");
     desktop_.close(1, Dismissed);
     catchUp();
     prompt("mount", "More");
     EXPECT_EQ(desktop_.calls().back().replaces, 0U);
-}
-
-TEST_F(ShownPrompts, IgnoreTheNumbersOfOthers) {
-    prompt("mount", "Data");
-    desktop_.invoke(2, "DO");
-    desktop_.invoke(0, "DO");
-    desktop_.close(2, Dismissed);
-    catchUp();
-    EXPECT_THAT(responses_, IsEmpty());
-}
-
-TEST_F(ShownPrompts, TellOfADismissal) {
-    prompt("mount", "Data");
-    desktop_.close(1, Dismissed);
-    turnUntil([this] { return !responses_.empty(); });
-    EXPECT_THAT(responses_,
-                ElementsAre(std::string("mount ") + NotificationDismissActionIdentifier + " Data"));
-}
-
-// Some desktops keep what has expired in a list, where it can still be answered.
-TEST_F(ShownPrompts, SayNothingWhenTheyExpireButCanStillBeAnswered) {
-    prompt("mount", "Data");
-    desktop_.close(1, Expired);
-    desktop_.close(1, ClosedByCall);
-    catchUp();
-    EXPECT_THAT(responses_, IsEmpty());
-    desktop_.invoke(1, "DO");
-    turnUntil([this] { return !responses_.empty(); });
-    EXPECT_THAT(responses_, ElementsAre("mount DO Data"));
-}
-
-TEST_F(ShownPrompts, AreForgottenWithTheirServer) {
-    prompt("mount", "Data");
-    FakeNotifications other({});
-    restartServer(other);
-    // The new server's first pop-up is another program's.
-    other.invoke(1, "DO");
-    catchUp();
-    EXPECT_THAT(responses_, IsEmpty());
-    other.numberFrom(2);
-    prompt("mount", "More");
-    EXPECT_EQ(other.calls().front().replaces, 0U);
-    other.invoke(2, "DO");
-    turnUntil([this] { return !responses_.empty(); });
-    EXPECT_THAT(responses_, ElementsAre("mount DO More"));
 }
 
 TEST_F(ShownPrompts, ThatTheServerRefusesLeaveTheEarlierOneAsItWas) {

@@ -1,0 +1,80 @@
+// Prompts, with a server that shows them or without one, for several files of tests.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/linux/UserNotificationCenter.h"
+#include "tests/linux/desktop/FakeDesktop.h"
+
+namespace brisel::platform::linux {
+
+inline constexpr std::uint32_t Expired = 1;
+inline constexpr std::uint32_t Dismissed = 2;
+inline constexpr std::uint32_t ClosedByCall = 3;
+
+class Prompts : public testing::Test {
+  protected:
+    using Handler = UserNotificationCenter::AddHandler;
+
+    Prompts() {
+        center_.setNotificationCategories(
+            {{.identifier = "OTHER", .actions = {{"X", "Wrong"}}},
+             {.identifier = "MOUNT", .actions = {{"DO", "Yes, sure!"}, {"NOT", "No, thanks."}}}});
+    }
+    static NotificationRequest request(const std::string& identifier, const std::string& volume) {
+        return {.identifier = identifier,
+                .title = volume + " detected",
+                .body = "Go?",
+                .soundName = "Hero",
+                .categoryIdentifier = "MOUNT",
+                .userInfo = {{"volume", volume}}};
+    }
+    void add(const NotificationRequest& request) {
+        center_.addNotificationRequest(
+            request, [this](const auto& error) { results_.push_back(error ? "failed" : "shown"); });
+    }
+    void waitForResults(std::size_t count) {
+        tests::turnUntil([&] { return results_.size() >= count; });
+    }
+    void prompt(const std::string& identifier, const std::string& volume) {
+        add(request(identifier, volume));
+        waitForResults(results_.size() + 1);
+    }
+    /// What was sent to the program before has arrived after this.
+    void catchUp() { static_cast<void>(observer_.newSignals()); }
+
+    tests::TestLoop loop_;
+    tests::BusCaller observer_{"org.freedesktop.DBus", "/", "org.freedesktop.DBus"};
+    NotificationServer server_{tests::SessionBus::shared().program()};
+    UserNotificationCenter center_{server_};
+    std::vector<std::string> results_;
+    std::vector<std::string> responses_;
+    Subscription delegate_ = center_.setDelegate([this](const auto& response, const auto& done) {
+        responses_.push_back(response.requestIdentifier + " " + response.actionIdentifier + " " +
+                             response.userInfo.at("volume"));
+        done();
+    });
+};
+
+class ShownPrompts : public Prompts {
+  protected:
+    ShownPrompts() { desktop_.service.appear(); }
+
+    /// Replaces the server by one that numbers from 1 on again.
+    void restartServer(tests::FakeNotifications& other) {
+        bool gone = false;
+        const auto leaving = server_.onVanished([&gone] { gone = true; });
+        desktop_.service.vanish();
+        tests::turnUntil([&gone] { return gone; });
+        other.service.appear();
+    }
+
+    tests::FakeNotifications desktop_{{"sound"}};
+};
+
+}  // namespace brisel::platform::linux
