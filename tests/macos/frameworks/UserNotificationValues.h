@@ -48,16 +48,3 @@
     UNNotificationTrigger* trigger_;
 }
 @end
-
-@interface StageNotification : UNNotification {
-  @public
-    UNNotificationRequest* request_;
-}
-@end
-
-@interface StageResponse : UNNotificationResponse {
-  @public
-    UNNotification* notification_;
-    NSString* actionIdentifier_;
-}
-@end

@@ -13,6 +13,7 @@
 
 #include "platform/macos/Text.h"
 #include "tests/macos/frameworks/Raising.h"
+#include "tests/macos/frameworks/UserNotificationResponses.h"
 #include "tests/macos/frameworks/UserNotificationValues.h"
 #include "tests/macos/frameworks/World.h"
 

@@ -1,0 +1,18 @@
+// A response to a notification, as the stand-in User Notifications hand it out.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#import <UserNotifications/UserNotifications.h>
+
+@interface StageNotification : UNNotification {
+  @public
+    UNNotificationRequest* request_;
+}
+@end
+
+@interface StageResponse : UNNotificationResponse {
+  @public
+    UNNotification* notification_;
+    NSString* actionIdentifier_;
+}
+@end
