@@ -5,6 +5,8 @@ import os
 import re
 import urllib.parse
 
+from folders import Folders, plain
+
 BUSY, NOT_FOUND, NOT_MOUNTED, UNSUPPORTED = 0xF8DA0002, 0xF8DA0006, 0xF8DA0007, 0xF8DA000C
 
 
@@ -25,11 +27,6 @@ def url(path):
     return "file://" + urllib.parse.quote(folder, safe="/!$&'()*+,-.:=@_~")
 
 
-def plain(path):
-    """One spelling of a path for all that name the same folder."""
-    return path and "/" + os.path.normpath(path).lstrip("/")
-
-
 class Disk:
     """A disk: what its description says, whether it is there, and when it was last mounted."""
 
@@ -39,40 +36,6 @@ class Disk:
         self.writable = False
         self.there = True
         self.mounted_at = 0
-
-
-class Folders:
-    """The folders and files that anybody has made."""
-
-    def __init__(self):
-        self.folders, self.files = set(), set()
-
-    def make(self, path):
-        path = plain(path)
-        while path not in ("", "/"):
-            self.folders.add(path)
-            path = os.path.dirname(path)
-
-    def make_file(self, path):
-        self.make(os.path.dirname(plain(path)))
-        self.files.add(plain(path))
-
-    def is_there(self, path):
-        return plain(path) == "/" or plain(path) in self.folders
-
-    def within(self, path):
-        top = plain(path).rstrip("/") + "/"
-        return {entry for entry in self.folders | self.files if entry.startswith(top)}
-
-    def empty(self, path):
-        if path and self.is_there(path):
-            gone = self.within(path)
-            self.folders -= gone
-            self.files -= gone
-
-    def remove(self, path):
-        self.empty(path)
-        self.folders.discard(plain(path))
 
 
 class World:
