@@ -4,10 +4,11 @@
 import os
 import sys
 
+import looking
 from commands import (BadCommand, NUMBER, STATUS, checked, demand, disk_keys, keys, number, words)
 from mounting import CANCELLED
 from program import Program
-from world import Ended, World, plain, shown, url
+from world import Ended, World
 
 RESOURCES = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "resources")
 BEFORE_START = ("system", "home", "language", "default", "start")
@@ -198,39 +199,7 @@ class Model:
     # Looking.
 
     def do_show(self, what):
-        getattr(self, "show_" + what)()
-
-    def show_menu(self):
-        for item in self.program.menu.items if self.started else []:
-            if item.is_separator():
-                self.world.say(f"item: tag={item.tag} ---")
-                continue
-            parts = [f'item: tag={item.tag} title="{item.title}"']
-            parts += [f"action={item.action}"] if item.action else []
-            parts += [f"volume={item.volume.device}"] if item.volume else []
-            parts += ["align=1"] if item.tag == 102 else []
-            parts += ["checked"] if self.program.menu.is_checked(item) else []
-            self.world.say(" ".join(parts))
-
-    def show_volumes(self):
-        for volume in self.program.volumes:
-            self.world.say(
-                f'volume: {volume.device} label="{volume.label}" uuid={shown(volume.uuid)} '
-                f"writable={'yes' if volume.writable else 'no'} "
-                f"sent={'yes' if volume.prompted else 'no'} path={shown(url(volume.path))}")
-
-    def show_progress(self):
-        self.world.say(f"progress: {'yes' if self.program.in_progress else 'no'}")
-
-    def show_defaults(self):
-        for key in sorted(self.world.defaults):
-            self.world.say(f"default: {key} = {self.world.preference(key)}")
-
-    def show_folders(self):
-        root = plain(self.world.home + "/.brisel")
-        for folder in sorted(self.world.folders.folders):
-            if folder == root or folder.startswith(root + "/"):
-                self.world.say(f"folder: {folder}")
+        getattr(looking, what)(self)
 
 
 def is_command(line):
