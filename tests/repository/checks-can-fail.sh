@@ -15,6 +15,17 @@ tree() {
     printf "$2" >"$folder/$1"
 }
 
+# program FILE TEXT: the same, of a file that may be executed.
+program() {
+    tree "$1" "$2"
+    chmod +x "$folder/$1"
+}
+
+# lines TEXT NUMBER: so many lines of this text.
+lines() {
+    yes "$1" | head -n "$2" | tr '\n' '@' | sed 's/@/\\n/g'
+}
+
 passes() {
     sh "$checks/$1.sh" "$folder" >/dev/null 2>&1 && return
     echo "$1 complains about a good tree: $2"
@@ -75,8 +86,30 @@ tree src/app/A.h '// No licence.\n#pragma once\n'
 complains files 'no licence'
 tree src/app/A.h '// No guard.\n// SPDX-License-Identifier: MIT\n'
 complains files 'no guard'
-tree src/app/A.h "$good$(yes '//' | head -350 | tr '\n' '@' | sed 's/@/\\n/g')"
-complains files 'a long file'
+tree src/app/A.h "$good$(lines '//' 257)"
+passes files 'a file of 260 lines'
+tree src/app/A.h "$good$(lines '//' 258)"
+complains files 'a file of 261 lines'
+
+licence='# SPDX-License-Identifier: MIT\n'
+program scripts/run "#!/bin/sh\n# Runs it all.\n$licence"
+passes files 'a good script'
+program scripts/run "#!/bin/sh\n# Runs it all: run FOLDER\n$licence"
+passes files 'a script that says how it is called'
+tree tests/run.py "# Runs it all.\n$licence"
+passes files 'a good module'
+program scripts/run "# Runs it all.\n$licence"
+complains files 'nothing to execute a script by'
+program scripts/run "#!/bin/sh\n$licence"
+complains files 'no sentence on a script'
+program .ci/run "#!/bin/sh\n# Runs it all.\nset -eu\n"
+complains files 'no licence of a script'
+tree tests/run.sh "#!/bin/sh\n# Runs it all: but\n$licence# not today.\n"
+complains files 'half a sentence on a script'
+tree tests/run.py '# Runs it all.\nimport os\n'
+complains files 'no licence of a module'
+tree benchmarks/run.py "# Runs it all.\n$licence$(lines '#' 259)"
+complains files 'a long module'
 
 tree src/app/A.cpp 'int  a ;\n'
 complains format 'bad format'

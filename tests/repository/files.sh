@@ -1,13 +1,31 @@
 #!/bin/sh
-# Checks that each source file says what it is, and is short.
+# Checks that each source file and script says what it is, and is short.
 # SPDX-License-Identifier: MIT
 #
 # usage: files.sh ROOT
 cd "$1" || exit 2
+status=0
 
-find src simulator tests benchmarks tools helper \
-    \( -name '*.h' -o -name '*.cpp' -o -name '*.mm' -o -name '*.m' -o -name '*.c' \) 2>/dev/null |
-sort | xargs awk '
+# files TEST...: those that meet one of find's tests.
+files() {
+    find src simulator tests benchmarks tools helper scripts .ci \
+        -type f \( "$@" \) ! -path '*/__pycache__/*' 2>/dev/null | sort
+}
+
+sources() {
+    files -name '*.h' -o -name '*.cpp' -o -name '*.mm' -o -name '*.m' -o -name '*.c'
+    files -name '*.py' -o -name '*.sh' -o -perm -u+x
+}
+
+files -perm -u+x | xargs awk '
+FNR == 1 && !/^#!\// {
+    print FILENAME ": is to be executed, but does not say by what"
+    broken = 1
+}
+END { exit broken }
+' || status=1
+
+sources | xargs awk '
 function complain(what) {
     print file ": " what
     broken = 1
@@ -15,17 +33,29 @@ function complain(what) {
 
 function finish() {
     if (file == "") return
-    if (lines > 350) complain("has " lines " lines, more than 350")
+    if (!licensed) complain("has no licence below its first sentence")
+    if (lines > 260) complain("has " lines " lines, more than 260")
     if (file ~ /\.h$/ && !once) complain("lacks #pragma once")
+}
+
+# The sentence on a script may end with how it is called.
+function isSentence(line) {
+    if (mark == "//") return line ~ /^\/\/ .*[a-z].*[.]$/
+    return line ~ /^# .*[a-z].*[.]$/ || (line ~ /^# .*[a-z]/ && index(line, ": " name " "))
 }
 
 FNR == 1 {
     finish()
     file = FILENAME
+    name = file
+    sub(/.*\//, "", name)
+    mark = file ~ /\.(h|cpp|mm|m|c)$/ ? "//" : "#"
     once = 0
-    if ($0 !~ /^\/\/ .*[a-z].*[.]$/) complain("does not begin with a sentence on what it is")
+    licensed = 0
+    first = /^#!/ ? 2 : 1
 }
-FNR == 2 && $0 != "// SPDX-License-Identifier: MIT" { complain("has no licence in its second line") }
+FNR == first && !isSentence($0) { complain("does not begin with a sentence on what it is") }
+FNR == first + 1 && $0 == mark " SPDX-License-Identifier: MIT" { licensed = 1 }
 /^#pragma once$/ { once = 1 }
 { lines = FNR }
 
@@ -33,4 +63,6 @@ END {
     finish()
     exit broken
 }
-'
+' || status=1
+
+exit $status
