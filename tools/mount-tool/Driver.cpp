@@ -41,12 +41,17 @@ constexpr std::array Meanings{
 constexpr std::array ProbePaths{"/usr/bin/ntfs-3g.probe", "/bin/ntfs-3g.probe"};
 constexpr std::array DriverPaths{"/usr/bin/ntfs-3g", "/bin/ntfs-3g"};
 
+// Missing, or taken out of use.
+bool isAbsent(int error) {
+    return error == ENOENT || error == EACCES;
+}
+
 // The first of the paths that is there; none, with `errno`, where none is or it cannot be started.
 template <typename Paths>
 std::optional<Ended> runFirst(const Paths& paths, const std::vector<std::string>& arguments) {
     for (const char* const path : paths) {
         auto ended = run(path, arguments);
-        if (!ended && errno == ENOENT) continue;
+        if (!ended && isAbsent(errno)) continue;
         if (!ended) return std::nullopt;
         std::fputs(ended->output.c_str(), stdout);
         if (!ended->output.empty() && !ended->output.ends_with('\n')) std::putchar('\n');
@@ -65,7 +70,7 @@ std::string optionsFor(const Person& person) {
 std::optional<Refusal> probe(const std::string& device) {
     const auto ended = runFirst(ProbePaths, {"--readwrite", device});
     // A driver that came without its probe judges the volume when it mounts it.
-    if (!ended && errno == ENOENT) return std::nullopt;
+    if (!ended && isAbsent(errno)) return std::nullopt;
     if (!ended) return refuseByError("The probe ntfs-3g.probe cannot be started");
     if (ended->status == 0) return std::nullopt;
     return refusalFor(ended->status);

@@ -89,10 +89,7 @@ bool UserDefaults::boolForKey(std::string_view key) const {
     CallError error;
     const bool stored = g_key_file_get_boolean(file_.get(), Group, std::string(key).c_str(),
                                                error.receive()) != FALSE;
-    const bool absent =
-        g_error_matches(error.get(), G_KEY_FILE_ERROR, G_KEY_FILE_ERROR_KEY_NOT_FOUND) != FALSE ||
-        g_error_matches(error.get(), G_KEY_FILE_ERROR, G_KEY_FILE_ERROR_GROUP_NOT_FOUND) != FALSE;
-    if (!absent) return stored;
+    if (!error) return stored;
     const auto found = registered_.find(key);
     return found != registered_.end() && found->second;
 }
