@@ -17,6 +17,7 @@ using platform::DiskDescription;
 using platform::stringWithFormat;
 
 constexpr const char* MountToolPath = "/sbin/mount_ntfs";
+// The arguments of the other mount, in one word.
 constexpr const char* MountOptions = "rw,auto,nobrowse,noowners,noatime";
 
 /// What one mount is about.

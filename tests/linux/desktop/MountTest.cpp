@@ -168,6 +168,12 @@ TEST_F(AMount, IsRefusedOnceWithoutTheKernelsDriver) {
     }
 }
 
+TEST_F(AMount, IsRefusedWhereTheServiceGivesUpOnIt) {
+    // What a service made with GIO answers when its own work was cancelled.
+    EXPECT_TRUE(
+        mount({"org.gtk.GDBus.UnmappedGError.Quark._g_2dio_2derror_2dquark.Code19"}).has_value());
+}
+
 TEST_F(AMount, IsRefusedOnceForAnyOtherReason) {
     knowFileSystems("\tntfs3\n");
     EXPECT_TRUE(mount({NotAuthorized}).has_value());
