@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <string_view>
 #include <utility>
 
 #include "tools/mount-tool/Descriptor.h"
@@ -90,6 +91,16 @@ int exitStatusOf(pid_t process) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
+// In UTF-8 the control characters U+0080 to U+009F, which some terminals obey, are a byte of their
+// own and one of these.
+bool isFurtherControl(std::string_view text) {
+    constexpr unsigned char First = 0x80;
+    constexpr unsigned char Last = 0x9F;
+    if (text.size() < 2) return false;
+    const auto byte = static_cast<unsigned char>(text[1]);
+    return byte >= First && byte <= Last;
+}
+
 }  // namespace
 
 std::optional<Ended> run(const std::string& path, const std::vector<std::string>& arguments) {
@@ -114,6 +125,10 @@ std::string withoutControlCharacters(std::string text) {
         return (byte < ' ' && character != '\n') || byte == Delete;
     };
     std::replace_if(text.begin(), text.end(), isUnfit, '?');
+    constexpr char Lead = '\xC2';
+    for (auto at = text.find(Lead); at != std::string::npos; at = text.find(Lead, at + 1)) {
+        if (isFurtherControl(std::string_view(text).substr(at))) text.replace(at, 2, "?");
+    }
     return text;
 }
 

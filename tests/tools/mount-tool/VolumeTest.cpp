@@ -56,6 +56,14 @@ TEST_F(Volume, IsMountedReadWriteForThePersonWhoAsked) {
     EXPECT_FALSE(succeeds("setpriv --reuid 1 --regid 1 --clear-groups ls " + mountPoint()));
 }
 
+TEST_F(Volume, IsMountedInAHomeThatIsWrittenWithASlashAtItsEnd) {
+    const auto name = shell("getent passwd " + user->uid() + " | cut -d: -f1");
+    ASSERT_TRUE(succeeds("usermod --home " + user->home() + "/ " + name));
+    const auto run = runTool();
+    shell("usermod --home " + user->home() + " " + name);
+    expectMounted(run);
+}
+
 TEST_F(Volume, IsMountedThoughItIsFull) {
     withVolume(Filling);
     expectMounted(runTool());

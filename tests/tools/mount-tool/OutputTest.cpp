@@ -1,0 +1,27 @@
+// What of a program's output is fit for a log.
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include "tools/mount-tool/Program.h"
+
+namespace brisel::mounttool {
+
+namespace {
+
+TEST(Output, KeepsTextAndLineEnds) {
+    EXPECT_EQ(withoutControlCharacters("Größe: 5 µm\n日本語\n"), "Größe: 5 µm\n日本語\n");
+}
+
+TEST(Output, HasNoControlCharacters) {
+    EXPECT_EQ(withoutControlCharacters("a\x1B[2J\rb\x7F\tc"), "a?[2J?b??c");
+}
+
+TEST(Output, HasNoneOfTheFurtherOnesThatSomeTerminalsObey) {
+    EXPECT_EQ(withoutControlCharacters("\xC2\x80\xC2\x9B"
+                                       "2J\xC2\xA0\xC2"),
+              "??2J\xC2\xA0\xC2");
+}
+
+}  // namespace
+
+}  // namespace brisel::mounttool
