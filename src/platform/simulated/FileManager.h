@@ -21,7 +21,7 @@ class FileManager final : public platform::FileManager {
 
     [[nodiscard]] std::string homeDirectory() const override { return home_; }
     [[nodiscard]] std::string volumesDirectory() const override { return "/Volumes"; }
-    [[nodiscard]] std::string currentDirectoryPath() const override { return "/"; }
+    [[nodiscard]] std::string currentDirectoryPath() const override { return current_; }
     [[nodiscard]] bool isWritableFileAtPath(const std::optional<std::string>& path) override;
     [[nodiscard]] FolderListing contentsOfDirectory(const FileURL& folder) override;
     [[nodiscard]] std::optional<Error> createDirectory(const std::string& path) override;
@@ -30,6 +30,7 @@ class FileManager final : public platform::FileManager {
     // The control face.
     enum class Call { Create, List, Delete };
     void setHomeDirectory(std::string path) { home_ = std::move(path); }
+    void setCurrentDirectory(std::string path) { current_ = std::move(path); }
     /// Lets the next such call fail; errors given for one call are used up in order.
     void fail(Call call, Error error);
 
@@ -41,6 +42,7 @@ class FileManager final : public platform::FileManager {
     FileSystem& fileSystem_;
     const DiskArbitration& disks_;
     std::string home_ = "/Users/user";
+    std::string current_ = "/";
     std::map<Call, std::deque<Error>> failures_;
 };
 

@@ -36,6 +36,14 @@ TEST_F(RemountPrompt, HasOneCategoryOfTwoActions) {
     EXPECT_EQ(categories[0].actions[1].title, "No, thanks.");
 }
 
+TEST_F(RemountPrompt, OffersItsActionsInTheUsersLanguage) {
+    mac.bundle.setLanguage("de");
+    manager().registerNotificationCategory();
+    const auto& actions = mac.userNotificationCenter.categories().at(0).actions;
+    EXPECT_EQ(actions.at(0).title, "Ja, gern!");
+    EXPECT_EQ(actions.at(1).title, "Nein, danke.");
+}
+
 TEST_F(RemountPrompt, CarriesItsContent) {
     EXPECT_TRUE(post()->notificationSent);
     const auto& prompt = mac.userNotificationCenter.lastPrompt();

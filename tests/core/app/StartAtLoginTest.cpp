@@ -1,5 +1,7 @@
 // The start-at-login check item.
 // SPDX-License-Identifier: MIT
+#include "platform/Bundle.h"
+#include "tests/support/PlatformWith.h"
 #include "tests/support/RunningProgram.h"
 
 namespace brisel::tests {
@@ -53,6 +55,33 @@ TEST_F(StartAtLogin, KeepsTheCheckMarkWhereItsRemovalIsRefused) {
     EXPECT_TRUE(checked());
     EXPECT_THAT(mac.userDefaults.stored(),
                 ElementsAre("shouldStartAtLogin = YES", "showDisclaimer = NO"));
+}
+
+/// Texts that are their keys, and a note of each that was looked up.
+class NotedTexts final : public platform::Bundle {
+  public:
+    mutable std::vector<std::string> keys;
+    std::string localizedString(std::string_view key) const override {
+        return keys.emplace_back(key);
+    }
+    bool hasImage(const std::string& /*name*/) const override { return true; }
+};
+
+TEST_F(StartAtLogin, LooksUpAWordForWhatIsRefusedAndLeavesItOut) {
+    NotedTexts texts;
+    AppDelegate delegate(platformWith(mac.platform, {.bundle = &texts}));
+    refuse();
+    delegate.toggleStartAtLogin();
+    EXPECT_THAT(texts.keys,
+                ElementsAre("remove", "An error ocurred",
+                            "Couldn't %@ Helper App to launch at login item list.", "OK"));
+
+    mac.loginItems.setAnswer(platform::simulated::LoginItems::Answer::Accept);
+    delegate.toggleStartAtLogin();
+    texts.keys.clear();
+    refuse();
+    delegate.toggleStartAtLogin();
+    EXPECT_EQ(texts.keys.at(0), "add");
 }
 
 TEST_F(StartAtLogin, MayBeTriedAgain) {

@@ -1,5 +1,6 @@
 // Start-up, the warning notice, the About action and the end.
 // SPDX-License-Identifier: MIT
+#include "app/MainMenu.h"
 #include "platform/Application.h"
 #include "platform/simulated/ProgramEnded.h"
 #include "platform/StatusItem.h"
@@ -201,6 +202,12 @@ class About : public RunningProgram {};
 
 TEST_F(About, BringsTheApplicationToTheFrontFirst) {
     choose("About Brisel");
+    EXPECT_THAT(newLines(), ElementsAre("activate", "about"));
+}
+
+TEST_F(About, IsThereAsLongAsTheItemThatOffersIt) {
+    const auto items = mainMenuItems(std::make_shared<AppDelegate>(mac.platform), mac.platform);
+    items.at(1).target(items.at(1));
     EXPECT_THAT(newLines(), ElementsAre("activate", "about"));
 }
 

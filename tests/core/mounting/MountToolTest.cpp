@@ -126,6 +126,18 @@ TEST_F(MountTool, FallsBackToTheTextOfAMissingName) {
     EXPECT_THAT(newLines(), Contains("mkdir: /Users/user/.brisel/(null)"));
 }
 
+TEST_F(MountTool, RecordsTheTextOfAMissingDeviceNode) {
+    attachQuietly("disk4s1", "Data");
+    mac.diskArbitration.hold();
+    manager().remountVolumeNamed("disk4s1");
+    auto nameless = mac.diskArbitration.properties("disk4s1");
+    nameless.description.mediaBSDName.reset();
+    mac.diskArbitration.change("disk4s1", nameless);
+    mac.diskArbitration.release();
+    turn();
+    EXPECT_THAT(devices(), ElementsAre("disk4s1", "(null)"));
+}
+
 TEST_F(MountTool, PutsTwoVolumesOfOneLabelOnTheSamePath) {
     attachQuietly("disk4s1", "Data");
     attachQuietly("disk5s1", "Other");

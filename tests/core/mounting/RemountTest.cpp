@@ -65,7 +65,20 @@ TEST_F(Remount, EndsInAnAlertForNoNameAtAll) {
     EXPECT_THAT(newLines(), Contains("alert: Volume not mounted"));
 }
 
+TEST_F(Remount, NamesTheVolumeWithoutADiskByItsLabel) {
+    attachQuietly("disk4s1", "Data");
+    attachQuietly("disk5s1", "Data");
+    volume(1)->diskData.mediaBSDName.reset();
+    manager().remountVolume(senderFor(volume(1)));
+    EXPECT_THAT(newLines(), Contains(StartsWith("text: The volume Data-disk5s1 is not mounted")));
+}
+
 TEST_F(Remount, EndsInAnAlertWithoutARebuildWhereThereIsNoDisk) {
+    bool busyWhileTheAlertWasUp = false;
+    person.whenAlertShows = [&](const auto&) {
+        busyWhileTheAlertWasUp = manager().inProgress();
+        return 0;
+    };
     attachQuietly("disk4s1", "Data");
     volume()->diskData.mediaBSDName.reset();
     manager().remountVolume(senderFor(volume()));
@@ -73,6 +86,7 @@ TEST_F(Remount, EndsInAnAlertWithoutARebuildWhereThereIsNoDisk) {
     EXPECT_THAT(newLines(),
                 ElementsAre("icon: brisel-status-red-light", "alert: Volume not mounted",
                             NotMountedText, "buttons: OK"));
+    EXPECT_TRUE(busyWhileTheAlertWasUp);
     EXPECT_FALSE(manager().inProgress());
     EXPECT_THAT(devices(), ElementsAre("disk4s1"));
 }
@@ -110,6 +124,19 @@ TEST_F(Remount, StopsSilentlyWhereTheVolumeIsNoLongerMountable) {
     EXPECT_THAT(newLines(), ElementsAre("log: disk unmounted...", "log: Disk not mountable!"));
     EXPECT_TRUE(manager().inProgress());
     EXPECT_THAT(devices(), ElementsAre("disk4s1"));
+}
+
+TEST_F(Remount, StopsSilentlyWhereNothingSaysThatTheVolumeIsMountable) {
+    attachQuietly("disk4s1", "Data");
+    mac.diskArbitration.hold();
+    choose("re-mount Data");
+    auto changed = mac.diskArbitration.properties("disk4s1");
+    changed.description.volumeMountable.reset();
+    mac.diskArbitration.change("disk4s1", changed);
+    forgetLines();
+    mac.diskArbitration.release();
+    turn();
+    EXPECT_THAT(newLines(), ElementsAre("log: disk unmounted...", "log: Disk not mountable!"));
 }
 
 TEST_F(Remount, IsNotRefusedWhileAnotherRuns) {

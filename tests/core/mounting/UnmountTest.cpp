@@ -123,7 +123,7 @@ TEST_F(Unmount, DropsEveryRecordOfTheDisk) {
     attachWritable("disk4s1", "Data");
     attachWritable("disk5s1", "Other");
     for (int copies = 0; copies < 3; ++copies) {
-        const auto twin = NTFSVolume::initWithVolume(volume()->diskData);
+        const auto twin = NTFSVolume::initWithVolume({});
         twin->deviceNode = "disk4s1";
         twin->label = "Twin";
         manager().volumes().push_back(twin);

@@ -8,8 +8,10 @@
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
 #include <cstring>
 #include <filesystem>
+#include <thread>
 
 #include "privileged/FileHandle.h"
 
@@ -67,6 +69,12 @@ TEST(WorkingDirectory, IsChangedAndChangedBack) {
     EXPECT_EQ(std::filesystem::current_path(), before);
 }
 
+TEST(WorkingDirectory, IsChangedBackToWhereItWasThatTime) {
+    const WorkingDirectory outer("/usr");
+    { const WorkingDirectory inner("/"); }
+    EXPECT_EQ(std::filesystem::current_path(), "/usr");
+}
+
 TEST(FileHandle, ReadsAllThatWasWritten) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe(ends.data()), 0);
@@ -76,6 +84,26 @@ TEST(FileHandle, ReadsAllThatWasWritten) {
     const FileHandle handle(ends[0]);
     EXPECT_EQ(handle.readDataToEndOfFile(), text);
     EXPECT_EQ(handle.readDataToEndOfFile(), "");
+}
+
+TEST(FileHandle, ReadsOnAfterASignal) {
+    struct sigaction quiet {};
+    struct sigaction before {};
+    quiet.sa_handler = [](int) {};
+    ASSERT_EQ(sigaction(SIGUSR1, &quiet, &before), 0);
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    std::thread writer([end = ends[1], reader = pthread_self()] {
+        for (int signals = 0; signals < 20; ++signals) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            pthread_kill(reader, SIGUSR1);
+        }
+        EXPECT_EQ(write(end, "late", 4), 4);
+        close(end);
+    });
+    EXPECT_EQ(FileHandle(ends[0]).readDataToEndOfFile(), "late");
+    writer.join();
+    sigaction(SIGUSR1, &before, nullptr);
 }
 
 TEST(FileHandle, ClosesItsDescriptor) {

@@ -15,6 +15,7 @@ using testing::StartsWith;
 class NewTask : public PrivilegedTask {};
 
 TEST_F(NewTask, KnowsTheCurrentDirectoryAndNothingElse) {
+    mac.fileManager.setCurrentDirectory("/some/where");
     const auto made = KJPrivilegedTask::init(withTools);
     EXPECT_EQ(made->launchPath(), "");
     EXPECT_TRUE(made->arguments().empty());
@@ -23,7 +24,7 @@ TEST_F(NewTask, KnowsTheCurrentDirectoryAndNothingElse) {
     EXPECT_FALSE(made->isRunning());
     EXPECT_EQ(made->processIdentifier(), 0);
     EXPECT_EQ(made->terminationStatus(), 0);
-    EXPECT_EQ(made->currentDirectoryPath(), mac.fileManager.currentDirectoryPath());
+    EXPECT_EQ(made->currentDirectoryPath(), "/some/where");
 }
 
 TEST_F(NewTask, TakesWhatItsInitialiserIsGiven) {
@@ -37,6 +38,20 @@ TEST_F(NewTask, TakesWhatItsInitialiserIsGiven) {
     EXPECT_EQ(all->launchPath(), "/bin/ls");
     EXPECT_THAT(all->arguments(), ElementsAre("-l"));
     EXPECT_EQ(all->currentDirectoryPath(), "/tmp");
+}
+
+TEST_F(NewTask, GoesByWhatWasSetLast) {
+    const auto made = KJPrivilegedTask::initWithLaunchPathArgumentsCurrentDirectory(
+        withTools, "/bin/ls", {"-l"}, "/tmp");
+    made->setTerminationHandler([](auto&) {});
+    made->setLaunchPath("/bin/echo");
+    made->setArguments({"more"});
+    made->setCurrentDirectoryPath("/usr");
+    made->setTerminationHandler(nullptr);
+    EXPECT_EQ(made->launchPath(), "/bin/echo");
+    EXPECT_THAT(made->arguments(), ElementsAre("more"));
+    EXPECT_EQ(made->currentDirectoryPath(), "/usr");
+    EXPECT_FALSE(made->terminationHandler());
 }
 
 TEST_F(NewTask, TellsWhetherToolsCanBeStarted) {
