@@ -8,7 +8,7 @@ import sys
 
 import mutants
 
-FEWEST = 150
+FEWEST = 400
 
 
 def complaints_about(root, source, listed):

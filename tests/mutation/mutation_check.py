@@ -7,6 +7,7 @@ import concurrent.futures
 import itertools
 import pathlib
 import queue
+import resource
 import sys
 import time
 
@@ -64,7 +65,12 @@ def try_all(shops, listed):
     # Sources that many others include come last, and the others are not compiled for them.
     groups.sort(key=lambda group: group[0].source.endswith(".h"))
     with concurrent.futures.ThreadPoolExecutor(len(shops)) as pool:
-        return list(itertools.chain.from_iterable(pool.map(try_source, groups)))
+        try:
+            return list(itertools.chain.from_iterable(pool.map(try_source, groups)))
+        except BaseException:
+            for shop in shops:
+                shop.stop()
+            raise
 
 
 def show(mutant):
@@ -104,6 +110,13 @@ def verdict(results, whole):
                 or whole and 100 * caught < FEWEST_CAUGHT * len(results))
 
 
+def taken(begin):
+    """How long it has taken, by the clock and on processors."""
+    used = resource.getrusage(resource.RUSAGE_CHILDREN)
+    return (f"{(time.monotonic() - begin) / 60:.0f} minutes, "
+            f"{(used.ru_utime + used.ru_stime) / 60:.0f} of a processor's time")
+
+
 def arguments():
     parser = argparse.ArgumentParser(
         description="Breaks the core in small ways and tells which breakages the tests miss.")
@@ -124,14 +137,14 @@ def main():
         shops = [workshop.Workshop(ROOT, folder / str(job + 1)) for job in range(wanted.jobs)]
         for shop in shops:
             shop.prepare()
-        print(f"The tests pass on unbroken sources ({time.monotonic() - begin:.0f} s); "
+        print(f"The tests pass on unbroken sources ({taken(begin)}); "
               f"trying {len(listed)} mutants.", flush=True)
         results = try_all(shops, listed)
     except (mutants.ListError, workshop.BuildError, workshop.TestsFail) as wrong:
         print(wrong, file=sys.stderr)
         return 2
     wrong = verdict(results, whole=not wanted.chosen)
-    print(f"{time.monotonic() - begin:.0f} s")
+    print(taken(begin))
     return 1 if wrong else 0
 
 

@@ -60,6 +60,10 @@ class TestsFail(Exception):
     """A part of the tests fails without any mistake."""
 
 
+class Stopped(Exception):
+    """The workshop was told to stop."""
+
+
 def files(tree):
     """The names of the files of a tree, but for what is made in it."""
     found = set()
@@ -87,6 +91,8 @@ class Workshop:
     def __init__(self, tree, copy):
         self.copy = copy
         self.limits = {}
+        self.process = None
+        self.stopped = False
         refresh(tree, copy)
         if not self.run(["cmake", "--preset", "mutation"], BUILD_LIMIT):
             raise BuildError(self.last_words())
@@ -94,16 +100,28 @@ class Workshop:
     def run(self, command, limit):
         """Whether the command succeeds within so many seconds."""
         environment = os.environ | {"ASAN_OPTIONS": MEMORY}
+        if self.stopped:
+            raise Stopped
         with open(self.copy / "build.log", "wb") as log:
-            process = subprocess.Popen(command, cwd=self.copy, env=environment, stdout=log,
-                                       stderr=log, stdin=subprocess.DEVNULL,
-                                       start_new_session=True)
-            try:
-                return process.wait(limit) == 0
-            except subprocess.TimeoutExpired:
-                os.killpg(process.pid, signal.SIGKILL)
-                process.wait()
-                return False
+            self.process = subprocess.Popen(command, cwd=self.copy, env=environment, stdout=log,
+                                            stderr=log, stdin=subprocess.DEVNULL,
+                                            start_new_session=True)
+        try:
+            return self.process.wait(limit) == 0
+        except subprocess.TimeoutExpired:
+            return False
+        finally:
+            self.end_process()
+
+    def end_process(self):
+        """Ends what runs, with all that it has started."""
+        if self.process and self.process.poll() is None:
+            os.killpg(self.process.pid, signal.SIGKILL)
+            self.process.wait()
+
+    def stop(self):
+        self.stopped = True
+        self.end_process()
 
     def last_words(self):
         return (self.copy / "build.log").read_text(encoding="utf-8", errors="replace")[-3000:]

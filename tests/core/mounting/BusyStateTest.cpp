@@ -1,6 +1,7 @@
 // What each way of a remount leaves of the busy state.
 // SPDX-License-Identifier: MIT
 #include "tests/support/RunningProgram.h"
+#include "volumes/DiskEvents.h"
 
 namespace brisel::tests {
 namespace {
@@ -105,6 +106,19 @@ TEST_F(BusyMoment, BeginsWithAnAutomaticRemount) {
     attachNTFS("disk4s1", "Data", SomeUUID);
     turn();
     EXPECT_TRUE(manager().inProgress());
+}
+
+TEST_F(BusyMoment, HasNotComeWhereAnAutomaticRemountFindsNoDisk) {
+    storeAutomountList({SomeUUID});
+    bool busy = true;
+    person.whenAlertShows = [&](const auto&) {
+        busy = manager().inProgress();
+        return 0;
+    };
+    diskAppeared(manager(),
+                 {.bsdName = "disk4s1", .reported = ntfsDisk("Data", SomeUUID).description});
+    EXPECT_EQ(person.alertsSeen.size(), 1U);
+    EXPECT_FALSE(busy);
 }
 
 TEST_F(BusyMoment, LastsWhileAFailureIsShown) {

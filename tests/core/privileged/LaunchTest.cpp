@@ -199,6 +199,7 @@ TEST_F(Launch, ThatFailsKeepsWhatTheLastOneLeft) {
     EXPECT_EQ(outputOf(made), "");
     const auto handle = made->outputFileHandle();
     const auto child = made->processIdentifier();
+    EXPECT_GT(child, 0);
     tools.executeStatus = -1;
     EXPECT_EQ(made->launch(), -1);
     EXPECT_EQ(made->terminationStatus(), 3);

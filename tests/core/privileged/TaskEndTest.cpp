@@ -47,6 +47,21 @@ TEST_F(WatchedTask, RunsOnWhileItsToolDoes) {
     EXPECT_THAT(heard, ElementsAre("notification", "handler"));
 }
 
+TEST_F(WatchedTask, RunsOnWhenAnotherTasksToolHasEnded) {
+    const auto other = shell("exit 3");
+    ASSERT_EQ(other->launch(), 0);
+    const auto made = waitingTool(5);
+    ASSERT_EQ(made->launch(), 0);
+    waitForTheEnd(other->processIdentifier());
+    made->checkTaskStatus();
+    ASSERT_TRUE(made->isRunning());
+    other->waitUntilExit();
+    EXPECT_EQ(other->terminationStatus(), 3);
+    tools.tell("\n");
+    made->waitUntilExit();
+    EXPECT_EQ(made->terminationStatus(), 5);
+}
+
 TEST_F(WatchedTask, PostsItsNotificationWithoutAHandlerToo) {
     const auto made = shell("exit 0");
     launchAndEnd(made);
@@ -86,13 +101,13 @@ TEST_F(WatchedTask, MayBeLaunchedAgainByItsHandler) {
 
 TEST_F(WatchedTask, MayLoseItsHandlerToTheHandlerItself) {
     const auto made = shell("exit 0");
-    made->setTerminationHandler([this, calls = 0](KJPrivilegedTask& ended) mutable {
+    made->setTerminationHandler([this, words = std::string("handler")](KJPrivilegedTask& ended) {
         ended.setTerminationHandler(nullptr);
-        heard.push_back("call " + std::to_string(++calls));
+        heard.push_back(words);
     });
     launchAndEnd(made);
     passTime(1000);
-    EXPECT_THAT(heard, ElementsAre("notification", "call 1"));
+    EXPECT_THAT(heard, ElementsAre("notification", "handler"));
     EXPECT_FALSE(made->terminationHandler());
 }
 
@@ -105,6 +120,17 @@ TEST_F(WatchedTask, CountsAsEndedWhereItsChildCannotBePolled) {
     EXPECT_FALSE(made->isRunning());
     EXPECT_NE(made->terminationStatus(), 0);
     EXPECT_THAT(heard, ElementsAre("notification", "handler"));
+}
+
+TEST_F(WatchedTask, MayBeOwnedByItsTimerAloneWhenItsEndIsNoticed) {
+    auto made = shell("exit 1");
+    ASSERT_EQ(made->launch(), 0);
+    waitForTheEnd(made->processIdentifier());
+    auto& task = *made;
+    const std::weak_ptr<KJPrivilegedTask> watched = made;
+    made.reset();
+    task.checkTaskStatus();
+    EXPECT_TRUE(watched.expired());
 }
 
 class WaitedForTask : public WatchedTask {};

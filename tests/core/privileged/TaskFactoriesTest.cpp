@@ -31,15 +31,15 @@ TEST_F(TaskFactory, RunsArguments) {
 
 TEST_F(TaskFactory, RunsInADirectory) {
     expectEnded(KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectory(
-                    withTools, "/bin/pwd", {}, "/"),
-                0, "/\n");
+                    withTools, "/bin/pwd", {}, "/usr"),
+                0, "/usr\n");
 }
 
 TEST_F(TaskFactory, RunsWithAnAuthorizationOfTheCaller) {
     expectEnded(KJPrivilegedTask::
                     launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectoryAuthorization(
-                        withTools, "/bin/pwd", {}, "/", tools.own()),
-                0, "/\n");
+                        withTools, "/bin/pwd", {}, "/usr", tools.own()),
+                0, "/usr\n");
     EXPECT_THAT(tools.calls, ElementsAre("execute"));
 }
 

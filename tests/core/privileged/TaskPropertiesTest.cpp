@@ -44,6 +44,7 @@ TEST_F(NewTask, GoesByWhatWasSetLast) {
     const auto made = KJPrivilegedTask::initWithLaunchPathArgumentsCurrentDirectory(
         withTools, "/bin/ls", {"-l"}, "/tmp");
     made->setTerminationHandler([](auto&) {});
+    EXPECT_TRUE(made->terminationHandler());
     made->setLaunchPath("/bin/echo");
     made->setArguments({"more"});
     made->setCurrentDirectoryPath("/usr");

@@ -44,6 +44,25 @@ TEST_F(DiskAppearance, OnlyLogsADiskThatIsNoNTFS) {
     EXPECT_TRUE(manager().volumes().empty());
 }
 
+TEST_F(DiskAppearance, RecordsADiskThatIsNotMountedAsReadOnlyThoughTheRootIsWritable) {
+    auto root = diskOfKind("apfs");
+    root.description.volumePath = platform::FileURL("/");
+    root.writable = true;
+    mac.diskArbitration.attach("disk1s1", root);
+    auto disk = ntfsDisk("Data");
+    disk.description.volumePath.reset();
+    appear(disk);
+    EXPECT_TRUE(mac.fileManager.isWritableFileAtPath("/"));
+    EXPECT_FALSE(volume()->writable);
+}
+
+TEST_F(DiskAppearance, RecordsTheTextOfAMissingDeviceNode) {
+    auto disk = ntfsDisk("Data");
+    disk.description.mediaBSDName.reset();
+    diskAppeared(manager(), {.bsdName = "disk4s1", .reported = disk.description});
+    EXPECT_EQ(volume()->deviceNode, "(null)");
+}
+
 TEST_F(DiskAppearance, OnlyLogsADiskOfNoKind) {
     auto disk = ntfsDisk("Data");
     disk.description.volumeKind.reset();

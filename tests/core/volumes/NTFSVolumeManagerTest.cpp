@@ -126,6 +126,22 @@ TEST_F(Manager, DoesNotKeepItsDelegateAlive) {
     EXPECT_TRUE(observer.expired());
 }
 
+TEST_F(Manager, TellsTheDelegateThatWasSetLast) {
+    struct Delegate final : NTFSVolumeManagerDelegate {
+        int refreshes = 0;
+        void refreshVolumes() override { ++refreshes; }
+        void errorIcon() override {}
+    };
+    NTFSVolumeManager made(mac.platform);
+    const auto first = std::make_shared<Delegate>();
+    const auto second = std::make_shared<Delegate>();
+    made.setDelegate(first);
+    made.setDelegate(second);
+    made.refreshVolumes();
+    EXPECT_EQ(first->refreshes, 0);
+    EXPECT_EQ(second->refreshes, 1);
+}
+
 TEST_F(Manager, StaysQuietWithoutASession) {
     mac.faults.failCall(1);
     attachNTFS("disk4s1", "Data");
@@ -140,6 +156,9 @@ TEST_F(Manager, TakesARecordFromAMenuItemThatCarriesOne) {
     const auto record = NTFSVolume::initWithVolume({});
     EXPECT_EQ(volumeOf(senderFor(record)), record);
     EXPECT_EQ(volumeOf(platform::MenuItem()), nullptr);
+    platform::MenuItem other;
+    other.representedObject = std::make_shared<platform::RepresentedObject>();
+    EXPECT_EQ(volumeOf(other), nullptr);
 }
 
 }  // namespace

@@ -50,6 +50,14 @@ TEST_F(UniqueLabel, GrowsBeforeTheStaleRecordAtTheEnd) {
     EXPECT_THAT(labels(), ElementsAre("Data", "Data-disk5s1"));
 }
 
+TEST_F(UniqueLabel, KnowsTheStaleRecordByItsDeviceNode) {
+    attachQuietly("disk4s1", "Data");
+    volume()->diskData.mediaBSDName = "disk9s9";
+    mac.diskArbitration.report("disk4s1");
+    turn();
+    EXPECT_THAT(labels(), ElementsAre("Data"));
+}
+
 TEST_F(UniqueLabel, GrowsForNamelessVolumesToo) {
     auto nameless = ntfsDisk("");
     nameless.description.volumeName.reset();
