@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 import functools
 import json
+import os
 import re
 import shlex
 import subprocess
@@ -51,8 +52,11 @@ class House:
 
     def recipe(self, words):
         """What `make` would do for a target; None where it has none of that name."""
+        # As typed, also where another make has started this.
+        environment = {name: value for name, value in os.environ.items()
+                       if name not in ("MAKEFLAGS", "MAKELEVEL", "MFLAGS")}
         result = subprocess.run(["make", "--no-print-directory", "-n", *words], cwd=self.root,
-                                capture_output=True, text=True, check=False)
+                                env=environment, capture_output=True, text=True, check=False)
         return None if result.returncode else result.stdout.splitlines()
 
     def here(self, command):
