@@ -113,8 +113,8 @@ def verdict(results, whole):
 def taken(begin):
     """How long it has taken, by the clock and on processors."""
     used = resource.getrusage(resource.RUSAGE_CHILDREN)
-    return (f"{(time.monotonic() - begin) / 60:.0f} minutes, "
-            f"{(used.ru_utime + used.ru_stime) / 60:.0f} of a processor's time")
+    return (f"{(time.monotonic() - begin) / 60:.1f} minutes, "
+            f"{(used.ru_utime + used.ru_stime) / 60:.1f} of a processor's time")
 
 
 def arguments():
