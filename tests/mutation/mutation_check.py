@@ -121,7 +121,7 @@ def arguments():
     parser = argparse.ArgumentParser(
         description="Breaks the core in small ways and tells which breakages the tests miss.")
     parser.add_argument("chosen", nargs="*", metavar="SOURCE[:LINE]",
-                        help="only these, such as app/StatusMenu.cpp or app/StatusMenu.cpp:40, the "
+                        help="only these, such as app/StatusMenu.cpp or app/StatusMenu.cpp:3, the "
                              "line being that of the list; all unless told")
     parser.add_argument("--jobs", type=int, default=1, metavar="N",
                         help="how many at a time, each in a copy of its own")
@@ -143,6 +143,8 @@ def main():
     except (mutants.ListError, workshop.BuildError, workshop.TestsFail) as wrong:
         print(wrong, file=sys.stderr)
         return 2
+    except KeyboardInterrupt:
+        return 130
     wrong = verdict(results, whole=not wanted.chosen)
     print(taken(begin))
     return 1 if wrong else 0
