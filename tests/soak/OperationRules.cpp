@@ -21,7 +21,7 @@ void BusyRule::hear(const std::string& line) {
     check(line);
     if (auto next = consequence(line)) wanted_ = std::move(next);
     // A red icon comes before the alert of a failed operation.
-    if (line.find("icon: brisel-status-red") == 0) failure_ = true;
+    if (line.starts_with("icon: brisel-status-red")) failure_ = true;
     if (line.starts_with("menu: ")) failure_ = false;
 }
 
