@@ -53,7 +53,7 @@ class Linux {
   private:
     TemporaryFolder folder_;
     platform::linux::SystemLog log_{[](const std::string&) {}};
-    platform::linux::FileManager files_;
+    platform::linux::FileManager files_{folder_.path()};
     platform::linux::UserDefaults defaults_{log_, folder_.path() + "/preferences.conf"};
     platform::linux::RunLoop runLoop_;
 };
@@ -79,7 +79,8 @@ TYPED_TEST(Platform, MakesAFolderWithThoseAboveItAndASecondTimeToo) {
 
 TYPED_TEST(Platform, CountsTheEntriesOfAFolder) {
     auto& files = this->services_.files();
-    ASSERT_FALSE(files.createDirectory(this->mountPoint_ + "/inner").has_value());
+    ASSERT_FALSE(files.createDirectory(this->mountPoint_).has_value());
+    this->services_.makeFile(this->mountPoint_ + "/seen");
     this->services_.makeFile(this->mountPoint_ + "/.hidden");
     const auto listing = files.contentsOfDirectory(platform::FileURL(this->mountPoint_));
     EXPECT_EQ(listing.entryCount, 2U);

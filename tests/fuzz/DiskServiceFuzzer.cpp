@@ -206,9 +206,11 @@ class Machine {
     void askForMount(const std::string& device) {
         bool told = false;
         arbitration_.mountWithArguments({.bsdName = device, .reported = std::nullopt}, {"rw"},
-                                        [&told](const Disk&, const auto&) {
+                                        [&](const Disk& disk, const auto& dissenter) {
                                             must(!told);
                                             told = true;
+                                            // Reported as gone before; the core records it anew.
+                                            if (!dissenter) there_.insert(disk.bsdName);
                                         });
         turnUntil([&told] { return told; });
     }
@@ -216,7 +218,7 @@ class Machine {
   private:
     std::set<std::string> there_;
     SystemLog log_{[](const std::string& /*text*/) {}};
-    DiskArbitration arbitration_{log_, "/dev/null"};
+    DiskArbitration arbitration_{log_};
     brisel::platform::Subscription appearances_;
     brisel::platform::Subscription disappearances_;
 };

@@ -99,6 +99,17 @@ bool ConsoleSession::choose(const std::string& title) {
     return true;
 }
 
+std::string ConsoleSession::menu() {
+    // A menu that was printed before is not the answer.
+    while (readMore(std::chrono::steady_clock::now() + std::chrono::milliseconds(2))) {
+    }
+    seen_ = output_.size();
+    type("menu");
+    if (!waitFor("Quit Brisel\n")) return {};
+    const auto start = output_.rfind("[Brisel: ", seen_);
+    return output_.substr(start, seen_ - start);
+}
+
 bool ConsoleSession::printed(const std::string& text) const {
     return output_.find(text) != std::string::npos;
 }

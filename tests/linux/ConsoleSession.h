@@ -24,6 +24,8 @@ class ConsoleSession {
     bool waitFor(const std::string& text);
     /// Types the number that stands before the title in the menu printed last.
     bool choose(const std::string& title);
+    /// Asks for the menu and returns it, a line an item.
+    [[nodiscard]] std::string menu();
     /// The rest of the line after the text that was waited for last.
     [[nodiscard]] std::string restOfLine();
     /// All that was printed so far.

@@ -25,10 +25,12 @@ bool succeeds(const std::string& command) {
     return std::system(("{ " + command + "; } >/dev/null 2>&1").c_str()) == 0;
 }
 
-NTFSImage::NTFSImage(const std::string& folder, const std::string& label)
-    : path_(folder + "/volume.img") {
+NTFSImage::NTFSImage(const std::string& folder, const std::string& label, const std::string& file)
+    : path_(folder + "/" + file) {
     setenv("LABEL", label.c_str(), 1);
-    shell("truncate -s 8M '" + path_ + "' && mkntfs -F -q -L \"$LABEL\" '" + path_ + "'");
+    // mkntfs gives all volumes of one second the same serial number, which stands at byte 72.
+    shell("truncate -s 8M '" + path_ + "' && mkntfs -F -q -L \"$LABEL\" '" + path_ +
+          "' && dd if=/dev/urandom of='" + path_ + "' bs=8 count=1 seek=9 conv=notrunc");
 }
 
 NTFSImage::~NTFSImage() {

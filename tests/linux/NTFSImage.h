@@ -19,7 +19,8 @@ inline constexpr const char* Filling =
 class NTFSImage {
   public:
     /// Makes the image in the folder; it is not attached yet.
-    NTFSImage(const std::string& folder, const std::string& label);
+    NTFSImage(const std::string& folder, const std::string& label,
+              const std::string& file = "volume.img");
     NTFSImage(const NTFSImage&) = delete;
     NTFSImage& operator=(const NTFSImage&) = delete;
     ~NTFSImage();

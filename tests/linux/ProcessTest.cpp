@@ -16,7 +16,6 @@
 
 #include "platform/linux/Installation.h"
 #include "platform/linux/MountInfo.h"
-#include "platform/linux/ScriptRunner.h"
 #include "platform/linux/VolumeProbe.h"
 #include "tests/linux/TemporaryFolder.h"
 
@@ -111,18 +110,6 @@ TEST(TheTools, LieBesideTheProgramOrInItsLibexec) {
     const auto installed = program.parent_path().parent_path() / "libexec/brisel";
     EXPECT_EQ(fs::path(toolFolder()), inBuild ? program.parent_path() : installed);
     EXPECT_EQ(toolPath("xattr"), toolFolder() + "/xattr");
-}
-
-TEST(TheTools, ComeFirstForScripts) {
-    const auto folders = [](const std::string& expected) {
-        return ScriptRunner().execute("do shell script \"test '" + expected + "' = $PATH\"").error;
-    };
-    {
-        const Variable path("PATH", "/usr/bin:/bin:/odd");
-        EXPECT_FALSE(folders(toolFolder() + ":/usr/bin:/bin:/odd").has_value());
-    }
-    const Variable path("PATH", std::nullopt);
-    EXPECT_FALSE(folders(toolFolder() + ":/usr/bin:/bin").has_value());
 }
 
 TEST(AVolume, TakesWritingWhereAFileCanBeMade) {

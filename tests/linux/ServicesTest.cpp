@@ -1,4 +1,4 @@
-// The services that a Linux machine answers by itself: folders, scripts, privileged starts.
+// The services that a Linux machine answers by itself: folders, privileged starts.
 // SPDX-License-Identifier: MIT
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -12,7 +12,7 @@
 
 #include "platform/linux/Authorization.h"
 #include "platform/linux/FileManager.h"
-#include "platform/linux/ScriptRunner.h"
+#include "platform/linux/MountFolder.h"
 #include "platform/linux/SystemLog.h"
 #include "privileged/FileHandle.h"
 #include "tests/linux/TemporaryFolder.h"
@@ -22,20 +22,55 @@ namespace brisel::platform::linux {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
-using testing::Pair;
 
 class Folders : public testing::Test {
   protected:
     tests::TemporaryFolder folder_;
     std::string mountPoint_ = folder_.path() + "/.brisel/Data";
-    FileManager fileManager_;
+    FileManager fileManager_{folder_.path()};
 };
 
 TEST_F(Folders, AreMadeWithThoseAboveThem) {
     EXPECT_FALSE(fileManager_.createDirectory(mountPoint_).has_value());
     EXPECT_TRUE(fs::is_directory(mountPoint_));
     EXPECT_FALSE(fileManager_.createDirectory(mountPoint_).has_value());
+}
+
+TEST_F(Folders, OutsideTheMountFolderAreNeverMade) {
+    for (const char* const label :
+         {"", ".", "..", "../Documents", "../../tmp/x", "a/b", "a/", "/"}) {
+        EXPECT_TRUE(fileManager_.createDirectory(folder_.path() + "/.brisel/" + label)) << label;
+    }
+    EXPECT_TRUE(fileManager_.createDirectory(folder_.path() + "/Documents").has_value());
+    EXPECT_TRUE(fs::is_empty(folder_.path()));
+}
+
+TEST_F(Folders, MayHaveAnyOtherName) {
+    for (const char* const label : {"...", ".hidden", "a b", "$(reboot)", "-r"})
+        EXPECT_FALSE(fileManager_.createDirectory(folder_.path() + "/.brisel/" + label)) << label;
+}
+
+TEST_F(Folders, LeftByAFailedMountAreRemoved) {
+    const auto folder = mountFolderIn(folder_.path());
+    fs::create_directories(mountPoint_);
+    fs::create_directories(folder + "/Full/inner");
+    std::ofstream(folder + "/file") << "x";
+    fs::create_directory(folder_.path() + "/elsewhere");
+    fs::create_directory_symlink(folder_.path() + "/elsewhere", folder + "/link");
+    removeEmptyMountPoints(folder);
+    EXPECT_FALSE(fs::exists(mountPoint_));
+    EXPECT_TRUE(fs::exists(folder + "/Full/inner"));
+    EXPECT_TRUE(fs::exists(folder + "/file"));
+    EXPECT_TRUE(fs::exists(folder + "/link"));
+    EXPECT_TRUE(fs::exists(folder_.path() + "/elsewhere"));
+}
+
+TEST_F(Folders, BehindALinkedMountFolderAreLeftAlone) {
+    fs::create_directories(folder_.path() + "/Documents/Empty");
+    fs::create_directory_symlink(folder_.path() + "/Documents", mountFolderIn(folder_.path()));
+    removeEmptyMountPoints(mountFolderIn(folder_.path()));
+    EXPECT_TRUE(fs::exists(folder_.path() + "/Documents/Empty"));
+    removeEmptyMountPoints(folder_.path() + "/none");
 }
 
 TEST_F(Folders, ThatHoldSomethingAreNeverRemoved) {
@@ -80,31 +115,6 @@ TEST_F(Folders, AreWritableOnlyWhereTheyAre) {
     EXPECT_TRUE(fileManager_.isWritableFileAtPath(folder_.path()));
     EXPECT_FALSE(fileManager_.isWritableFileAtPath(mountPoint_));
     EXPECT_FALSE(fileManager_.isWritableFileAtPath(std::nullopt));
-}
-
-TEST(Script, IsTheCommandBetweenTheQuotes) {
-    EXPECT_EQ(shellCommandOf(R"(do shell script "xattr -cr /a/My Data")"), "xattr -cr /a/My Data");
-    EXPECT_EQ(shellCommandOf(R"(do shell script "a \"b\" \\c")"), R"(a "b" \c)");
-}
-
-TEST(Script, ThatIsAnythingElseIsASyntaxError) {
-    EXPECT_EQ(shellCommandOf(R"(do shell script "a" & "b")"), std::nullopt);
-    EXPECT_EQ(shellCommandOf(R"(do shell script "a)"), std::nullopt);
-    EXPECT_EQ(shellCommandOf(R"(do shell script "a\)"), std::nullopt);
-    EXPECT_EQ(shellCommandOf("beep"), std::nullopt);
-    EXPECT_TRUE(ScriptRunner().execute("beep").error.has_value());
-}
-
-TEST(Script, ThatSucceedsHasNoError) {
-    EXPECT_FALSE(ScriptRunner().execute(R"(do shell script "exit 0")").error.has_value());
-}
-
-TEST(Script, ThatFailsTellsWhatItPrintedAndItsStatus) {
-    const auto result =
-        ScriptRunner().execute(R"(do shell script "echo no such thing >&2; exit 3")");
-    ASSERT_TRUE(result.error.has_value());
-    EXPECT_THAT(*result.error, ElementsAre(Pair("NSAppleScriptErrorMessage", "no such thing"),
-                                           Pair("NSAppleScriptErrorNumber", "3")));
 }
 
 TEST(PrivilegedStart, HandsBackTheOutputAndTheChild) {

@@ -3,6 +3,7 @@
 #include "entry/console/Console.h"
 
 #include "app/MainMenu.h"
+#include "platform/linux/MountFolder.h"
 #include "platform/linux/Process.h"
 #include "volumes/NTFSVolumeManager.h"
 
@@ -24,6 +25,8 @@ Console::Console(int input, std::ostream& output)
 Console::~Console() = default;
 
 void Console::run() {
+    platform::linux::removeEmptyMountPoints(
+        platform::linux::mountFolderIn(fileManager_.homeDirectory()));
     platform::install(platform_);
     AppDelegate::initialize(platform_);
     delegate_ = std::make_shared<AppDelegate>(platform_);

@@ -61,7 +61,7 @@ class Console {
     platform::linux::FileManager fileManager_;
     platform::terminal::LoginItems loginItems_;
     platform::linux::RunLoop runLoop_;
-    platform::linux::ScriptRunner scriptRunner_;
+    platform::linux::ScriptRunner scriptRunner_{fileManager_};
     platform::terminal::StatusItem statusItem_{terminal_, statusMenu_,
                                                &platform::linux::whenMainLoopTurns};
     platform::linux::SystemVersion systemVersion_;

@@ -7,6 +7,7 @@
 
 #include "app/MainMenu.h"
 #include "platform/common/VisibleText.h"
+#include "platform/linux/MountFolder.h"
 #include "platform/linux/Process.h"
 #include "volumes/NTFSVolumeManager.h"
 
@@ -48,6 +49,8 @@ int Desktop::run() {
 }
 
 void Desktop::runFirst() {
+    platform::linux::removeEmptyMountPoints(
+        platform::linux::mountFolderIn(fileManager_.homeDirectory()));
     platform::install(platform_);
     AppDelegate::initialize(platform_);
     delegate_ = std::make_shared<AppDelegate>(platform_);

@@ -71,7 +71,7 @@ class Desktop {
     platform::linux::FileManager fileManager_;
     platform::linux::LoginItems loginItems_{systemLog_};
     platform::linux::RunLoop runLoop_;
-    platform::linux::ScriptRunner scriptRunner_;
+    platform::linux::ScriptRunner scriptRunner_{fileManager_};
     platform::linux::StatusItem statusItem_;
     platform::linux::SystemVersion systemVersion_;
     platform::linux::UserDefaults userDefaults_{systemLog_,

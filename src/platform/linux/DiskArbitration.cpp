@@ -4,11 +4,11 @@
 
 #include <array>
 #include <filesystem>
-#include <fstream>
 #include <system_error>
 #include <utility>
 
 #include "platform/linux/MainContext.h"
+#include "platform/linux/MountFolder.h"
 #include "platform/linux/UDisksErrors.h"
 #include "platform/linux/VolumeProbe.h"
 
@@ -19,10 +19,12 @@ namespace {
 constexpr std::array<std::pair<std::string_view, std::string_view>, 3> KnownArguments{
     {{"rw", "rw"}, {"noatime", "noatime"}, {"nobrowse", "x-gvfs-hide"}}};
 
-// Keeps ntfs-3g from clearing the log of a volume that was not unmounted cleanly. The kernel's
-// driver refuses such a volume by itself, and does not know the word.
-constexpr const char* NoRecovery = "norecover";
+// UDisks2's names of the drivers: ntfs-3g goes by the file system's own name.
+constexpr const char* FuseDriver = "ntfs";
 constexpr const char* KernelDriver = "ntfs3";
+// Keeps ntfs-3g from clearing the log of a volume that was not unmounted cleanly. ntfs3 refuses
+// such a volume by itself and has no such option.
+constexpr const char* NoRecovery = "norecover";
 
 bool isMountable(const DiskDescription& description) {
     return description.volumeMountable.value_or(false);
@@ -39,7 +41,7 @@ bool isSameVolume(const DiskDescription& one, const DiskDescription& other) {
 bool isInMountFolder(const std::optional<FileURL>& path) {
     std::error_code code;
     const auto home = std::filesystem::weakly_canonical(g_get_home_dir(), code);
-    return path && path->path().starts_with(home.string() + "/.brisel/");
+    return path && isBelow(path->path(), mountFolderIn(home.string()));
 }
 
 // Where the mount tool has a volume for a moment, until it is in order: its StagingFolder.
@@ -51,17 +53,25 @@ std::string withNoRecovery(const std::string& options) {
     return options.empty() ? NoRecovery : options + "," + NoRecovery;
 }
 
-bool mayHaveMinded(const DiskService::CallFailure& failure) {
+// The answers of a driver that is not installed, that does not know an option, or that cannot mount
+// this volume. UDisks2 does not tell these apart, so another driver is worth a try.
+bool isOfDriver(const DiskService::CallFailure& failure) {
     return failure.errorName == "org.freedesktop.UDisks2.Error.OptionNotPermitted" ||
            failure.errorName == "org.freedesktop.UDisks2.Error.Failed";
 }
 
-std::string reasonForReadOnly(const std::string& mountPoint) {
+std::optional<Dissenter> dissenterFor(const std::optional<DiskService::CallFailure>& failure) {
+    if (!failure) return std::nullopt;
+    return Dissenter{.status = statusOfError(failure->errorName)};
+}
+
+std::string reasonToTakeBack(const std::string& mountPoint) {
     if (isHibernated(mountPoint)) {
         return "Windows is hibernated on it, or was shut down with its fast start-up. Start "
                "Windows and shut it down fully";
     }
-    return "the device is write-protected, or the driver found the volume unsafe to write";
+    return "it came up read-only. The device is write-protected, or the driver found the volume "
+           "unsafe to write";
 }
 
 }  // namespace
@@ -129,17 +139,27 @@ void DiskArbitration::compareMounts(const std::string& name, const DiskDescripti
 }
 
 void DiskArbitration::finish(const Disk& disk, const std::optional<Dissenter>& dissenter,
-                             const std::optional<std::string>& mountPoint,
                              const Completion& completion) {
     --requests_[disk.bsdName];
     const auto reported = reported_.find(disk.bsdName);
-    if (!dissenter && reported != reported_.end()) {
-        reported->second.volumePath.reset();
-        if (mountPoint) reported->second.volumePath = FileURL(*mountPoint);
-    }
-    // What others have mounted or unmounted meanwhile was passed over.
+    if (!dissenter && reported != reported_.end()) reported->second.volumePath.reset();
+    // Mounts and unmounts by others were passed over during the request.
     if (dissenter) nextComparison_ = whenMainLoopTurns([this] { compare(); });
     completion(disk, dissenter);
+}
+
+// The completion appends the disk's new record, unless the old one is still in the list with others
+// behind it. So the disk is reported as gone first, as for a mount by another program.
+void DiskArbitration::finishWritableMount(const MountRequest& request,
+                                          const std::string& mountPoint) {
+    const auto reported = reported_.find(request.disk.bsdName);
+    if (reported != reported_.end()) {
+        const auto before = reported->second;
+        reported->second.volumePath = FileURL(mountPoint);
+        disappeared_({.bsdName = request.disk.bsdName, .reported = before});
+    }
+    --requests_[request.disk.bsdName];
+    request.completion(request.disk, std::nullopt);
 }
 
 std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
@@ -176,7 +196,8 @@ void DiskArbitration::unmount(const Disk& disk, Completion completion) {
     ++requests_[disk.bsdName];
     service_->unmount(disk.bsdName, [this, disk, completion = std::move(completion)](
                                         const auto& failure, const auto& /*result*/) {
-        finish(disk, dissenterFor(failure, disk), std::nullopt, completion);
+        if (failure) logFailure(*failure, disk);
+        finish(disk, dissenterFor(failure), completion);
     });
 }
 
@@ -184,64 +205,67 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
                                          const std::vector<std::string>& arguments,
                                          Completion completion) {
     ++requests_[disk.bsdName];
-    const auto options = mountOptions(arguments);
-    auto done = [this, disk, completion = std::move(completion)](const auto& failure,
-                                                                 const std::string& mountPoint) {
-        if (failure) {
-            finish(disk, dissenterFor(failure, disk), std::nullopt, completion);
-        } else {
-            finishMount(disk, mountPoint, completion);
-        }
-    };
-    service_->mount(disk.bsdName, {.options = withNoRecovery(options), .driver = {}},
-                    [this, disk, options, done = std::move(done)](const auto& failure,
-                                                                  const std::string& mountPoint) {
-                        if (failure && mayHaveMinded(*failure) && hasKernelDriver()) {
-                            logFailure(*failure, disk);
-                            service_->mount(disk.bsdName,
-                                            {.options = options, .driver = KernelDriver}, done);
+    mountWithFuseDriver(
+        {.disk = disk, .options = mountOptions(arguments), .completion = std::move(completion)});
+}
+
+// Each try names its driver: by itself UDisks2 2.10 holds the options against ntfs3's list first,
+// and 2.9 against none. Which drivers there are is left to the answers, because the kernel lists
+// ntfs3 only once it has been loaded.
+void DiskArbitration::mountWithFuseDriver(const MountRequest& request) {
+    service_->mount(request.disk.bsdName,
+                    {.options = withNoRecovery(request.options), .driver = FuseDriver},
+                    [this, request](const auto& failure, const auto& mountPoint) {
+                        if (failure && isOfDriver(*failure)) {
+                            logFailure(*failure, request.disk);
+                            mountWithKernelDriver(request, *failure);
                         } else {
-                            done(failure, mountPoint);
+                            mountDidFinish(request, failure, mountPoint);
                         }
                     });
 }
 
-// NTFS drivers fall back to a read-only mount without an error when the volume is hibernated or
-// otherwise unsafe to write.
-void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoint,
-                                  const Completion& completion) {
-    if (takesWriting(mountPoint)) {
-        finish(disk, std::nullopt, mountPoint, completion);
-        return;
-    }
-    log_.log("%@ came up read-only and is unmounted again: %@.", disk.bsdName,
-             reasonForReadOnly(mountPoint));
-    service_->unmount(
-        disk.bsdName, [this, disk, completion](const auto& failure, const auto& /*result*/) {
-            if (failure) logFailure(*failure, disk);
-            finish(disk, Dissenter{.status = DAReturn::NotWritable}, std::nullopt, completion);
-        });
+// Where neither driver mounts the volume, the first answer counts: the second may say no more than
+// that there is no ntfs3.
+void DiskArbitration::mountWithKernelDriver(const MountRequest& request,
+                                            const DiskService::CallFailure& first) {
+    service_->mount(request.disk.bsdName, {.options = request.options, .driver = KernelDriver},
+                    [this, request, first](const auto& failure, const auto& mountPoint) {
+                        if (failure && isOfDriver(*failure)) {
+                            logFailure(*failure, request.disk);
+                            finish(request.disk, dissenterFor(first), request.completion);
+                        } else {
+                            mountDidFinish(request, failure, mountPoint);
+                        }
+                    });
 }
 
-// The kernel's own driver, once it has been loaded.
-bool DiskArbitration::hasKernelDriver() const {
-    std::ifstream names(knownFileSystems_);
-    std::string word;
-    while (names >> word) {
-        if (word == KernelDriver) return true;
+void DiskArbitration::mountDidFinish(const MountRequest& request,
+                                     const std::optional<DiskService::CallFailure>& failure,
+                                     const std::string& mountPoint) {
+    if (failure) {
+        logFailure(*failure, request.disk);
+        finish(request.disk, dissenterFor(failure), request.completion);
+    } else if (!isHibernated(mountPoint) && takesWriting(mountPoint)) {
+        finishWritableMount(request, mountPoint);
+    } else {
+        takeBackMount(request, mountPoint);
     }
-    return false;
+}
+
+// ntfs-3g falls back to a read-only mount without an error when the volume is hibernated or
+// otherwise unsafe to write. ntfs3 does not look for a hibernated Windows.
+void DiskArbitration::takeBackMount(const MountRequest& request, const std::string& mountPoint) {
+    log_.log("%@ is unmounted again: %@.", request.disk.bsdName, reasonToTakeBack(mountPoint));
+    service_->unmount(
+        request.disk.bsdName, [this, request](const auto& failure, const auto& /*result*/) {
+            if (failure) logFailure(*failure, request.disk);
+            finish(request.disk, Dissenter{.status = DAReturn::NotWritable}, request.completion);
+        });
 }
 
 void DiskArbitration::logFailure(const DiskService::CallFailure& failure, const Disk& disk) const {
     log_.log("UDisks2 on %@: %@", disk.bsdName, failure.message);
-}
-
-std::optional<Dissenter> DiskArbitration::dissenterFor(
-    const std::optional<DiskService::CallFailure>& failure, const Disk& disk) const {
-    if (!failure) return std::nullopt;
-    logFailure(*failure, disk);
-    return Dissenter{.status = statusOfError(failure->errorName)};
 }
 
 }  // namespace brisel::platform::linux

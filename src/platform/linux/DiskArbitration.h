@@ -5,7 +5,6 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <utility>
 
 #include "platform/common/Signal.h"
 #include "platform/DiskArbitration.h"
@@ -21,10 +20,7 @@ namespace brisel::platform::linux {
 /// knows of it is true again; one that somebody else unmounts is reported as gone.
 class DiskArbitration final : public platform::DiskArbitration {
   public:
-    /// `knownFileSystems` is the kernel's list of the file systems that it has drivers for.
-    explicit DiskArbitration(platform::SystemLog& log,
-                             std::string knownFileSystems = "/proc/filesystems")
-        : log_(log), knownFileSystems_(std::move(knownFileSystems)) {}
+    explicit DiskArbitration(platform::SystemLog& log) : log_(log) {}
 
     void createSession() override;
     [[nodiscard]] Subscription registerDiskAppearedCallback(DiskCallback callback) override;
@@ -36,8 +32,10 @@ class DiskArbitration final : public platform::DiskArbitration {
         const std::optional<FileURL>& path) override;
     [[nodiscard]] DiskDescription copyDescription(const Disk& disk) override;
     void unmount(const Disk& disk, Completion completion) override;
-    /// Of the arguments UDisks2 gets those it knows by another or the same name; a mount that did
-    /// not come out read-write is undone and refused with kDAReturnNotWritable.
+    /// Mounts with ntfs-3g and its option `norecover`, else with the kernel's ntfs3. Passes on the
+    /// arguments that UDisks2 knows, see `mountOptions`. Reports the disk as disappeared before a
+    /// successful completion. A mount that did not come out read-write, or that shows a hibernated
+    /// Windows, is undone and refused with kDAReturnNotWritable.
     void mountWithArguments(const Disk& disk, const std::vector<std::string>& arguments,
                             Completion completion) override;
 
@@ -48,19 +46,27 @@ class DiskArbitration final : public platform::DiskArbitration {
     void compare();
     void compareMounts(const std::string& name, const DiskDescription& before,
                        const DiskDescription& now);
-    /// Calls `completion` after what the request changed has been noted as the program's own doing.
-    void finish(const Disk& disk, const std::optional<Dissenter>& dissenter,
-                const std::optional<std::string>& mountPoint, const Completion& completion);
-    void finishMount(const Disk& disk, const std::string& mountPoint, const Completion& completion);
-    void logFailure(const DiskService::CallFailure& failure, const Disk& disk) const;
-    /// Logs the failure, too.
-    [[nodiscard]] std::optional<Dissenter> dissenterFor(
-        const std::optional<DiskService::CallFailure>& failure, const Disk& disk) const;
+    /// A mount that has been asked for; `options` as UDisks2 takes them.
+    struct MountRequest {
+        Disk disk;
+        std::string options;
+        Completion completion;
+    };
 
-    [[nodiscard]] bool hasKernelDriver() const;
+    void mountWithFuseDriver(const MountRequest& request);
+    /// `first` is the fuse driver's failure.
+    void mountWithKernelDriver(const MountRequest& request, const DiskService::CallFailure& first);
+    void mountDidFinish(const MountRequest& request,
+                        const std::optional<DiskService::CallFailure>& failure,
+                        const std::string& mountPoint);
+    void takeBackMount(const MountRequest& request, const std::string& mountPoint);
+    void finishWritableMount(const MountRequest& request, const std::string& mountPoint);
+    /// Ends a request that leaves the disk unmounted, or as it was.
+    void finish(const Disk& disk, const std::optional<Dissenter>& dissenter,
+                const Completion& completion);
+    void logFailure(const DiskService::CallFailure& failure, const Disk& disk) const;
 
     platform::SystemLog& log_;
-    std::string knownFileSystems_;
     std::unique_ptr<DiskService> service_;
     Subscription nextComparison_;
     bool scheduled_ = false;

@@ -9,6 +9,9 @@
 #include <filesystem>
 #include <iterator>
 #include <system_error>
+#include <utility>
+
+#include "platform/linux/MountFolder.h"
 
 namespace brisel::platform::linux {
 
@@ -23,9 +26,9 @@ std::optional<Error> errorFrom(const std::error_code& code) {
 
 }  // namespace
 
-std::string FileManager::homeDirectory() const {
-    return FileURL(g_get_home_dir()).path();
-}
+FileManager::FileManager() : FileManager(FileURL(g_get_home_dir()).path()) {}
+
+FileManager::FileManager(std::string home) : home_(std::move(home)) {}
 
 std::string FileManager::volumesDirectory() const {
     std::error_code code;
@@ -54,6 +57,10 @@ FolderListing FileManager::contentsOfDirectory(const FileURL& folder) {
 }
 
 std::optional<Error> FileManager::createDirectory(const std::string& path) {
+    if (!isMountPointIn(mountFolderIn(home_), path)) {
+        return Error{.localizedDescription = "The label cannot be the name of a folder",
+                     .localizedFailureReason = std::nullopt};
+    }
     std::error_code code;
     fs::create_directories(path, code);
     return errorFrom(code);

@@ -4,12 +4,13 @@
 
 #include <sys/wait.h>
 
-#include <array>
+#include <algorithm>
+#include <sstream>
 #include <string_view>
 #include <utility>
 
 #include "platform/linux/GLibOwners.h"
-#include "platform/linux/Installation.h"
+#include "platform/linux/MountFolder.h"
 
 namespace brisel::platform::linux {
 
@@ -18,22 +19,15 @@ namespace {
 constexpr std::string_view CommandStart = "do shell script \"";
 constexpr const char* MessageKey = "NSAppleScriptErrorMessage";
 constexpr const char* NumberKey = "NSAppleScriptErrorNumber";
-// errOSASyntaxError and errOSASystemError (OSA.h's numbers, as AppleScript gives them).
+// errOSASyntaxError, errOSASystemError and errAEPrivilegeError, as AppleScript numbers them.
 constexpr const char* SyntaxError = "-2741";
 constexpr const char* SystemError = "-1750";
+constexpr const char* PrivilegeError = "-10004";
 
 ScriptResult failed(std::string message, std::string number) {
     while (message.ends_with('\n'))
         message.pop_back();
     return {.error = {{{MessageKey, std::move(message)}, {NumberKey, std::move(number)}}}};
-}
-
-// The commands that scripts use and Linux lacks are ours, so that each line does its work.
-OwnedTexts environmentWithOurTools() {
-    const OwnedTexts inherited(g_get_environ());
-    const char* const path = g_environ_getenv(inherited.get(), "PATH");
-    const auto folders = toolFolder() + ":" + (path != nullptr ? path : "/usr/bin:/bin");
-    return OwnedTexts(g_environ_setenv(g_strdupv(inherited.get()), "PATH", folders.c_str(), TRUE));
 }
 
 int exitCode(int waitStatus) {
@@ -56,18 +50,48 @@ std::optional<std::string> shellCommandOf(const std::string& source) {
     return std::nullopt;
 }
 
+std::vector<std::string> wordsOf(const std::string& command) {
+    std::istringstream text(command);
+    std::vector<std::string> words;
+    for (std::string word; text >> word;)
+        words.push_back(word);
+    return words;
+}
+
+ScriptRunner::ScriptRunner(const platform::FileManager& files, std::string xattr)
+    : files_(files), xattr_(std::move(xattr)) {}
+
 ScriptResult ScriptRunner::execute(const std::string& source) {
-    auto command = shellCommandOf(source);
+    const auto command = shellCommandOf(source);
     if (!command) return failed("A syntax error in: " + source, SyntaxError);
-    std::string shell = "/bin/sh";
-    std::string option = "-c";
-    std::array<char*, 4> arguments{shell.data(), option.data(), command->data(), nullptr};
+    auto words = wordsOf(*command);
+    if (words.size() < 3 || words[0] != "xattr" || words[1] != "-cr") {
+        return failed("Only xattr -cr can be run, not: " + *command, PrivilegeError);
+    }
+    const auto stray = std::find_if(words.begin() + 2, words.end(),
+                                    [this](const auto& path) { return !isOnAVolume(path); });
+    if (stray != words.end()) {
+        return failed("This is not the folder of a volume: " + *stray, PrivilegeError);
+    }
+    return removeAttributes(std::move(words));
+}
+
+bool ScriptRunner::isOnAVolume(const std::string& path) const {
+    return isBelow(path, mountFolderIn(files_.homeDirectory())) ||
+           isBelow(path, files_.volumesDirectory());
+}
+
+ScriptResult ScriptRunner::removeAttributes(std::vector<std::string> arguments) const {
+    arguments[0] = xattr_;
+    std::vector<char*> pointers;
+    for (auto& argument : arguments)
+        pointers.push_back(argument.data());
+    pointers.push_back(nullptr);
     char* output = nullptr;
     int waitStatus = 0;
     CallError error;
-    const auto environment = environmentWithOurTools();
-    g_spawn_sync(nullptr, arguments.data(), environment.get(), G_SPAWN_STDOUT_TO_DEV_NULL, nullptr,
-                 nullptr, nullptr, &output, &waitStatus, error.receive());
+    g_spawn_sync(nullptr, pointers.data(), nullptr, G_SPAWN_STDOUT_TO_DEV_NULL, nullptr, nullptr,
+                 nullptr, &output, &waitStatus, error.receive());
     const OwnedText ownedOutput(output);
     if (error) return failed(error.message(), SystemError);
     if (exitCode(waitStatus) == 0) return {.error = std::nullopt};

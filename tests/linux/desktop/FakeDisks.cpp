@@ -1,0 +1,135 @@
+// UDisks2 with one NTFS volume, on the test's bus.
+// SPDX-License-Identifier: MIT
+#include "tests/linux/desktop/FakeDisks.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace brisel::tests {
+
+namespace {
+
+constexpr const char* OptionNotPermitted = "org.freedesktop.UDisks2.Error.OptionNotPermitted";
+constexpr const char* Failed = "org.freedesktop.UDisks2.Error.Failed";
+constexpr const char* NtfsDriver = "ntfs";
+constexpr const char* Ntfs3Driver = "ntfs3";
+constexpr std::string_view NoRecovery = "norecover";
+
+std::string optionIn(GVariant* options, const char* name) {
+    const char* text = "";
+    g_variant_lookup(options, name, "&s", &text);
+    return text;
+}
+
+bool contains(const std::string& options, std::string_view option) {
+    return ("," + options + ",").find("," + std::string(option) + ",") != std::string::npos;
+}
+
+}  // namespace
+
+FakeDisks::FakeDisks() {
+    udisks_block_set_device(block_.get(), "/dev/sdz1");
+    udisks_block_set_id_type(block_.get(), "ntfs");
+    udisks_block_set_id_usage(block_.get(), "filesystem");
+    udisks_block_set_id_uuid(block_.get(), "0123456789ABCDEF");
+    g_signal_connect(filesystem_.get(), "handle-mount",
+                     reinterpret_cast<GCallback>(&FakeDisks::mount), this);
+    g_signal_connect(filesystem_.get(), "handle-unmount",
+                     reinterpret_cast<GCallback>(&FakeDisks::unmount), this);
+    udisks_object_skeleton_set_block(object_.get(), block_.get());
+    udisks_object_skeleton_set_filesystem(object_.get(), filesystem_.get());
+    g_dbus_object_manager_server_export(objects_.get(), G_DBUS_OBJECT_SKELETON(object_.get()));
+    g_dbus_object_manager_server_set_connection(objects_.get(), bus_.get());
+    const OwnedVariant answer(g_dbus_connection_call_sync(
+        bus_.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+        "RequestName", g_variant_new("(su)", "org.freedesktop.UDisks2", 0), nullptr,
+        G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr));
+}
+
+FakeDisks::~FakeDisks() {
+    g_dbus_object_manager_server_set_connection(objects_.get(), nullptr);
+    g_dbus_connection_close_sync(bus_.get(), nullptr, nullptr);
+}
+
+void FakeDisks::behaveAs(Release release, Drivers drivers) {
+    release_ = release;
+    drivers_ = drivers;
+    kernelDriverLoaded_ = false;
+    mountedBy_.clear();
+    calls_.clear();
+}
+
+void FakeDisks::script(const std::vector<std::string>& results) {
+    scripted_ = {results.begin(), results.end()};
+    calls_.clear();
+}
+
+bool FakeDisks::has(const std::string& driver) const {
+    if (drivers_ == Drivers::Both) return true;
+    return drivers_ == (driver == Ntfs3Driver ? Drivers::Kernel : Drivers::Fuse);
+}
+
+std::string FakeDisks::resultOf(const MountCall& call) {
+    if (!scripted_.empty()) {
+        auto result = scripted_.front();
+        scripted_.pop_front();
+        return result;
+    }
+    return release_ == Release::V2_9 ? resultOn2_9(call) : resultOn2_10(call);
+}
+
+// One list of options for all drivers. A driver by name must be well-known, as `ntfs` is, or in
+// /proc/filesystems; `ntfs` stands for both, the kernel's first.
+std::string FakeDisks::resultOn2_9(const MountCall& call) {
+    if (call.driver == Ntfs3Driver) {
+        return kernelDriverLoaded_ ? mountWith(Ntfs3Driver, call) : OptionNotPermitted;
+    }
+    return mountWith(has(Ntfs3Driver) ? Ntfs3Driver : NtfsDriver, call);
+}
+
+// The drivers in their order, each with a list of its own. An option that is not on it ends the
+// call before anything is mounted.
+std::string FakeDisks::resultOn2_10(const MountCall& call) {
+    const auto tries = call.driver.empty() ? std::vector<std::string>{Ntfs3Driver, NtfsDriver}
+                                           : std::vector{call.driver};
+    for (const auto& driver : tries) {
+        if (driver == Ntfs3Driver && contains(call.options, NoRecovery)) return OptionNotPermitted;
+        if (auto result = mountWith(driver, call); result != Failed) return result;
+    }
+    return Failed;
+}
+
+std::string FakeDisks::mountWith(const std::string& driver, const MountCall& call) {
+    if (!has(driver)) return Failed;
+    if (driver == Ntfs3Driver) {
+        kernelDriverLoaded_ = true;
+        if (contains(call.options, NoRecovery)) return Failed;
+    }
+    mountedBy_ = driver;
+    return mountPoint_;
+}
+
+gboolean FakeDisks::mount(UDisksFilesystem* filesystem, GDBusMethodInvocation* invocation,
+                          GVariant* options, gpointer self) {
+    auto& disks = *static_cast<FakeDisks*>(self);
+    const MountCall call{.options = optionIn(options, "options"),
+                         .driver = optionIn(options, "fstype")};
+    disks.calls_.push_back("mount " + call.options + " " + call.driver);
+    const auto result = disks.resultOf(call);
+    if (result.front() == '/') {
+        udisks_filesystem_complete_mount(filesystem, invocation, result.c_str());
+    } else {
+        g_dbus_method_invocation_return_dbus_error(invocation, result.c_str(), "Refused.");
+    }
+    return TRUE;
+}
+
+gboolean FakeDisks::unmount(UDisksFilesystem* filesystem, GDBusMethodInvocation* invocation,
+                            GVariant* /*options*/, gpointer self) {
+    static_cast<FakeDisks*>(self)->calls_.emplace_back("unmount");
+    udisks_filesystem_complete_unmount(filesystem, invocation);
+    return TRUE;
+}
+
+}  // namespace brisel::tests

@@ -1,0 +1,74 @@
+// UDisks2 with one NTFS volume, on the test's bus.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gio/gio.h>
+#include <udisks/udisks.h>
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "tests/linux/desktop/SessionBus.h"
+
+namespace brisel::tests {
+
+/// The volume is /dev/sdz1. Lives on the loop of the thread that makes it.
+class FakeDisks {
+  public:
+    /// The releases hold mount options against different lists.
+    enum class Release { V2_9, V2_10 };
+    enum class Drivers { Fuse, Kernel, Both, None };
+
+    FakeDisks();
+    FakeDisks(const FakeDisks&) = delete;
+    FakeDisks& operator=(const FakeDisks&) = delete;
+    ~FakeDisks();
+
+    /// Answers mounts as UDisks2 does from now on, and forgets the calls.
+    void behaveAs(Release release, Drivers drivers);
+    /// What the next mounts lead to, whatever is asked: a mount point, or the name of an error.
+    void script(const std::vector<std::string>& results);
+    /// The mount point of every mount that is not scripted.
+    void mountAt(const std::string& mountPoint) { mountPoint_ = mountPoint; }
+
+    /// `mount OPTIONS DRIVER` or `unmount`, in their order.
+    [[nodiscard]] const std::vector<std::string>& calls() const { return calls_; }
+    /// The driver of the last mount that succeeded.
+    [[nodiscard]] const std::string& mountedBy() const { return mountedBy_; }
+
+  private:
+    struct MountCall {
+        std::string options;
+        std::string driver;
+    };
+
+    [[nodiscard]] std::string resultOf(const MountCall& call);
+    [[nodiscard]] std::string resultOn2_9(const MountCall& call);
+    [[nodiscard]] std::string resultOn2_10(const MountCall& call);
+    [[nodiscard]] std::string mountWith(const std::string& driver, const MountCall& call);
+    [[nodiscard]] bool has(const std::string& driver) const;
+    static gboolean mount(UDisksFilesystem* filesystem, GDBusMethodInvocation* invocation,
+                          GVariant* options, gpointer self);
+    static gboolean unmount(UDisksFilesystem* filesystem, GDBusMethodInvocation* invocation,
+                            GVariant* options, gpointer self);
+
+    Release release_ = Release::V2_10;
+    Drivers drivers_ = Drivers::Fuse;
+    /// The kernel lists its driver only once a mount has loaded it.
+    bool kernelDriverLoaded_ = false;
+    std::string mountPoint_ = "/dev/shm";
+    std::deque<std::string> scripted_;
+    std::vector<std::string> calls_;
+    std::string mountedBy_;
+
+    OwnedObject<GDBusConnection> bus_ = SessionBus::shared().connect();
+    OwnedObject<GDBusObjectManagerServer> objects_{
+        g_dbus_object_manager_server_new("/org/freedesktop/UDisks2")};
+    OwnedObject<UDisksObjectSkeleton> object_{
+        udisks_object_skeleton_new("/org/freedesktop/UDisks2/block_devices/sdz1")};
+    OwnedObject<UDisksBlock> block_{udisks_block_skeleton_new()};
+    OwnedObject<UDisksFilesystem> filesystem_{udisks_filesystem_skeleton_new()};
+};
+
+}  // namespace brisel::tests
