@@ -1,5 +1,5 @@
 #!/bin/sh
-# Checks that the sources are formatted as .clang-format has it.
+# Checks that the sources are formatted as .clang-format has it, by the release of clang-format that is ours.
 # SPDX-License-Identifier: MIT
 #
 # usage: format.sh ROOT
@@ -8,6 +8,11 @@ cd "$1" || exit 2
 if ! command -v clang-format >/dev/null; then
     echo "clang-format is missing, so nothing was checked" >&2
     exit 1
+fi
+# Other releases break lines at other places. CI runs this one.
+if ! clang-format --version | grep -q 'version 14\.'; then
+    echo "Skipped: the format is clang-format 14's, and this is $(clang-format --version)."
+    exit 77
 fi
 find src simulator tests benchmarks tools helper \
     \( -name '*.h' -o -name '*.cpp' -o -name '*.mm' -o -name '*.m' -o -name '*.c' \) 2>/dev/null |
