@@ -46,8 +46,8 @@ SEL actionFor(std::string_view name) {
     if (name.empty()) return nullptr;
     const SEL action = NSSelectorFromString(nsString(name));
     // Does nothing where the class has the method already.
-    class_addMethod([BriselMenuTarget class], action, reinterpret_cast<IMP>(&performAction),
-                    "v@:@");
+    class_addMethod([BriselMenuTarget class], action,
+                    reinterpret_cast<IMP>(reinterpret_cast<void (*)()>(&performAction)), "v@:@");
     return action;
 }
 

@@ -59,10 +59,12 @@ TEST_F(BareProcess, NeverAsksTheNotificationCenter) {
         EXPECT_FALSE(granted);
         if (error) errors.push_back(error->localizedDescription);
     });
-    center.addNotificationRequest({.identifier = "x", .delay = std::chrono::seconds(1)},
-                                  [&](const auto& error) {
-                                      if (error) errors.push_back(error->localizedDescription);
-                                  });
+    platform::NotificationRequest request;
+    request.identifier = "x";
+    request.delay = std::chrono::seconds(1);
+    center.addNotificationRequest(request, [&](const auto& error) {
+        if (error) errors.push_back(error->localizedDescription);
+    });
     EXPECT_THAT(errors, ElementsAre("This process cannot show notifications.",
                                     "This process cannot show notifications."));
     EXPECT_THAT(lines(), IsEmpty());

@@ -29,11 +29,15 @@ TEST_F(DiskDescriptions, HaveAllThatTheSystemKnows) {
 
 TEST_F(DiskDescriptions, LackWhatTheSystemDoesNotKnow) {
     mac.diskArbitration.attach("disk4s1", {});
-    EXPECT_EQ(description("disk4s1"), DiskDescription{.mediaBSDName = "disk4s1"});
+    DiskDescription nameAlone;
+    nameAlone.mediaBSDName = "disk4s1";
+    EXPECT_EQ(description("disk4s1"), nameAlone);
 }
 
 TEST_F(DiskDescriptions, TellNoFromAbsent) {
-    mac.diskArbitration.attach("disk4s1", {.description = {.volumeMountable = false}});
+    DiskDescription notMountable;
+    notMountable.volumeMountable = false;
+    mac.diskArbitration.attach("disk4s1", {.description = notMountable});
     EXPECT_EQ(description("disk4s1").volumeMountable, false);
 }
 
@@ -43,7 +47,8 @@ TEST_F(DiskDescriptions, OfAnUnknownDiskAreEmpty) {
 
 TEST_F(DiskDescriptions, OfAReportAreNotAskedForAgain) {
     attach("disk4s1");
-    const DiskDescription reported{.volumeName = "Reported"};
+    DiskDescription reported;
+    reported.volumeName = "Reported";
     EXPECT_EQ(adapter.copyDescription({.bsdName = "disk4s1", .reported = reported}), reported);
 }
 

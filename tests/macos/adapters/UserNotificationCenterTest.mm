@@ -53,7 +53,8 @@ TEST_F(Notifications, ThatTheSystemRaisesForEndInAnErrorOnce) {
 }
 
 TEST_F(Notifications, ThatCannotBeMadeEndInAnError) {
-    const platform::NotificationRequest atOnce{.identifier = "x"};
+    platform::NotificationRequest atOnce;
+    atOnce.identifier = "x";
     adapter.addNotificationRequest(atOnce, [this](const auto& failure) { error = failure; });
     EXPECT_TRUE(error);
     EXPECT_THAT(lines(), ElementsAre("log: The system refused to show a notification: time "
