@@ -1,5 +1,5 @@
-// Several real NTFS volumes at once: the menu shows what is mounted, in whatever order it came to
-// be. SPDX-License-Identifier: MIT
+// Several real NTFS volumes at once: the menu shows what is mounted.
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 #include <unistd.h>
 

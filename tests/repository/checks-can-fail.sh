@@ -27,7 +27,9 @@ lines() {
 }
 
 passes() {
-    sh "$checks/$1.sh" "$folder" >/dev/null 2>&1 && return
+    sh "$checks/$1.sh" "$folder" >/dev/null 2>&1
+    # 77: the check is skipped here.
+    case $? in 0 | 77) return ;; esac
     echo "$1 complains about a good tree: $2"
     failures=1
 }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/DiskArbitration.h"
 
-#include <array>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -10,21 +9,10 @@
 #include "platform/linux/MainContext.h"
 #include "platform/linux/MountFolder.h"
 #include "platform/linux/UDisksErrors.h"
-#include "platform/linux/VolumeProbe.h"
 
 namespace brisel::platform::linux {
 
 namespace {
-
-constexpr std::array<std::pair<std::string_view, std::string_view>, 3> KnownArguments{
-    {{"rw", "rw"}, {"noatime", "noatime"}, {"nobrowse", "x-gvfs-hide"}}};
-
-// UDisks2's names of the drivers: ntfs-3g goes by the file system's own name.
-constexpr const char* FuseDriver = "ntfs";
-constexpr const char* KernelDriver = "ntfs3";
-// Keeps ntfs-3g from clearing the log of a volume that was not unmounted cleanly. ntfs3 refuses
-// such a volume by itself and has no such option.
-constexpr const char* NoRecovery = "norecover";
 
 bool isMountable(const DiskDescription& description) {
     return description.volumeMountable.value_or(false);
@@ -49,47 +37,11 @@ bool isUnderWay(const std::optional<FileURL>& path) {
     return path && path->path().starts_with("/run/brisel-");
 }
 
-std::string withNoRecovery(const std::string& options) {
-    return options.empty() ? NoRecovery : options + "," + NoRecovery;
-}
-
-// The answers of a driver that is not installed, that does not know an option, or that cannot mount
-// this volume. UDisks2 does not tell these apart, so another driver is worth a try.
-bool isOfDriver(const DiskService::CallFailure& failure) {
-    return failure.errorName == "org.freedesktop.UDisks2.Error.OptionNotPermitted" ||
-           failure.errorName == "org.freedesktop.UDisks2.Error.Failed";
-}
-
-std::optional<Dissenter> dissenterFor(const std::optional<DiskService::CallFailure>& failure) {
-    if (!failure) return std::nullopt;
-    return Dissenter{.status = statusOfError(failure->errorName)};
-}
-
-std::string reasonToTakeBack(const std::string& mountPoint) {
-    if (isHibernated(mountPoint)) {
-        return "Windows is hibernated on it, or was shut down with its fast start-up. Start "
-               "Windows and shut it down fully";
-    }
-    return "it came up read-only. The device is write-protected, or the driver found the volume "
-           "unsafe to write";
-}
-
 }  // namespace
-
-std::string mountOptions(const std::vector<std::string>& arguments) {
-    std::string options;
-    for (const auto& argument : arguments) {
-        for (const auto& [known, option] : KnownArguments) {
-            if (argument != known) continue;
-            if (!options.empty()) options += ',';
-            options += option;
-        }
-    }
-    return options;
-}
 
 void DiskArbitration::createSession() {
     service_ = std::make_unique<DiskService>(log_, [this] { compare(); });
+    readWriteMount_ = std::make_unique<ReadWriteMount>(*service_, log_);
 }
 
 Subscription DiskArbitration::registerDiskAppearedCallback(DiskCallback callback) {
@@ -150,16 +102,16 @@ void DiskArbitration::finish(const Disk& disk, const std::optional<Dissenter>& d
 
 // The completion appends the disk's new record, unless the old one is still in the list with others
 // behind it. So the disk is reported as gone first, as for a mount by another program.
-void DiskArbitration::finishWritableMount(const MountRequest& request,
-                                          const std::string& mountPoint) {
-    const auto reported = reported_.find(request.disk.bsdName);
+void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoint,
+                                  const Completion& completion) {
+    const auto reported = reported_.find(disk.bsdName);
     if (reported != reported_.end()) {
         const auto before = reported->second;
         reported->second.volumePath = FileURL(mountPoint);
-        disappeared_({.bsdName = request.disk.bsdName, .reported = before});
+        disappeared_({.bsdName = disk.bsdName, .reported = before});
     }
-    --requests_[request.disk.bsdName];
-    request.completion(request.disk, std::nullopt);
+    --requests_[disk.bsdName];
+    completion(disk, std::nullopt);
 }
 
 std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
@@ -196,8 +148,12 @@ void DiskArbitration::unmount(const Disk& disk, Completion completion) {
     ++requests_[disk.bsdName];
     service_->unmount(disk.bsdName, [this, disk, completion = std::move(completion)](
                                         const auto& failure, const auto& /*result*/) {
-        if (failure) logFailure(*failure, disk);
-        finish(disk, dissenterFor(failure), completion);
+        std::optional<Dissenter> dissenter;
+        if (failure) {
+            log_.log(UDisksFailure, disk.bsdName, failure->message);
+            dissenter = dissenterFor(failure->errorName);
+        }
+        finish(disk, dissenter, completion);
     });
 }
 
@@ -205,67 +161,15 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
                                          const std::vector<std::string>& arguments,
                                          Completion completion) {
     ++requests_[disk.bsdName];
-    mountWithFuseDriver(
-        {.disk = disk, .options = mountOptions(arguments), .completion = std::move(completion)});
-}
-
-// Each try names its driver: by itself UDisks2 2.10 holds the options against ntfs3's list first,
-// and 2.9 against none. Which drivers there are is left to the answers, because the kernel lists
-// ntfs3 only once it has been loaded.
-void DiskArbitration::mountWithFuseDriver(const MountRequest& request) {
-    service_->mount(request.disk.bsdName,
-                    {.options = withNoRecovery(request.options), .driver = FuseDriver},
-                    [this, request](const auto& failure, const auto& mountPoint) {
-                        if (failure && isOfDriver(*failure)) {
-                            logFailure(*failure, request.disk);
-                            mountWithKernelDriver(request, *failure);
-                        } else {
-                            mountDidFinish(request, failure, mountPoint);
-                        }
-                    });
-}
-
-// Where neither driver mounts the volume, the first answer counts: the second may say no more than
-// that there is no ntfs3.
-void DiskArbitration::mountWithKernelDriver(const MountRequest& request,
-                                            const DiskService::CallFailure& first) {
-    service_->mount(request.disk.bsdName, {.options = request.options, .driver = KernelDriver},
-                    [this, request, first](const auto& failure, const auto& mountPoint) {
-                        if (failure && isOfDriver(*failure)) {
-                            logFailure(*failure, request.disk);
-                            finish(request.disk, dissenterFor(first), request.completion);
-                        } else {
-                            mountDidFinish(request, failure, mountPoint);
-                        }
-                    });
-}
-
-void DiskArbitration::mountDidFinish(const MountRequest& request,
-                                     const std::optional<DiskService::CallFailure>& failure,
-                                     const std::string& mountPoint) {
-    if (failure) {
-        logFailure(*failure, request.disk);
-        finish(request.disk, dissenterFor(failure), request.completion);
-    } else if (!isHibernated(mountPoint) && takesWriting(mountPoint)) {
-        finishWritableMount(request, mountPoint);
-    } else {
-        takeBackMount(request, mountPoint);
-    }
-}
-
-// ntfs-3g falls back to a read-only mount without an error when the volume is hibernated or
-// otherwise unsafe to write. ntfs3 does not look for a hibernated Windows.
-void DiskArbitration::takeBackMount(const MountRequest& request, const std::string& mountPoint) {
-    log_.log("%@ is unmounted again: %@.", request.disk.bsdName, reasonToTakeBack(mountPoint));
-    service_->unmount(
-        request.disk.bsdName, [this, request](const auto& failure, const auto& /*result*/) {
-            if (failure) logFailure(*failure, request.disk);
-            finish(request.disk, Dissenter{.status = DAReturn::NotWritable}, request.completion);
-        });
-}
-
-void DiskArbitration::logFailure(const DiskService::CallFailure& failure, const Disk& disk) const {
-    log_.log("UDisks2 on %@: %@", disk.bsdName, failure.message);
+    readWriteMount_->mount(disk.bsdName, mountOptions(arguments),
+                           [this, disk, completion = std::move(completion)](
+                               const auto& dissenter, const auto& mountPoint) {
+                               if (dissenter) {
+                                   finish(disk, dissenter, completion);
+                               } else {
+                                   finishMount(disk, mountPoint, completion);
+                               }
+                           });
 }
 
 }  // namespace brisel::platform::linux

@@ -9,6 +9,7 @@
 #include "platform/common/Signal.h"
 #include "platform/DiskArbitration.h"
 #include "platform/linux/DiskService.h"
+#include "platform/linux/ReadWriteMount.h"
 #include "platform/SystemLog.h"
 
 namespace brisel::platform::linux {
@@ -32,10 +33,8 @@ class DiskArbitration final : public platform::DiskArbitration {
         const std::optional<FileURL>& path) override;
     [[nodiscard]] DiskDescription copyDescription(const Disk& disk) override;
     void unmount(const Disk& disk, Completion completion) override;
-    /// Mounts with ntfs-3g and its option `norecover`, else with the kernel's ntfs3. Passes on the
-    /// arguments that UDisks2 knows, see `mountOptions`. Reports the disk as disappeared before a
-    /// successful completion. A mount that did not come out read-write, or that shows a hibernated
-    /// Windows, is undone and refused with kDAReturnNotWritable.
+    /// Mounts as `ReadWriteMount` does, with the `mountOptions` of these arguments. Reports the
+    /// disk as disappeared before a successful completion.
     void mountWithArguments(const Disk& disk, const std::vector<std::string>& arguments,
                             Completion completion) override;
 
@@ -46,28 +45,14 @@ class DiskArbitration final : public platform::DiskArbitration {
     void compare();
     void compareMounts(const std::string& name, const DiskDescription& before,
                        const DiskDescription& now);
-    /// A mount that has been asked for; `options` as UDisks2 takes them.
-    struct MountRequest {
-        Disk disk;
-        std::string options;
-        Completion completion;
-    };
-
-    void mountWithFuseDriver(const MountRequest& request);
-    /// `first` is the fuse driver's failure.
-    void mountWithKernelDriver(const MountRequest& request, const DiskService::CallFailure& first);
-    void mountDidFinish(const MountRequest& request,
-                        const std::optional<DiskService::CallFailure>& failure,
-                        const std::string& mountPoint);
-    void takeBackMount(const MountRequest& request, const std::string& mountPoint);
-    void finishWritableMount(const MountRequest& request, const std::string& mountPoint);
+    void finishMount(const Disk& disk, const std::string& mountPoint, const Completion& completion);
     /// Ends a request that leaves the disk unmounted, or as it was.
     void finish(const Disk& disk, const std::optional<Dissenter>& dissenter,
                 const Completion& completion);
-    void logFailure(const DiskService::CallFailure& failure, const Disk& disk) const;
 
     platform::SystemLog& log_;
     std::unique_ptr<DiskService> service_;
+    std::unique_ptr<ReadWriteMount> readWriteMount_;
     Subscription nextComparison_;
     bool scheduled_ = false;
     /// How many of the program's own requests are under way, by BSD name.
@@ -77,10 +62,5 @@ class DiskArbitration final : public platform::DiskArbitration {
     common::Signal<const Disk&> appeared_;
     common::Signal<const Disk&> disappeared_;
 };
-
-/// The mount options that UDisks2 gets for Disk Arbitration's mount arguments: `rw` and `noatime`
-/// as they are, `nobrowse` as the desktop's `x-gvfs-hide`. What has no meaning here is left out:
-/// `auto`, and `noowners`, which UDisks2 does by itself in giving all files to the caller.
-std::string mountOptions(const std::vector<std::string>& arguments);
 
 }  // namespace brisel::platform::linux

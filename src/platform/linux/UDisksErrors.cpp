@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/DiskArbitration.h"
-
 namespace brisel::platform::linux {
 
 namespace {

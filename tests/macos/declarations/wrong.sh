@@ -16,7 +16,7 @@ word() {
 }
 
 faulty_lines() {
-    printf '%s\n' "$output" | grep error: | cut -d: -f1,2 | sort -u
+    printf '%s\n' "$output" | grep ' error: ' | cut -d: -f1,2 | sort -u
 }
 
 complain() {
@@ -34,7 +34,7 @@ for path in "$root/$wrong"/*; do
         [ -z "$output" ] || complain "is not accepted for $processor"
     elif [ $status -eq 0 ]; then
         complain "is accepted for $processor"
-    elif ! printf '%s\n' "$output" | grep error: | grep -qF -- "$(word says)"; then
+    elif ! printf '%s\n' "$output" | grep ' error: ' | grep -qF -- "$(word says)"; then
         complain "is refused for $processor, but not for its fault"
     elif [ "$(faulty_lines | wc -l)" -ne 1 ]; then
         complain "is refused for $processor for more than its fault"

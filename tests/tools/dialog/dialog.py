@@ -7,7 +7,7 @@ import subprocess
 
 PATIENCE = 30
 SCREEN_WIDTH, SCREEN_HEIGHT = 800, 600
-# Leaks are reported here too, but for the one named there.
+# Leaks are reported here too, but for those named there.
 LEAK_OPTIONS = (f"suppressions={os.path.dirname(os.path.abspath(__file__))}/leaks.supp:"
                 "print_suppressions=0")
 

@@ -160,15 +160,15 @@ class AssistiveTechnology(unittest.TestCase):
     def test_reads_the_alert(self):
         heard = self.read("alert", "Message", "More", "Yes", "No")
         for line in (r"alert\|Message\|.*modal", r"icon\|Brisel\|", r"label\|Message\|",
-                     r"label\|More\|", r"push button\|Yes\|.*focused is-default",
-                     r"push button\|No\|"):
+                     r"label\|More\|", r"(push )?button\|Yes\|.*focused is-default",
+                     r"(push )?button\|No\|"):
             self.assertRegex(heard, "(?m)^" + line)
 
     def test_hears_which_item_is_checked(self):
         heard = self.read("menu", "Title", entries=MENU)
         self.assertRegex(heard, r"(?m)^frame\|Title\|")
         self.assertRegex(heard, r"(?m)^check menu item\|Start at Login\|checked ")
-        self.assertRegex(heard, r"(?m)^push button\|re-mount Data\|(?!checked)")
+        self.assertRegex(heard, r"(?m)^(push )?button\|re-mount Data\|(?!checked)")
         self.assertNotRegex(heard, r"(?m)^label\|No volumes\|.*sensitive")
 
 

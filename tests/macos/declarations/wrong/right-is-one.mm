@@ -1,7 +1,7 @@
 // The alignment 1 is taken for the right, which it is on Intel alone.
 // SPDX-License-Identifier: MIT
 //
-// says: static_assert failed
+// says: due to requirement 'NSTextAlignmentRight == 1'
 // only: arm64
 #import <AppKit/AppKit.h>
 
