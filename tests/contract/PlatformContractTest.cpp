@@ -5,11 +5,11 @@
 
 #include <memory>
 
-#include "platform/linux/FileManager.h"
-#include "platform/linux/MainContext.h"
-#include "platform/linux/ScriptRunner.h"
-#include "platform/linux/SystemLog.h"
-#include "platform/linux/UserDefaults.h"
+#include "platform/headless/FileManager.h"
+#include "platform/headless/MainContext.h"
+#include "platform/headless/ScriptRunner.h"
+#include "platform/headless/SystemLog.h"
+#include "platform/headless/UserDefaults.h"
 #include "tests/linux/TemporaryFolder.h"
 #include "tests/support/SimulatedProgram.h"
 
@@ -52,10 +52,10 @@ class Linux {
 
   private:
     TemporaryFolder folder_;
-    platform::linux::SystemLog log_{[](const std::string&) {}};
-    platform::linux::FileManager files_{folder_.path()};
-    platform::linux::UserDefaults defaults_{log_, folder_.path() + "/preferences.conf"};
-    platform::linux::RunLoop runLoop_;
+    platform::headless::SystemLog log_{[](const std::string&) {}};
+    platform::headless::FileManager files_{folder_.path()};
+    platform::headless::UserDefaults defaults_{log_, folder_.path() + "/preferences.conf"};
+    platform::headless::RunLoop runLoop_;
 };
 
 template <typename Services>

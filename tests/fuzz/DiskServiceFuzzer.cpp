@@ -10,15 +10,15 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/linux/DiskArbitration.h"
-#include "platform/linux/MainContext.h"
-#include "platform/linux/SystemLog.h"
+#include "platform/headless/DiskArbitration.h"
+#include "platform/headless/MainContext.h"
+#include "platform/headless/SystemLog.h"
 #include "tests/fuzz/FakeBus.h"
 #include "tests/fuzz/Must.h"
 
 namespace {
 
-using namespace brisel::platform::linux;
+using namespace brisel::platform::headless;
 using brisel::platform::Disk;
 using brisel::tests::DiskServiceAnswers;
 using brisel::tests::FakeBus;

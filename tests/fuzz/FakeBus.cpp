@@ -6,14 +6,14 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/linux/MainContext.h"
+#include "platform/headless/MainContext.h"
 #include "tests/fuzz/Must.h"
 
 namespace brisel::tests {
 
-using platform::linux::CallError;
-using platform::linux::OwnedObject;
-using platform::linux::OwnedText;
+using platform::headless::CallError;
+using platform::headless::OwnedObject;
+using platform::headless::OwnedText;
 
 namespace {
 
@@ -50,7 +50,7 @@ FakeBus::~FakeBus() {
 }
 
 void FakeBus::serve() {
-    platform::linux::OwnMainLoop loop;
+    platform::headless::OwnMainLoop loop;
     const OwnedText guid(g_dbus_generate_guid());
     CallError error;
     const OwnedObject<GDBusServer> server(
@@ -60,7 +60,7 @@ void FakeBus::serve() {
     must(server != nullptr);
     g_signal_connect(server.get(), "new-connection", reinterpret_cast<GCallback>(&welcome), this);
     g_dbus_server_start(server.get());
-    end_ = [&loop] { platform::linux::handTo(loop.context(), [&loop] { loop.quit(); }); };
+    end_ = [&loop] { platform::headless::handTo(loop.context(), [&loop] { loop.quit(); }); };
     served_.set_value();
     loop.run();
     g_dbus_server_stop(server.get());

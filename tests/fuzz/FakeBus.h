@@ -10,7 +10,7 @@
 #include <string>
 #include <thread>
 
-#include "platform/linux/GLibOwners.h"
+#include "platform/headless/GLibOwners.h"
 #include "tests/linux/TemporaryFolder.h"
 
 namespace brisel::tests {
@@ -18,9 +18,9 @@ namespace brisel::tests {
 /// What the disk service answers and does; floating or owned values are taken over.
 struct DiskServiceAnswers {
     /// To GetManagedObjects, `a{oa{sa{sv}}}`.
-    platform::linux::OwnedVariant objects;
+    platform::headless::OwnedVariant objects;
     /// To Mount: a tuple of any type, or null for the error.
-    platform::linux::OwnedVariant mounted;
+    platform::headless::OwnedVariant mounted;
     /// The name of the error that Mount and Unmount fail with.
     std::string errorName;
 };
@@ -55,7 +55,7 @@ class FakeBus {
     std::function<void()> end_;
     std::thread thread_;
     std::mutex mutex_;
-    platform::linux::OwnedObject<GDBusConnection> connection_;
+    platform::headless::OwnedObject<GDBusConnection> connection_;
     DiskServiceAnswers answers_;
 };
 

@@ -4,13 +4,13 @@
 #include <sstream>
 #include <string>
 
-#include "platform/linux/MountInfo.h"
+#include "platform/headless/MountInfo.h"
 #include "tests/fuzz/Must.h"
 
 namespace {
 
-using brisel::platform::linux::mountState;
-using brisel::platform::linux::MountState;
+using brisel::platform::headless::mountState;
+using brisel::platform::headless::MountState;
 using brisel::tests::must;
 
 // As the kernel writes a mount point.

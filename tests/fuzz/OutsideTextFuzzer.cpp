@@ -5,8 +5,8 @@
 #include <string>
 
 #include "platform/common/VisibleText.h"
-#include "platform/linux/DiskDescriptions.h"
-#include "platform/linux/ScriptRunner.h"
+#include "platform/headless/DiskDescriptions.h"
+#include "platform/headless/ScriptRunner.h"
 #include "simulator/Words.h"
 #include "tests/fuzz/Must.h"
 
@@ -16,15 +16,15 @@ using namespace brisel;
 using brisel::tests::must;
 
 void readScript(const std::string& text) {
-    const auto command = platform::linux::shellCommandOf("do shell script \"" + text);
+    const auto command = platform::headless::shellCommandOf("do shell script \"" + text);
     must(!command || command->size() < text.size());
 }
 
 void readUUID(const std::string& text) {
-    const auto uuid = platform::linux::uuidText(text);
+    const auto uuid = platform::headless::uuidText(text);
     must(uuid.has_value() == !text.empty());
     // What is a UUID already stays what it is.
-    if (uuid) must(uuid->size() == 36 && platform::linux::uuidText(*uuid) == uuid);
+    if (uuid) must(uuid->size() == 36 && platform::headless::uuidText(*uuid) == uuid);
 }
 
 void showOnTerminal(const std::string& text) {

@@ -6,15 +6,15 @@
 #include <sstream>
 #include <string>
 
-#include "platform/linux/SystemLog.h"
-#include "platform/linux/UserDefaults.h"
+#include "platform/headless/SystemLog.h"
+#include "platform/headless/UserDefaults.h"
 #include "tests/fuzz/Must.h"
 #include "tests/linux/TemporaryFolder.h"
 
 namespace {
 
 using brisel::tests::must;
-using namespace brisel::platform::linux;
+using namespace brisel::platform::headless;
 
 // Each change is written through to the disk, and there is no need for one here.
 constexpr const char* Memory = "/dev/shm";

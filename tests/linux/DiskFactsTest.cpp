@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "platform/DiskArbitration.h"
-#include "platform/linux/DiskArbitration.h"
-#include "platform/linux/DiskDescriptions.h"
-#include "platform/linux/MountInfo.h"
-#include "platform/linux/UDisksErrors.h"
+#include "platform/headless/DiskArbitration.h"
+#include "platform/headless/DiskDescriptions.h"
+#include "platform/headless/MountInfo.h"
+#include "platform/headless/UDisksErrors.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::headless {
 
 namespace {
 
@@ -146,4 +146,4 @@ TEST(MountOptions, AreTheArgumentsThatUDisks2Knows) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::headless

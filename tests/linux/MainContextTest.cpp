@@ -1,6 +1,6 @@
 // Loops of one's own and of other threads, and what waits for them.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/MainContext.h"
+#include "platform/headless/MainContext.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -13,7 +13,7 @@
 #include <thread>
 #include <vector>
 
-namespace brisel::platform::linux {
+namespace brisel::platform::headless {
 
 namespace {
 
@@ -147,4 +147,4 @@ TEST_F(ALoop, LetsATimerFireUntilItEnds) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::headless

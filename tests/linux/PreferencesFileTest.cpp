@@ -7,12 +7,12 @@
 #include <fstream>
 #include <sstream>
 
-#include "platform/linux/SystemLog.h"
-#include "platform/linux/UserDefaults.h"
+#include "platform/headless/SystemLog.h"
+#include "platform/headless/UserDefaults.h"
 #include "tests/linux/TemporaryFolder.h"
 #include "volumes/VolumeListHelper.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::headless {
 
 namespace {
 
@@ -133,4 +133,4 @@ TEST_F(PreferencesFile, ThatCannotBeWrittenIsLoggedAndTheValueHoldsForThisRun) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::headless

@@ -1,6 +1,6 @@
 // The process itself: its standard descriptors, its language, its tools, and the volumes it sees.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/Process.h"
+#include "platform/headless/Process.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -14,12 +14,12 @@
 #include <functional>
 #include <optional>
 
-#include "platform/linux/Installation.h"
-#include "platform/linux/MountInfo.h"
-#include "platform/linux/VolumeProbe.h"
+#include "platform/headless/Installation.h"
+#include "platform/headless/MountInfo.h"
+#include "platform/headless/VolumeProbe.h"
 #include "tests/linux/TemporaryFolder.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::headless {
 
 namespace {
 
@@ -60,7 +60,7 @@ TEST(TheProcess, LeavesItsStandardDescriptorsToNothingElse) {
             for (int descriptor = 0; descriptor < 3; ++descriptor) {
                 if ((closed >> static_cast<unsigned>(descriptor) & 1U) != 0) close(descriptor);
             }
-            prepareProcess();
+            restoreProcessDefaults();
             return open("/dev/zero", O_RDONLY) > STDERR_FILENO ? 0 : 1;
         });
         EXPECT_EQ(firstOpened, 0) << closed;
@@ -70,7 +70,7 @@ TEST(TheProcess, LeavesItsStandardDescriptorsToNothingElse) {
 TEST(TheProcess, HearsOfItsChildren) {
     EXPECT_EQ(inAnotherProcess([] {
                   std::signal(SIGCHLD, SIG_IGN);
-                  prepareProcess();
+                  restoreProcessDefaults();
                   return inAnotherProcess([] { return 3; });
               }),
               3);
@@ -154,4 +154,4 @@ TEST(AVolume, IsHibernatedByTheFirstWordOfItsFile) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::headless

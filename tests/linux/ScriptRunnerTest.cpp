@@ -1,6 +1,6 @@
 // The clean-up command: which command lines run, and what the program gets.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/ScriptRunner.h"
+#include "platform/headless/ScriptRunner.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,10 +8,10 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/linux/FileManager.h"
+#include "platform/headless/FileManager.h"
 #include "tests/linux/TemporaryFolder.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::headless {
 
 namespace {
 
@@ -126,4 +126,4 @@ TEST_F(Script, WhoseProgramIsMissingFails) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::headless

@@ -10,14 +10,14 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/linux/Authorization.h"
-#include "platform/linux/FileManager.h"
-#include "platform/linux/MountFolder.h"
-#include "platform/linux/SystemLog.h"
+#include "platform/headless/Authorization.h"
+#include "platform/headless/FileManager.h"
+#include "platform/headless/MountFolder.h"
+#include "platform/headless/SystemLog.h"
 #include "privileged/FileHandle.h"
 #include "tests/linux/TemporaryFolder.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::headless {
 
 namespace {
 
@@ -143,4 +143,4 @@ TEST(PrivilegedStart, HandsBackTheOutputAndTheChild) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::headless

@@ -11,7 +11,7 @@
 #include <sstream>
 
 #include "platform/common/VisibleText.h"
-#include "platform/linux/Interruption.h"
+#include "platform/headless/TerminationSignals.h"
 #include "platform/terminal/Alert.h"
 #include "platform/terminal/StatusItem.h"
 #include "platform/terminal/Terminal.h"
@@ -101,9 +101,9 @@ TEST_F(Screen, LeavesAQuestionUnansweredOnceInterrupted) {
         close(end);
 }
 
-TEST(Interruption, ComesWithEachSignalThatAsksForTheEnd) {
+TEST(TerminationSignals, ComesWithEachSignalThatAsksForTheEnd) {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
-        const linux::Interruption interruption;
+        const headless::TerminationSignals interruption;
         pollfd ready{.fd = interruption.descriptor(), .events = POLLIN, .revents = 0};
         EXPECT_EQ(poll(&ready, 1, 0), 0);
         ASSERT_EQ(raise(signal), 0);

@@ -38,6 +38,7 @@ function complain(what) {
 }
 
 function allowed(from, to, words, count, i) {
+    if (from ~ /^platform\/(desktop|terminal)$/ && to == "platform/headless") return 1
     if (from ~ /^platform\//) return to == "platform" || to == "platform/common" || to == from
     count = split(may[from], words, " ")
     for (i = 1; i <= count; i++) {

@@ -50,8 +50,10 @@ includes src/app/A.cpp mounting/B.h passes
 includes src/mounting/A.cpp privileged/B.h passes
 includes src/volumes/A.cpp platform/B.h passes
 includes src/platform/simulated/A.cpp platform/simulated/B.h passes
-includes src/platform/linux/A.cpp platform/common/B.h passes
-includes src/entry/linux/main.cpp platform/linux/B.h passes
+includes src/platform/headless/A.cpp platform/common/B.h passes
+includes src/platform/desktop/A.cpp platform/headless/B.h passes
+includes src/platform/terminal/A.cpp platform/headless/B.h passes
+includes src/entry/desktop/main.cpp platform/desktop/B.h passes
 includes simulator/A.cpp platform/simulated/B.h passes
 includes tests/core/A.cpp platform/simulated/B.h passes
 includes tests/tools/A.cpp tools/B.h passes
@@ -63,19 +65,20 @@ includes src/privileged/A.cpp volumes/B.h complains
 includes src/platform/A.h volumes/B.h complains
 includes src/platform/A.h platform/common/B.h complains
 includes src/platform/simulated/A.cpp volumes/B.h complains
-includes src/platform/linux/A.cpp platform/simulated/B.h complains
-includes src/platform/common/A.cpp platform/linux/B.h complains
+includes src/platform/headless/A.cpp platform/desktop/B.h complains
+includes src/platform/headless/A.cpp platform/simulated/B.h complains
+includes src/platform/common/A.cpp platform/headless/B.h complains
 includes src/app/A.cpp platform/simulated/B.h complains
 includes src/app/A.cpp simulator/B.h complains
 includes src/app/A.cpp B.h complains
-includes src/entry/linux/main.cpp simulator/B.h complains
+includes src/entry/desktop/main.cpp simulator/B.h complains
 includes simulator/A.cpp tests/B.h complains
 includes tools/A.cpp app/B.h complains
-includes tools/A.cpp platform/linux/B.h complains
+includes tools/A.cpp platform/headless/B.h complains
 
 tree src/app/A.cpp '#ifdef __linux__\n#endif\n'
 complains arrows 'an operating system in the core'
-tree src/platform/linux/A.cpp '#ifdef __linux__\n#endif\n'
+tree src/platform/headless/A.cpp '#ifdef __linux__\n#endif\n'
 passes arrows 'an operating system in its platform'
 
 good='// A good file.\n// SPDX-License-Identifier: MIT\n#pragma once\n'

@@ -10,7 +10,7 @@
 
 namespace brisel::dialog {
 
-// Brisel reads these words in platform/linux/DialogProcess.cpp.
+// Brisel reads these words in platform/desktop/DialogProcess.cpp.
 std::string shownLine() {
     return "shown\n";
 }

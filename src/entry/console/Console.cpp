@@ -3,8 +3,8 @@
 #include "entry/console/Console.h"
 
 #include "app/MainMenu.h"
-#include "platform/linux/MountFolder.h"
-#include "platform/linux/Process.h"
+#include "platform/headless/MountFolder.h"
+#include "platform/headless/Process.h"
 #include "volumes/NTFSVolumeManager.h"
 
 namespace brisel::console {
@@ -17,23 +17,23 @@ constexpr const char* Help =
 }  // namespace
 
 Console::Console(int input, std::ostream& output)
-    : terminal_(input, output, interruption_.descriptor()) {
-    bundle_.setLanguages(platform::linux::userLanguages());
+    : terminal_(input, output, terminationSignals_.descriptor()) {
+    bundle_.setLanguages(platform::headless::userLanguages());
     application_.setEnd([this] { g_main_loop_quit(mainLoop_.get()); });
 }
 
 Console::~Console() = default;
 
 void Console::run() {
-    platform::linux::removeEmptyMountPoints(
-        platform::linux::mountFolderIn(fileManager_.homeDirectory()));
+    platform::headless::removeEmptyMountPoints(
+        platform::headless::mountFolderIn(fileManager_.homeDirectory()));
     platform::install(platform_);
     AppDelegate::initialize(platform_);
     delegate_ = std::make_shared<AppDelegate>(platform_);
     statusMenu_.load(mainMenuItems(delegate_, platform_));
     application_.setTerminationStep([this] { delegate_->applicationWillTerminate(); });
-    const auto ending = platform::linux::whenReadable(interruption_.descriptor(),
-                                                      [this] { application_.terminate(); });
+    const auto ending = platform::headless::whenReadable(terminationSignals_.descriptor(),
+                                                         [this] { application_.terminate(); });
     terminal_.print(Help);
     delegate_->awakeFromNib();
     const auto lines = terminal_.handleLines([this](const auto& line) { carryOut(line); });

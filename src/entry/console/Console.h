@@ -12,15 +12,15 @@
 #include "platform/common/Bundle.h"
 #include "platform/common/Menu.h"
 #include "platform/common/NotificationCenter.h"
-#include "platform/linux/Authorization.h"
-#include "platform/linux/DiskArbitration.h"
-#include "platform/linux/FileManager.h"
-#include "platform/linux/Interruption.h"
-#include "platform/linux/MainContext.h"
-#include "platform/linux/ScriptRunner.h"
-#include "platform/linux/SystemLog.h"
-#include "platform/linux/SystemVersion.h"
-#include "platform/linux/UserDefaults.h"
+#include "platform/headless/Authorization.h"
+#include "platform/headless/DiskArbitration.h"
+#include "platform/headless/FileManager.h"
+#include "platform/headless/MainContext.h"
+#include "platform/headless/ScriptRunner.h"
+#include "platform/headless/SystemLog.h"
+#include "platform/headless/SystemVersion.h"
+#include "platform/headless/TerminationSignals.h"
+#include "platform/headless/UserDefaults.h"
 #include "platform/Platform.h"
 #include "platform/terminal/Alert.h"
 #include "platform/terminal/Application.h"
@@ -47,26 +47,26 @@ class Console {
   private:
     void carryOut(const std::optional<std::string>& line);
 
-    platform::linux::Interruption interruption_;
+    platform::headless::TerminationSignals terminationSignals_;
     platform::terminal::Terminal terminal_;
-    platform::linux::SystemLog systemLog_{
+    platform::headless::SystemLog systemLog_{
         [this](const std::string& text) { terminal_.print("log: " + text); }};
     platform::common::Bundle bundle_;
     platform::common::Menu statusMenu_;
     platform::common::NotificationCenter notificationCenter_;
     platform::terminal::Alert alert_{terminal_};
     platform::terminal::Application application_{terminal_, "Brisel " BRISEL_VERSION};
-    platform::linux::Authorization authorization_{systemLog_, interruption_.descriptor()};
-    platform::linux::DiskArbitration diskArbitration_{systemLog_};
-    platform::linux::FileManager fileManager_;
+    platform::headless::Authorization authorization_{systemLog_, terminationSignals_.descriptor()};
+    platform::headless::DiskArbitration diskArbitration_{systemLog_};
+    platform::headless::FileManager fileManager_;
     platform::terminal::LoginItems loginItems_;
-    platform::linux::RunLoop runLoop_;
-    platform::linux::ScriptRunner scriptRunner_{fileManager_};
+    platform::headless::RunLoop runLoop_;
+    platform::headless::ScriptRunner scriptRunner_{fileManager_};
     platform::terminal::StatusItem statusItem_{terminal_, statusMenu_,
-                                               &platform::linux::whenMainLoopTurns};
-    platform::linux::SystemVersion systemVersion_;
-    platform::linux::UserDefaults userDefaults_{systemLog_,
-                                                platform::linux::UserDefaults::defaultPath()};
+                                               &platform::headless::whenMainLoopTurns};
+    platform::headless::SystemVersion systemVersion_;
+    platform::headless::UserDefaults userDefaults_{systemLog_,
+                                                   platform::headless::UserDefaults::defaultPath()};
     platform::terminal::UserNotificationCenter userNotificationCenter_{terminal_};
     platform::terminal::Workspace workspace_{terminal_};
     const platform::Platform platform_{.alert = alert_,

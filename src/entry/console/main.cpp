@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "entry/console/Console.h"
-#include "platform/linux/Process.h"
+#include "platform/headless/Process.h"
 
 namespace {
 
@@ -18,7 +18,7 @@ constexpr std::string_view Usage =
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    brisel::platform::linux::prepareProcess();
+    brisel::platform::headless::restoreProcessDefaults();
     if (argumentCount > 1) {
         const std::string_view argument = arguments[1];
         const bool asked = argumentCount == 2 && (argument == "--help" || argument == "-h");

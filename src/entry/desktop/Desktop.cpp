@@ -7,15 +7,15 @@
 
 #include "app/MainMenu.h"
 #include "platform/common/VisibleText.h"
-#include "platform/linux/MountFolder.h"
-#include "platform/linux/Process.h"
+#include "platform/headless/MountFolder.h"
+#include "platform/headless/Process.h"
 #include "volumes/NTFSVolumeManager.h"
 
 namespace brisel::desktop {
 
 namespace {
 
-using Place = platform::linux::Activation::Place;
+using Place = platform::desktop::SingleInstance::Place;
 
 void printLogEntry(const std::string& text) {
     std::cerr << "brisel: " + platform::common::visible(text) + '\n';
@@ -25,40 +25,41 @@ void printLogEntry(const std::string& text) {
 
 Desktop::Desktop(GDBusConnection* bus)
     : systemLog_(&printLogEntry),
-      activation_(bus),
+      singleInstance_(bus),
       notifications_(bus),
       statusItem_({.bus = bus,
                    .log = systemLog_,
                    .bundle = bundle_,
                    .menu = statusMenu_,
                    .mainThread = mainThread_}) {
-    bundle_.setLanguages(platform::linux::userLanguages());
+    bundle_.setLanguages(platform::headless::userLanguages());
     application_.setEnd([this] { mainLoop_.quit(); });
 }
 
 Desktop::~Desktop() = default;
 
 int Desktop::run() {
-    if (activation_.place() == Place::First) {
+    if (singleInstance_.place() == Place::First) {
         runFirst();
         return EXIT_SUCCESS;
     }
-    if (activation_.place() == Place::Second && activation_.activateFirst()) return EXIT_SUCCESS;
+    if (singleInstance_.place() == Place::Second && singleInstance_.activateFirst())
+        return EXIT_SUCCESS;
     systemLog_.log("Another Brisel refuses to show itself, or the session bus is out of order.");
     return EXIT_FAILURE;
 }
 
 void Desktop::runFirst() {
-    platform::linux::removeEmptyMountPoints(
-        platform::linux::mountFolderIn(fileManager_.homeDirectory()));
+    platform::headless::removeEmptyMountPoints(
+        platform::headless::mountFolderIn(fileManager_.homeDirectory()));
     platform::install(platform_);
     AppDelegate::initialize(platform_);
     delegate_ = std::make_shared<AppDelegate>(platform_);
     statusMenu_.load(mainMenuItems(delegate_, platform_));
     application_.setTerminationStep([this] { delegate_->applicationWillTerminate(); });
-    const auto ending = platform::linux::whenReadable(interruption_.descriptor(),
-                                                      [this] { application_.terminate(); });
-    activation_.listen([this] { menuWindow_.show(); });
+    const auto ending = platform::headless::whenReadable(terminationSignals_.descriptor(),
+                                                         [this] { application_.terminate(); });
+    singleInstance_.listen([this] { menuWindow_.show(); });
     delegate_->awakeFromNib();
     if (!application_.terminated()) mainLoop_.run();
 }

@@ -11,26 +11,26 @@
 #include "platform/common/Bundle.h"
 #include "platform/common/Menu.h"
 #include "platform/common/NotificationCenter.h"
-#include "platform/linux/Activation.h"
-#include "platform/linux/Alert.h"
-#include "platform/linux/Application.h"
-#include "platform/linux/Authorization.h"
-#include "platform/linux/CommonModesQueue.h"
-#include "platform/linux/DiskArbitration.h"
-#include "platform/linux/FileManager.h"
-#include "platform/linux/Installation.h"
-#include "platform/linux/Interruption.h"
-#include "platform/linux/LoginItems.h"
-#include "platform/linux/MainContext.h"
-#include "platform/linux/MenuWindow.h"
-#include "platform/linux/NotificationServer.h"
-#include "platform/linux/ScriptRunner.h"
-#include "platform/linux/StatusItem.h"
-#include "platform/linux/SystemLog.h"
-#include "platform/linux/SystemVersion.h"
-#include "platform/linux/UserDefaults.h"
-#include "platform/linux/UserNotificationCenter.h"
-#include "platform/linux/Workspace.h"
+#include "platform/desktop/Alert.h"
+#include "platform/desktop/Application.h"
+#include "platform/desktop/LoginItems.h"
+#include "platform/desktop/MainThreadQueue.h"
+#include "platform/desktop/MenuWindow.h"
+#include "platform/desktop/NotificationServer.h"
+#include "platform/desktop/SingleInstance.h"
+#include "platform/desktop/StatusItem.h"
+#include "platform/desktop/UserNotificationCenter.h"
+#include "platform/desktop/Workspace.h"
+#include "platform/headless/Authorization.h"
+#include "platform/headless/DiskArbitration.h"
+#include "platform/headless/FileManager.h"
+#include "platform/headless/Installation.h"
+#include "platform/headless/MainContext.h"
+#include "platform/headless/ScriptRunner.h"
+#include "platform/headless/SystemLog.h"
+#include "platform/headless/SystemVersion.h"
+#include "platform/headless/TerminationSignals.h"
+#include "platform/headless/UserDefaults.h"
 #include "platform/Platform.h"
 
 namespace brisel::desktop {
@@ -50,35 +50,35 @@ class Desktop {
   private:
     void runFirst();
 
-    const std::string dialog_ = platform::linux::toolPath("brisel-dialog");
-    platform::linux::OwnMainLoop mainLoop_;
-    platform::linux::Interruption interruption_;
-    platform::linux::SystemLog systemLog_;
-    platform::linux::Activation activation_;
-    platform::linux::CommonModesQueue mainThread_;
-    platform::linux::NotificationServer notifications_;
+    const std::string dialog_ = platform::headless::toolPath("brisel-dialog");
+    platform::headless::OwnMainLoop mainLoop_;
+    platform::headless::TerminationSignals terminationSignals_;
+    platform::headless::SystemLog systemLog_;
+    platform::desktop::SingleInstance singleInstance_;
+    platform::desktop::MainThreadQueue mainThread_;
+    platform::desktop::NotificationServer notifications_;
     platform::common::Bundle bundle_;
     platform::common::Menu statusMenu_;
     platform::common::NotificationCenter notificationCenter_;
-    platform::linux::Alert alert_{{.log = systemLog_,
-                                   .mainThread = mainThread_,
-                                   .notifications = notifications_,
-                                   .interruption = interruption_.descriptor(),
-                                   .dialog = dialog_}};
-    platform::linux::Application application_{systemLog_, dialog_};
-    platform::linux::Authorization authorization_{systemLog_, interruption_.descriptor()};
-    platform::linux::DiskArbitration diskArbitration_{systemLog_};
-    platform::linux::FileManager fileManager_;
-    platform::linux::LoginItems loginItems_{systemLog_};
-    platform::linux::RunLoop runLoop_;
-    platform::linux::ScriptRunner scriptRunner_{fileManager_};
-    platform::linux::StatusItem statusItem_;
-    platform::linux::SystemVersion systemVersion_;
-    platform::linux::UserDefaults userDefaults_{systemLog_,
-                                                platform::linux::UserDefaults::defaultPath()};
-    platform::linux::UserNotificationCenter userNotificationCenter_{notifications_};
-    platform::linux::Workspace workspace_{systemLog_};
-    platform::linux::MenuWindow menuWindow_{statusItem_, systemLog_, dialog_};
+    platform::desktop::Alert alert_{{.log = systemLog_,
+                                     .mainThread = mainThread_,
+                                     .notifications = notifications_,
+                                     .interruption = terminationSignals_.descriptor(),
+                                     .dialog = dialog_}};
+    platform::desktop::Application application_{systemLog_, dialog_};
+    platform::headless::Authorization authorization_{systemLog_, terminationSignals_.descriptor()};
+    platform::headless::DiskArbitration diskArbitration_{systemLog_};
+    platform::headless::FileManager fileManager_;
+    platform::desktop::LoginItems loginItems_{systemLog_};
+    platform::headless::RunLoop runLoop_;
+    platform::headless::ScriptRunner scriptRunner_{fileManager_};
+    platform::desktop::StatusItem statusItem_;
+    platform::headless::SystemVersion systemVersion_;
+    platform::headless::UserDefaults userDefaults_{systemLog_,
+                                                   platform::headless::UserDefaults::defaultPath()};
+    platform::desktop::UserNotificationCenter userNotificationCenter_{notifications_};
+    platform::desktop::Workspace workspace_{systemLog_};
+    platform::desktop::MenuWindow menuWindow_{statusItem_, systemLog_, dialog_};
     const platform::Platform platform_{.alert = alert_,
                                        .application = application_,
                                        .authorization = authorization_,

@@ -9,8 +9,8 @@
 #include <string_view>
 
 #include "entry/desktop/Desktop.h"
-#include "platform/linux/GLibOwners.h"
-#include "platform/linux/Process.h"
+#include "platform/headless/GLibOwners.h"
+#include "platform/headless/Process.h"
 
 namespace {
 
@@ -37,12 +37,12 @@ int main(int argumentCount, char** arguments) {
     // The threads take turns more than they compete: one pool of memory serves them all, and what
     // one frees the next one uses.
     mallopt(M_ARENA_MAX, 1);
-    brisel::platform::linux::prepareProcess();
+    brisel::platform::headless::restoreProcessDefaults();
     if (argumentCount > 1) return answer(argumentCount == 2 ? arguments[1] : "");
     std::setlocale(LC_ALL, "");
-    brisel::platform::linux::CallError error;
+    brisel::platform::headless::CallError error;
     // As long as the process, as the program is.
-    static const brisel::platform::linux::OwnedObject<GDBusConnection> bus(
+    static const brisel::platform::headless::OwnedObject<GDBusConnection> bus(
         g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, error.receive()));
     if (!bus) {
         std::cerr << "brisel: There is no desktop session to show a tray icon in: "

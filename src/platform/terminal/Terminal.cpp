@@ -57,8 +57,9 @@ std::optional<std::string> Terminal::ask(std::string_view question) {
 
 bool Terminal::wait() const {
     constexpr int NoLimit = -1;
-    std::array<pollfd, 2> awaited{pollfd{.fd = input_, .events = POLLIN, .revents = 0},
-                                  pollfd{.fd = interruption_, .events = POLLIN, .revents = 0}};
+    std::array<pollfd, 2> awaited{
+        pollfd{.fd = input_, .events = POLLIN, .revents = 0},
+        pollfd{.fd = terminationSignals_, .events = POLLIN, .revents = 0}};
     while (poll(awaited.data(), awaited.size(), NoLimit) < 0 && errno == EINTR) {
     }
     return awaited[1].revents == 0;

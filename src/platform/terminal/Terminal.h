@@ -22,7 +22,7 @@ class Terminal {
     /// `input` is a descriptor, which stays the caller's. So is `interruption`, or -1 for none:
     /// once it can be read from, every question counts as unanswered.
     Terminal(int input, std::ostream& output, int interruption = -1)
-        : input_(input), interruption_(interruption), output_(output) {}
+        : input_(input), terminationSignals_(interruption), output_(output) {}
 
     /// Prints the text and a line end. Control characters, which a volume's label may hold, are
     /// made visible, so that nothing but the program's own lines steers the terminal.
@@ -42,7 +42,7 @@ class Terminal {
     void handOutSoon();
 
     int input_;
-    int interruption_;
+    int terminationSignals_;
     std::ostream& output_;
     std::string typed_;
     bool ended_ = false;

@@ -1,6 +1,6 @@
 // Alerts in windows of another program, whatever that does.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/Alert.h"
+#include "platform/desktop/Alert.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -14,7 +14,7 @@
 #include "tests/linux/desktop/FakeDesktop.h"
 #include "tests/linux/desktop/StatusItemOnBus.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -62,7 +62,7 @@ class AnAlert : public testing::Test {
 
     tests::TestLoop loop_;
     tests::RecordedLog log_;
-    CommonModesQueue mainThread_;
+    MainThreadQueue mainThread_;
     tests::BusyNotifications desktop_{{}};
     NotificationServer notifications_{tests::SessionBus::shared().program()};
 };
@@ -201,4 +201,4 @@ TEST_F(TheAppearanceUnderAnAlert, FollowsTheDesktop) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

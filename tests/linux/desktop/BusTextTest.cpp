@@ -1,12 +1,12 @@
 // Outside text on its way to the bus, and the menu's numbers.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/BusText.h"
+#include "platform/desktop/BusText.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/linux/NumberedMenu.h"
+#include "platform/desktop/NumberedMenu.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -103,4 +103,4 @@ TEST_F(NumberedItems, ThatHaveGoneAreNotFound) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

@@ -1,13 +1,13 @@
 // Light or dark, as the Settings portal says it, in every form in which portals say it.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/ColourScheme.h"
+#include "platform/desktop/ColourScheme.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "tests/linux/desktop/FakeDesktop.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -193,4 +193,4 @@ TEST_F(TheColourScheme, TellsNothingOnceItIsGone) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

@@ -57,7 +57,7 @@ std::map<std::string, std::string> hintsIn(GVariant* tuple, gsize index) {
     const char* name = nullptr;
     GVariant* value = nullptr;
     while (g_variant_iter_loop(&iterator, "{&sv}", &name, &value) != FALSE) {
-        const platform::linux::OwnedText text(g_variant_print(value, FALSE));
+        const platform::headless::OwnedText text(g_variant_print(value, FALSE));
         texts[name] = text.get();
     }
     return texts;

@@ -1,6 +1,6 @@
 // The entry that lets the desktop start the program at login.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LoginItems.h"
+#include "platform/desktop/LoginItems.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,11 +9,11 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "platform/linux/GLibOwners.h"
+#include "platform/headless/GLibOwners.h"
 #include "tests/linux/desktop/FakeDesktop.h"
 #include "tests/linux/TemporaryFolder.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -33,7 +33,7 @@ class TheLoginItem : public testing::Test {
     [[nodiscard]] std::string value(const char* key) const {
         auto* const file = g_key_file_new();
         g_key_file_load_from_file(file, file_.c_str(), G_KEY_FILE_NONE, nullptr);
-        const OwnedText text(g_key_file_get_string(file, "Desktop Entry", key, nullptr));
+        const headless::OwnedText text(g_key_file_get_string(file, "Desktop Entry", key, nullptr));
         g_key_file_unref(file);
         return text ? text.get() : "none";
     }
@@ -77,7 +77,7 @@ TEST_F(TheLoginItem, StartsTheProgramInWhateverFolder) {
         std::ofstream(program) << "#!/bin/sh\n: >\"${0%/*}/started\"\n";
         fs::permissions(program, fs::perms::owner_all);
         ASSERT_TRUE(set(program, true));
-        OwnedText command(g_strdup(value("Exec").c_str()));
+        headless::OwnedText command(g_strdup(value("Exec").c_str()));
         std::string line;
         // Field codes are undone before words are parted.
         for (const char* at = command.get(); *at != '\0'; ++at) {
@@ -133,4 +133,4 @@ TEST(TheExecWord, QuotesWhatTheDesktopWouldRead) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

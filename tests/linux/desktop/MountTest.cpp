@@ -8,13 +8,13 @@
 #include <fstream>
 #include <memory>
 
-#include "platform/linux/DiskArbitration.h"
-#include "platform/linux/MountInfo.h"
+#include "platform/headless/DiskArbitration.h"
+#include "platform/headless/MountInfo.h"
 #include "tests/linux/desktop/FakeDesktop.h"
 #include "tests/linux/desktop/FakeDisks.h"
 #include "tests/linux/TemporaryFolder.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::headless {
 
 namespace {
 
@@ -179,4 +179,4 @@ TEST_F(AMount, OfAHibernatedVolumeIsUndoneThoughItTakesWriting) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::headless

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
-#include "platform/linux/Installation.h"
+#include "platform/headless/Installation.h"
 #include "tests/linux/desktop/Notifications.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -26,7 +26,7 @@ TEST_F(Notifications, SayWhoseTheyAre) {
     ASSERT_EQ(desktop.calls().size(), 1U);
     const auto& call = desktop.calls().front();
     EXPECT_EQ(call.program, "Brisel");
-    EXPECT_EQ(call.icon, applicationIcon());
+    EXPECT_EQ(call.icon, headless::applicationIcon());
     EXPECT_THAT(call.icon, HasSubstr("org.brisel.Brisel"));
     EXPECT_EQ(call.summary, "Found");
     EXPECT_EQ(call.body, "Go?");
@@ -179,4 +179,4 @@ TEST_F(Notifications, GoToTheServerThatAnswersAtLast) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

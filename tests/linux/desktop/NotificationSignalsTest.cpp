@@ -4,7 +4,7 @@
 
 #include "tests/linux/desktop/Notifications.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -60,4 +60,4 @@ TEST_F(NotificationSignals, AreNotHeardAfterTheEndOfTheSubscription) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

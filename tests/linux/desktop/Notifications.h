@@ -8,10 +8,10 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/NotificationServer.h"
+#include "platform/desktop/NotificationServer.h"
 #include "tests/linux/desktop/FakeDesktop.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 class Notifications : public testing::Test {
   protected:
@@ -42,4 +42,4 @@ class Notifications : public testing::Test {
     NotificationServer server_{tests::SessionBus::shared().program()};
 };
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

@@ -8,10 +8,10 @@
 
 #include <array>
 
-#include "platform/linux/Authorization.h"
+#include "platform/headless/Authorization.h"
 #include "tests/linux/desktop/FakeDesktop.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::headless {
 
 namespace {
 
@@ -46,7 +46,7 @@ class Nobody {
 class ThePasswordQuestion : public testing::Test {
   protected:
     ThePasswordQuestion() {
-        EXPECT_EQ(pipe2(interruption_.data(), O_CLOEXEC), 0);
+        EXPECT_EQ(pipe2(terminationSignals_.data(), O_CLOEXEC), 0);
         program_.run([this] {
             authority_.emplace(Authority);
             authority_->on("CancelCheckAuthorization", [this](const auto& call) {
@@ -57,7 +57,7 @@ class ThePasswordQuestion : public testing::Test {
     }
     ~ThePasswordQuestion() override {
         program_.run([this] { authority_.reset(); });
-        for (const int end : interruption_)
+        for (const int end : terminationSignals_)
             close(end);
     }
     void authorityDoes(const tests::FakeService::Method& method) {
@@ -74,7 +74,7 @@ class ThePasswordQuestion : public testing::Test {
         // The connection is there before nobody asks for it.
         static_cast<void>(tests::SessionBus::shared());
         const Nobody nobody;
-        return Authorization(log_, interruption_[0]).copyRights(nullptr, {}, 0);
+        return Authorization(log_, terminationSignals_[0]).copyRights(nullptr, {}, 0);
     }
 
     tests::TestLoop loop_;
@@ -82,7 +82,7 @@ class ThePasswordQuestion : public testing::Test {
     tests::OtherProgram program_;
     std::optional<tests::FakeService> authority_;
     std::optional<tests::BusCall> waiting_;
-    std::array<int, 2> interruption_{};
+    std::array<int, 2> terminationSignals_{};
 };
 
 TEST_F(ThePasswordQuestion, IsAskedForThisProgramsAction) {
@@ -124,7 +124,7 @@ TEST_F(ThePasswordQuestion, FailsWithoutAnAuthority) {
 TEST_F(ThePasswordQuestion, IsTakenBackWhenTheProgramIsToEnd) {
     authorityDoes([this](const auto& call) {
         waiting_ = call;
-        EXPECT_EQ(write(interruption_[1], "x", 1), 1);
+        EXPECT_EQ(write(terminationSignals_[1], "x", 1), 1);
     });
     // After a question that was taken back polkit's library (122) hears of the authority's end with
     // an object that it has freed. The program ends then; the test does not.
@@ -137,4 +137,4 @@ TEST_F(ThePasswordQuestion, IsTakenBackWhenTheProgramIsToEnd) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::headless

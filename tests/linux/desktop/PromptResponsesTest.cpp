@@ -4,7 +4,7 @@
 
 #include "tests/linux/desktop/Prompts.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -76,4 +76,4 @@ TEST_F(ShownPrompts, AreForgottenWithTheirServer) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

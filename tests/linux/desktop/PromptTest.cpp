@@ -4,7 +4,7 @@
 
 #include "tests/linux/desktop/Prompts.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -147,4 +147,4 @@ TEST_F(Prompts, AreAlwaysAllowed) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

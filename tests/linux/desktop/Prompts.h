@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/UserNotificationCenter.h"
+#include "platform/desktop/UserNotificationCenter.h"
 #include "tests/linux/desktop/FakeDesktop.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 inline constexpr std::uint32_t Expired = 1;
 inline constexpr std::uint32_t Dismissed = 2;
@@ -77,4 +77,4 @@ class ShownPrompts : public Prompts {
     tests::FakeNotifications desktop_{{"sound"}};
 };
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

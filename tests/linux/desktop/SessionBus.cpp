@@ -105,7 +105,7 @@ OwnedObject<GDBusConnection> SessionBus::connect() const {
 
 bool turnUntil(const std::function<bool()>& reached) {
     // What another thread does wakes nobody up here.
-    const auto tick = platform::linux::RunLoop().scheduledTimer(milliseconds(2), [] {});
+    const auto tick = platform::headless::RunLoop().scheduledTimer(milliseconds(2), [] {});
     const auto end = std::chrono::steady_clock::now() + Patience;
     while (!reached()) {
         if (std::chrono::steady_clock::now() > end) {
@@ -145,7 +145,7 @@ OtherProgram::OtherProgram() {
     static_cast<void>(SessionBus::shared());
     std::promise<GMainContext*> started;
     thread_ = std::thread([this, &started] {
-        platform::linux::OwnMainLoop loop;
+        platform::headless::OwnMainLoop loop;
         end_ = [&loop] { loop.quit(); };
         started.set_value(loop.context());
         loop.run();
@@ -154,13 +154,13 @@ OtherProgram::OtherProgram() {
 }
 
 OtherProgram::~OtherProgram() {
-    platform::linux::handTo(context_, end_);
+    platform::headless::handTo(context_, end_);
     thread_.join();
 }
 
 void OtherProgram::run(const std::function<void()>& work) const {
     const auto done = std::make_shared<std::promise<void>>();
-    platform::linux::handTo(context_, [&work, done] {
+    platform::headless::handTo(context_, [&work, done] {
         work();
         done->set_value();
     });

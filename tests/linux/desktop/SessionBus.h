@@ -10,15 +10,15 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/GLibOwners.h"
-#include "platform/linux/MainContext.h"
+#include "platform/headless/GLibOwners.h"
+#include "platform/headless/MainContext.h"
 #include "tests/linux/TemporaryFolder.h"
 
 namespace brisel::tests {
 
-using platform::linux::CallError;
-using platform::linux::OwnedObject;
-using platform::linux::OwnedVariant;
+using platform::headless::CallError;
+using platform::headless::OwnedObject;
+using platform::headless::OwnedVariant;
 
 /// Started with the first use, ended with the process. It is the session's bus to whoever asks, and
 /// the system's.
@@ -64,7 +64,7 @@ class TestLoop {
     [[nodiscard]] GMainContext* context() const { return loop_.context(); }
 
   private:
-    platform::linux::OwnMainLoop loop_;
+    platform::headless::OwnMainLoop loop_;
 };
 
 /// Waits until the default context, on whatever thread it turns, has done all that waits there.

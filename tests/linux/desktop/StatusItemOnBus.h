@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "platform/common/Bundle.h"
-#include "platform/linux/StatusItem.h"
+#include "platform/desktop/StatusItem.h"
 #include "tests/linux/desktop/FakeDesktop.h"
 
 namespace brisel::tests {
@@ -17,12 +17,12 @@ namespace brisel::tests {
 class StatusItemOnBus : public testing::Test {
   protected:
     StatusItemOnBus() {
-        item_ = std::make_unique<platform::linux::StatusItem>(
-            platform::linux::StatusItem::Surroundings{.bus = bus_,
-                                                      .log = log_,
-                                                      .bundle = bundle_,
-                                                      .menu = menu_,
-                                                      .mainThread = mainThread_});
+        item_ = std::make_unique<platform::desktop::StatusItem>(
+            platform::desktop::StatusItem::Surroundings{.bus = bus_,
+                                                        .log = log_,
+                                                        .bundle = bundle_,
+                                                        .menu = menu_,
+                                                        .mainThread = mainThread_});
     }
 
     GDBusConnection* bus_ = SessionBus::shared().program();
@@ -30,8 +30,8 @@ class StatusItemOnBus : public testing::Test {
     RecordedLog log_;
     platform::common::Bundle bundle_;
     platform::common::Menu menu_;
-    platform::linux::CommonModesQueue mainThread_;
-    std::unique_ptr<platform::linux::StatusItem> item_;
+    platform::desktop::MainThreadQueue mainThread_;
+    std::unique_ptr<platform::desktop::StatusItem> item_;
 };
 
 }  // namespace brisel::tests

@@ -6,7 +6,7 @@
 #include "tests/linux/desktop/FakeDesktop.h"
 #include "tests/linux/desktop/StatusItemOnBus.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -56,7 +56,7 @@ TEST_F(TheStatusItem, ShowsAnImageWhileTheMainThreadIsBusy) {
     const auto answer = properties.callBlocking(
         "Get", g_variant_new("(ss)", "org.kde.StatusNotifierItem", "IconName"));
     ASSERT_TRUE(answer);
-    const OwnedText text(g_variant_print(answer.get(), FALSE));
+    const headless::OwnedText text(g_variant_print(answer.get(), FALSE));
     EXPECT_STREQ(text.get(), "(<'brisel-status-orange-dark'>,)");
 }
 
@@ -122,4 +122,4 @@ TEST_F(TheAppearance, ThatChangesAtTheEndIsToldToNobody) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

@@ -9,7 +9,7 @@
 #include "tests/linux/desktop/MenuHost.h"
 #include "tests/linux/desktop/StatusItemOnBus.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -226,4 +226,4 @@ TEST_F(TheStatusMenu, StaysAsItIsWhenAnItemRebuildsIt) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

@@ -1,6 +1,6 @@
 // The icon on the bus: where it registers, what it tells of itself, what it says without a tray.
 // SPDX-License-Identifier: MIT
-#include "platform/linux/TrayIcon.h"
+#include "platform/desktop/TrayIcon.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 
 #include "tests/linux/desktop/FakeDesktop.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -32,7 +32,7 @@ class TheTrayIcon : public testing::Test {
     /// Turns the loop a good while longer than any time that is waited for here.
     void waitLongEnough() {
         int ticks = 0;
-        const auto ticking = RunLoop().scheduledTimer(Brief, [&ticks] { ++ticks; });
+        const auto ticking = headless::RunLoop().scheduledTimer(Brief, [&ticks] { ++ticks; });
         turnUntil([&ticks] { return ticks > 50; });
     }
 
@@ -158,7 +158,7 @@ TEST_F(TheTrayIconsFace, ShowsTheImageAndTheStateInWords) {
     EXPECT_EQ(host_.text("IconAccessibleDesc"), "a volume is writable");
     const auto toolTip = host_.property("ToolTip");
     ASSERT_TRUE(toolTip);
-    const OwnedText text(g_variant_print(toolTip.get(), FALSE));
+    const headless::OwnedText text(g_variant_print(toolTip.get(), FALSE));
     EXPECT_STREQ(text.get(), "('brisel-status-blue-dark', [], 'Brisel', 'a volume is writable')");
 }
 
@@ -184,4 +184,4 @@ TEST_F(TheTrayIconsFace, TakesClicksWithoutAnError) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

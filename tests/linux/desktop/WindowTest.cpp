@@ -5,13 +5,13 @@
 
 #include <csignal>
 
-#include "platform/linux/Application.h"
-#include "platform/linux/MenuWindow.h"
-#include "platform/linux/OpenWindow.h"
+#include "platform/desktop/Application.h"
+#include "platform/desktop/MenuWindow.h"
+#include "platform/desktop/ModelessWindow.h"
 #include "tests/linux/desktop/DialogScript.h"
 #include "tests/linux/desktop/StatusItemOnBus.h"
 
-namespace brisel::platform::linux {
+namespace brisel::platform::desktop {
 
 namespace {
 
@@ -24,7 +24,7 @@ using tests::turnUntil;
 
 class AWindow : public testing::Test {
   protected:
-    OpenWindow::Pressed note() {
+    ModelessWindow::Pressed note() {
         return [this](int number) { pressed_.push_back(number); };
     }
     static void waitForEnd(const DialogScript& dialog) {
@@ -38,7 +38,7 @@ class AWindow : public testing::Test {
 
 TEST_F(AWindow, TellsWhatIsPressedInIt) {
     const DialogScript dialog("cat >input; echo \"$@\" >given; echo shown; echo pressed 42");
-    OpenWindow window(log_, dialog.path());
+    ModelessWindow window(log_, dialog.path());
     window.show({"menu", "Title"}, "some input\n", note());
     turnUntil([this] { return !pressed_.empty(); });
     EXPECT_THAT(pressed_, ElementsAre(42));
@@ -49,7 +49,7 @@ TEST_F(AWindow, TellsWhatIsPressedInIt) {
 
 TEST_F(AWindow, TellsNothingWhenItIsClosed) {
     const DialogScript dialog("echo shown");
-    OpenWindow window(log_, dialog.path());
+    ModelessWindow window(log_, dialog.path());
     window.show({"menu"}, {}, note());
     waitForEnd(dialog);
     EXPECT_THAT(pressed_, IsEmpty());
@@ -59,7 +59,7 @@ TEST_F(AWindow, TellsNothingWhenItIsClosed) {
 TEST_F(AWindow, GivesWayToANewerOne) {
     const DialogScript dialog(
         "echo shown; echo $$ >>pids; [ -e second ] && echo pressed 2; exec sleep 100");
-    OpenWindow window(log_, dialog.path());
+    ModelessWindow window(log_, dialog.path());
     window.show({"menu"}, {}, note());
     turnUntil([&] { return !dialog.textIn("pids").empty(); });
     const auto first = std::stoi(dialog.textIn("pids"));
@@ -74,7 +74,7 @@ TEST_F(AWindow, GivesWayToANewerOne) {
 TEST_F(AWindow, GoesWithItsOwner) {
     const DialogScript dialog("exec sleep 100");
     {
-        OpenWindow window(log_, dialog.path());
+        ModelessWindow window(log_, dialog.path());
         window.show({"menu"}, {}, note());
         turnUntil([&] { return !dialog.textIn("pid").empty(); });
         EXPECT_FALSE(dialog.isGone());
@@ -83,7 +83,7 @@ TEST_F(AWindow, GoesWithItsOwner) {
 }
 
 TEST_F(AWindow, WithoutAProgramIsNothing) {
-    OpenWindow window(log_, "/nonexistent/dialog");
+    ModelessWindow window(log_, "/nonexistent/dialog");
     const auto before = tests::openDescriptors();
     constexpr int Times = 20;
     for (int time = 0; time < Times; ++time)
@@ -96,7 +96,7 @@ TEST_F(AWindow, WithoutAProgramIsNothing) {
 
 TEST_F(AWindow, TakesMoreInputThanAPipeHolds) {
     const DialogScript dialog("wc -c >count; echo pressed 1");
-    OpenWindow window(log_, dialog.path());
+    ModelessWindow window(log_, dialog.path());
     window.show({"menu"}, std::string(1 << 20, 'x'), note());
     turnUntil([this] { return !pressed_.empty(); });
     EXPECT_EQ(std::stoi(dialog.textIn("count")), 1 << 20);
@@ -104,7 +104,7 @@ TEST_F(AWindow, TakesMoreInputThanAPipeHolds) {
 
 TEST_F(AWindow, MayBeShownAgainByWhatIsPressedInIt) {
     const DialogScript dialog("echo shown; echo pressed 1");
-    OpenWindow window(log_, dialog.path());
+    ModelessWindow window(log_, dialog.path());
     window.show({"menu"}, {}, [&](int number) {
         pressed_.push_back(number);
         window.show({"menu"}, {}, note());
@@ -168,4 +168,4 @@ TEST_F(TheMenuWindow, ChoosesNothingThatHasLeftTheMenu) {
 
 }  // namespace
 
-}  // namespace brisel::platform::linux
+}  // namespace brisel::platform::desktop

@@ -1,0 +1,73 @@
+// Modal alerts in windows of the dialog program.
+// SPDX-License-Identifier: MIT
+#include "platform/desktop/Alert.h"
+
+#include <poll.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <iterator>
+
+#include "platform/common/AlertButtons.h"
+
+namespace brisel::platform::desktop {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+constexpr int NothingPressed = -1;
+
+bool isWaiting(const DialogProcess& window) {
+    return window.state() == DialogProcess::State::Starting ||
+           window.state() == DialogProcess::State::Shown;
+}
+
+/// How long to wait for the next word of the window, in milliseconds; -1 for ever.
+int patienceWith(const DialogProcess& window, Clock::time_point latestShown) {
+    if (window.state() == DialogProcess::State::Shown) return -1;
+    const auto left = std::chrono::ceil<milliseconds>(latestShown - Clock::now());
+    return static_cast<int>(std::max(left, milliseconds(0)).count());
+}
+
+}  // namespace
+
+int Alert::runModal(const AlertContent& content) {
+    const auto buttons = common::buttonsOf(content);
+    std::vector<std::string> arguments{"alert", content.messageText, content.informativeText};
+    arguments.insert(arguments.end(), buttons.begin(), buttons.end());
+    DialogProcess window(surroundings_.dialog, arguments);
+    const auto waiting = waitFor(window);
+    const int pressed = window.pressed().value_or(NothingPressed);
+    if (pressed >= 0 && pressed < std::ssize(buttons)) return AlertFirstButtonReturn + pressed;
+    if (waiting == Waiting::Ended && !window.wasShown()) tellOtherwise(content);
+    return buttons.size() > 1 ? NothingPressed : AlertFirstButtonReturn;
+}
+
+Alert::Waiting Alert::waitFor(DialogProcess& window) const {
+    const auto latestShown = Clock::now() + surroundings_.patience;
+    while (isWaiting(window)) {
+        std::array<pollfd, 3> awaited{
+            pollfd{.fd = window.descriptor(), .events = POLLIN, .revents = 0},
+            pollfd{.fd = surroundings_.mainThread.descriptor(), .events = POLLIN, .revents = 0},
+            pollfd{.fd = surroundings_.interruption, .events = POLLIN, .revents = 0}};
+        const int ready = poll(awaited.data(), awaited.size(), patienceWith(window, latestShown));
+        if (ready < 0 && errno == EINTR) continue;
+        if (ready <= 0) return Waiting::Ended;
+        if (awaited[2].revents != 0) return Waiting::Interrupted;
+        if (awaited[1].revents != 0) surroundings_.mainThread.work();
+        if (awaited[0].revents != 0) window.takeIn();
+    }
+    return Waiting::Ended;
+}
+
+void Alert::tellOtherwise(const AlertContent& content) const {
+    surroundings_.log.log("An alert could not be shown: %@ %@", content.messageText,
+                          content.informativeText);
+    surroundings_.notifications.showCritical(content.messageText, content.informativeText);
+}
+
+}  // namespace brisel::platform::desktop

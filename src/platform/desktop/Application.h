@@ -1,0 +1,25 @@
+// The application on a Linux desktop.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "platform/common/Application.h"
+#include "platform/desktop/ModelessWindow.h"
+
+namespace brisel::platform::desktop {
+
+class Application final : public common::Application {
+  public:
+    /// `dialog` is the path of the dialog program.
+    Application(platform::SystemLog& log, std::string dialog)
+        : aboutPanel_(log, std::move(dialog)) {}
+
+    void orderFrontStandardAboutPanel() override { aboutPanel_.show({"about"}, {}, {}); }
+
+  private:
+    ModelessWindow aboutPanel_;
+};
+
+}  // namespace brisel::platform::desktop

@@ -1,0 +1,125 @@
+// A window of the dialog program.
+// SPDX-License-Identifier: MIT
+#include "platform/desktop/DialogProcess.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <charconv>
+#include <csignal>
+#include <string_view>
+#include <utility>
+
+namespace brisel::platform::desktop {
+
+namespace {
+
+// As tools/dialog/Protocol.cpp writes them.
+constexpr std::string_view ShownWord = "shown";
+constexpr std::string_view PressedWord = "pressed ";
+
+// In memory, so that writing it never waits for the reader.
+int fileWith(const std::string& text) {
+    const int file = memfd_create("brisel-dialog-input", MFD_CLOEXEC);
+    static_cast<void>(pwrite(file, text.data(), text.size(), 0) >= 0);
+    return file;
+}
+
+std::optional<int> numberIn(std::string_view text) {
+    int number = 0;
+    const auto* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
+}
+
+/// The standard streams of the program to start.
+class Streams {
+  public:
+    Streams(int input, int output) {
+        posix_spawn_file_actions_init(&actions_);
+        posix_spawn_file_actions_adddup2(&actions_, input, STDIN_FILENO);
+        posix_spawn_file_actions_adddup2(&actions_, output, STDOUT_FILENO);
+    }
+    Streams(const Streams&) = delete;
+    Streams& operator=(const Streams&) = delete;
+    ~Streams() { posix_spawn_file_actions_destroy(&actions_); }
+
+    [[nodiscard]] const posix_spawn_file_actions_t* actions() const { return &actions_; }
+
+  private:
+    posix_spawn_file_actions_t actions_{};
+};
+
+}  // namespace
+
+DialogProcess::DialogProcess(const std::string& program, const std::vector<std::string>& arguments,
+                             const std::string& input) {
+    std::vector<std::string> words{program};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    const int file = fileWith(input);
+    start(std::move(words), file);
+    close(file);
+    if (child_ == 0) state_ = State::Ended;
+}
+
+DialogProcess::~DialogProcess() {
+    end();
+}
+
+void DialogProcess::start(std::vector<std::string> words, int input) {
+    std::vector<char*> vector;
+    vector.reserve(words.size() + 1);
+    for (auto& word : words)
+        vector.push_back(word.data());
+    vector.push_back(nullptr);
+    std::array<int, 2> ends{-1, -1};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) return;
+    const Streams streams(input, ends[1]);
+    const int error =
+        posix_spawn(&child_, vector.front(), streams.actions(), nullptr, vector.data(), environ);
+    close(ends[1]);
+    output_ = ends[0];
+    if (error != 0) end();
+}
+
+void DialogProcess::takeIn() {
+    constexpr std::size_t MoreThanALine = 256;
+    std::array<char, MoreThanALine> chunk{};
+    const auto count = read(output_, chunk.data(), chunk.size());
+    if (count <= 0) {
+        end();
+        return;
+    }
+    told_.append(chunk.data(), static_cast<std::size_t>(count));
+    for (auto end = told_.find('\n'); end != std::string::npos; end = told_.find('\n')) {
+        understand(told_.substr(0, end));
+        told_.erase(0, end + 1);
+    }
+}
+
+void DialogProcess::understand(const std::string& line) {
+    if (line == ShownWord) {
+        shown_ = true;
+        state_ = State::Shown;
+    }
+    if (!line.starts_with(PressedWord)) return;
+    pressed_ = numberIn(std::string_view(line).substr(PressedWord.size()));
+    if (pressed_) state_ = State::Pressed;
+}
+
+void DialogProcess::end() {
+    if (child_ > 0) {
+        kill(child_, SIGKILL);
+        waitpid(child_, nullptr, 0);
+        child_ = 0;
+    }
+    if (output_ >= 0) close(output_);
+    output_ = -1;
+    if (state_ != State::Pressed) state_ = State::Ended;
+}
+
+}  // namespace brisel::platform::desktop

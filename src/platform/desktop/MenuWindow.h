@@ -1,0 +1,28 @@
+// The status menu in a window, for a desktop without a tray.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "platform/desktop/ModelessWindow.h"
+#include "platform/desktop/StatusItem.h"
+
+namespace brisel::platform::desktop {
+
+/// Main thread only.
+class MenuWindow {
+  public:
+    /// `dialog` is the path of the dialog program.
+    MenuWindow(StatusItem& statusItem, platform::SystemLog& log, std::string dialog)
+        : statusItem_(statusItem), window_(log, std::move(dialog)) {}
+
+    /// Shows the menu as it is now, instead of a window that is still open.
+    void show();
+
+  private:
+    StatusItem& statusItem_;
+    ModelessWindow window_;
+};
+
+}  // namespace brisel::platform::desktop

@@ -1,0 +1,84 @@
+// One program a session.
+// SPDX-License-Identifier: MIT
+#include "platform/desktop/SingleInstance.h"
+
+#include <utility>
+
+namespace brisel::platform::desktop {
+
+namespace {
+
+constexpr const char* Name = "org.brisel.Brisel";
+constexpr const char* Path = "/org/brisel/Brisel";
+constexpr const char* Interface = "org.freedesktop.Application";
+
+constexpr const char* Introspection = R"(
+<node><interface name='org.freedesktop.Application'>
+  <method name='Activate'><arg type='a{sv}' direction='in'/></method>
+</interface></node>)";
+
+// Flags and answers of org.freedesktop.DBus.RequestName (D-Bus Specification).
+constexpr guint32 DoNotQueue = 4;
+constexpr guint32 PrimaryOwner = 1;
+constexpr guint32 Exists = 3;
+
+// The first one may be held up by an alert; it gets the call all the same, only later.
+constexpr int MillisecondsToAnswer = 5000;
+
+SingleInstance::Place takeName(GDBusConnection* bus) {
+    const headless::OwnedVariant answer(g_dbus_connection_call_sync(
+        bus, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
+        g_variant_new("(su)", Name, DoNotQueue), G_VARIANT_TYPE("(u)"), G_DBUS_CALL_FLAGS_NONE, -1,
+        nullptr, nullptr));
+    guint32 place = 0;
+    if (answer) g_variant_get(answer.get(), "(u)", &place);
+    if (place == PrimaryOwner) return SingleInstance::Place::First;
+    return place == Exists ? SingleInstance::Place::Second : SingleInstance::Place::Unknown;
+}
+
+}  // namespace
+
+// The object comes before the name: who finds the name finds somebody to talk to.
+SingleInstance::SingleInstance(GDBusConnection* bus)
+    : bus_(bus), object_(exportObject()), place_(takeName(bus)) {}
+
+SingleInstance::~SingleInstance() {
+    if (object_ != 0) g_dbus_connection_unregister_object(bus_, object_);
+}
+
+guint SingleInstance::exportObject() {
+    const auto answer = [](GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar*,
+                           GVariant*, GDBusMethodInvocation* invocation, gpointer self) {
+        g_dbus_method_invocation_return_value(invocation, nullptr);
+        static_cast<SingleInstance*>(self)->noteStart();
+    };
+    static const GDBusInterfaceVTable answers{answer, nullptr, nullptr, {}};
+    auto* const node = g_dbus_node_info_new_for_xml(Introspection, nullptr);
+    const auto object = g_dbus_connection_register_object(bus_, Path, *node->interfaces, &answers,
+                                                          this, nullptr, nullptr);
+    g_dbus_node_info_unref(node);
+    return object;
+}
+
+void SingleInstance::noteStart() {
+    if (activated_) {
+        activated_();
+    } else {
+        startedMeanwhile_ = true;
+    }
+}
+
+bool SingleInstance::activateFirst() const {
+    headless::CallError error;
+    const headless::OwnedVariant answer(g_dbus_connection_call_sync(
+        bus_, Name, Path, Interface, "Activate", g_variant_new("(a{sv})", nullptr), nullptr,
+        G_DBUS_CALL_FLAGS_NO_AUTO_START, MillisecondsToAnswer, nullptr, error.receive()));
+    return answer || g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_TIMED_OUT) != FALSE;
+}
+
+void SingleInstance::listen(std::function<void()> activated) {
+    activated_ = std::move(activated);
+    if (std::exchange(startedMeanwhile_, false)) activated_();
+}
+
+}  // namespace brisel::platform::desktop

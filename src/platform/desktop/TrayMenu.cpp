@@ -1,0 +1,92 @@
+// The status menu on the session bus.
+// SPDX-License-Identifier: MIT
+#include "platform/desktop/TrayMenu.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace brisel::platform::desktop {
+
+namespace {
+
+// An underscore stands for the mnemonic of the letter after it, two for one underscore.
+std::string labelOf(const std::string& title) {
+    std::string label;
+    for (const char character : title) {
+        label += character;
+        if (character == '_') label += '_';
+    }
+    return label;
+}
+
+// The library tells hosts of a property only if its value is another one than before.
+void describe(DbusmenuMenuitem* item, const MenuEntry& entry) {
+    if (entry.kind == MenuEntry::Kind::Separator) {
+        dbusmenu_menuitem_property_set(item, DBUSMENU_MENUITEM_PROP_TYPE, "separator");
+        return;
+    }
+    const auto label = labelOf(entry.title);
+    dbusmenu_menuitem_property_set(item, DBUSMENU_MENUITEM_PROP_LABEL, label.c_str());
+    dbusmenu_menuitem_property_set_bool(item, DBUSMENU_MENUITEM_PROP_ENABLED,
+                                        entry.kind == MenuEntry::Kind::Choosable ? TRUE : FALSE);
+    dbusmenu_menuitem_property_set(item, DBUSMENU_MENUITEM_PROP_TOGGLE_TYPE,
+                                   entry.checked ? DBUSMENU_MENUITEM_TOGGLE_CHECK : "");
+    dbusmenu_menuitem_property_set_int(item, DBUSMENU_MENUITEM_PROP_TOGGLE_STATE,
+                                       entry.checked ? DBUSMENU_MENUITEM_TOGGLE_STATE_CHECKED
+                                                     : DBUSMENU_MENUITEM_TOGGLE_STATE_UNCHECKED);
+}
+
+void tellChosen(DbusmenuMenuitem* item, guint /*timestamp*/, gpointer chosen) {
+    (*static_cast<TrayMenu::Chosen*>(chosen))(dbusmenu_menuitem_get_id(item));
+}
+
+bool contains(const std::vector<MenuEntry>& entries, int number) {
+    return std::any_of(entries.begin(), entries.end(),
+                       [number](const auto& entry) { return entry.number == number; });
+}
+
+}  // namespace
+
+TrayMenu::TrayMenu(Chosen chosen) : chosen_(std::move(chosen)) {
+    dbusmenu_server_set_root(server_.get(), root_.get());
+}
+
+void TrayMenu::show(const std::vector<MenuEntry>& entries) {
+    for (auto item = items_.begin(); item != items_.end();) {
+        if (contains(entries, item->first)) {
+            ++item;
+        } else {
+            dbusmenu_menuitem_child_delete(root_.get(), item->second.get());
+            item = items_.erase(item);
+        }
+    }
+    for (const auto& entry : entries) {
+        auto& item = items_[entry.number];
+        if (!item) item = makeItem(entry);
+        describe(item.get(), entry);
+    }
+    arrange(entries);
+}
+
+headless::OwnedObject<DbusmenuMenuitem> TrayMenu::makeItem(const MenuEntry& entry) {
+    headless::OwnedObject<DbusmenuMenuitem> item(dbusmenu_menuitem_new_with_id(entry.number));
+    g_signal_connect(item.get(), DBUSMENU_MENUITEM_SIGNAL_ITEM_ACTIVATED,
+                     reinterpret_cast<GCallback>(&tellChosen), &chosen_);
+    return item;
+}
+
+void TrayMenu::arrange(const std::vector<MenuEntry>& entries) {
+    guint position = 0;
+    for (const auto& entry : entries) {
+        auto* const item = items_.at(entry.number).get();
+        if (dbusmenu_menuitem_get_parent(item) == nullptr) {
+            dbusmenu_menuitem_child_add_position(root_.get(), item, position);
+        } else if (dbusmenu_menuitem_get_position(item, root_.get()) != position) {
+            dbusmenu_menuitem_child_reorder(root_.get(), item, position);
+        }
+        ++position;
+    }
+}
+
+}  // namespace brisel::platform::desktop

@@ -1,0 +1,44 @@
+// The status menu on the session bus, as com.canonical.dbusmenu.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <libdbusmenu-glib/server.h>
+
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "platform/desktop/NumberedMenu.h"
+#include "platform/headless/GLibOwners.h"
+
+namespace brisel::platform::desktop {
+
+/// To be used on the thread that turns GLib's default context, where the library works.
+class TrayMenu {
+  public:
+    static constexpr const char* ObjectPath = "/MenuBar";
+
+    /// Gets the number of the entry that somebody has chosen.
+    using Chosen = std::function<void(int number)>;
+
+    explicit TrayMenu(Chosen chosen);
+    TrayMenu(const TrayMenu&) = delete;
+    TrayMenu& operator=(const TrayMenu&) = delete;
+    ~TrayMenu() = default;
+
+    /// Shows these entries instead of those before. Hosts are told what has changed.
+    void show(const std::vector<MenuEntry>& entries);
+
+  private:
+    using Items = std::map<int, headless::OwnedObject<DbusmenuMenuitem>>;
+
+    [[nodiscard]] headless::OwnedObject<DbusmenuMenuitem> makeItem(const MenuEntry& entry);
+    void arrange(const std::vector<MenuEntry>& entries);
+
+    Chosen chosen_;
+    headless::OwnedObject<DbusmenuServer> server_{dbusmenu_server_new(ObjectPath)};
+    headless::OwnedObject<DbusmenuMenuitem> root_{dbusmenu_menuitem_new_with_id(0)};
+    Items items_;
+};
+
+}  // namespace brisel::platform::desktop

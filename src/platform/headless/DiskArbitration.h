@@ -1,0 +1,66 @@
+// Disk events, unmounts and mounts through UDisks2.
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "platform/common/Signal.h"
+#include "platform/DiskArbitration.h"
+#include "platform/headless/DiskService.h"
+#include "platform/headless/ReadWriteMount.h"
+#include "platform/SystemLog.h"
+
+namespace brisel::platform::headless {
+
+/// A disk that carries a file system counts as one with a mountable volume, loop devices and
+/// system disks included, unless UDisks2 says to ignore it. A volume that nothing has mounted yet
+/// counts as unmounted when it is asked to be: here no system mounts every volume by itself. A
+/// volume that somebody else mounts is reported as gone and appeared, so that what the program
+/// knows of it is true again; one that somebody else unmounts is reported as gone.
+class DiskArbitration final : public platform::DiskArbitration {
+  public:
+    explicit DiskArbitration(platform::SystemLog& log) : log_(log) {}
+
+    void createSession() override;
+    [[nodiscard]] Subscription registerDiskAppearedCallback(DiskCallback callback) override;
+    [[nodiscard]] Subscription registerDiskDisappearedCallback(DiskCallback callback) override;
+    void scheduleWithRunLoop() override;
+    [[nodiscard]] std::optional<Disk> diskFromBSDName(
+        const std::optional<std::string>& name) override;
+    [[nodiscard]] std::optional<Disk> diskFromVolumePath(
+        const std::optional<FileURL>& path) override;
+    [[nodiscard]] DiskDescription copyDescription(const Disk& disk) override;
+    void unmount(const Disk& disk, Completion completion) override;
+    /// Mounts as `ReadWriteMount` does, with the `mountOptions` of these arguments. Reports the
+    /// disk as disappeared before a successful completion.
+    void mountWithArguments(const Disk& disk, const std::vector<std::string>& arguments,
+                            Completion completion) override;
+
+  private:
+    using Disks = std::map<std::string, DiskDescription>;
+
+    /// Reports what has come and gone since the last time.
+    void compare();
+    void compareMounts(const std::string& name, const DiskDescription& before,
+                       const DiskDescription& now);
+    void finishMount(const Disk& disk, const std::string& mountPoint, const Completion& completion);
+    /// Ends a request that leaves the disk unmounted, or as it was.
+    void finish(const Disk& disk, const std::optional<Dissenter>& dissenter,
+                const Completion& completion);
+
+    platform::SystemLog& log_;
+    std::unique_ptr<DiskService> service_;
+    std::unique_ptr<ReadWriteMount> readWriteMount_;
+    Subscription nextComparison_;
+    bool scheduled_ = false;
+    /// How many of the program's own requests are under way, by BSD name.
+    std::map<std::string, int> requests_;
+    /// What was reported as appeared, with the newest description of each.
+    Disks reported_;
+    common::Signal<const Disk&> appeared_;
+    common::Signal<const Disk&> disappeared_;
+};
+
+}  // namespace brisel::platform::headless

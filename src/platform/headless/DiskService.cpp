@@ -1,0 +1,138 @@
+// The disks that UDisks2 knows, and calls on their file systems.
+// SPDX-License-Identifier: MIT
+#include "platform/headless/DiskService.h"
+
+#include <memory>
+#include <utility>
+
+#include "platform/headless/DiskDescriptions.h"
+
+namespace brisel::platform::headless {
+
+namespace {
+
+std::string textOrEmpty(const char* text) {
+    return text != nullptr ? text : "";
+}
+
+BlockProperties propertiesOf(UDisksObject* object, UDisksBlock* block) {
+    BlockProperties properties;
+    properties.device = textOrEmpty(udisks_block_get_device(block));
+    properties.idType = textOrEmpty(udisks_block_get_id_type(block));
+    properties.idLabel = textOrEmpty(udisks_block_get_id_label(block));
+    properties.idUUID = textOrEmpty(udisks_block_get_id_uuid(block));
+    properties.hintIgnore = udisks_block_get_hint_ignore(block) != FALSE;
+    if (auto* const partition = udisks_object_peek_partition(object)) {
+        properties.partitionUUID = textOrEmpty(udisks_partition_get_uuid(partition));
+    }
+    if (auto* const filesystem = udisks_object_peek_filesystem(object)) {
+        properties.filesystem = true;
+        const auto* const* const points = udisks_filesystem_get_mount_points(filesystem);
+        if (points != nullptr && *points != nullptr) properties.mountPoint = *points;
+    }
+    return properties;
+}
+
+DiskService::CallFailure failureOf(const GError* error) {
+    const OwnedText name(g_dbus_error_get_remote_error(error));
+    return {.errorName = textOrEmpty(name.get()), .message = error->message};
+}
+
+DiskService::CallFailure noSuchDisk() {
+    return {.errorName = "org.freedesktop.DBus.Error.UnknownObject",
+            .message = "The disk is not there."};
+}
+
+}  // namespace
+
+/// A call under way. Its end is not told once the service object has gone, which the cancellable
+/// says; the error does not tell, for a service can answer with that one too.
+struct DiskService::Call {
+    Call(Done whenDone, GCancellable* service)
+        : done(std::move(whenDone)), cancellable(G_CANCELLABLE(g_object_ref(service))) {}
+
+    Done done;
+    OwnedObject<GCancellable> cancellable;
+
+    void end(const CallError& error, const std::string& result) const {
+        if (g_cancellable_is_cancelled(cancellable.get()) != FALSE) return;
+        done(error ? std::optional(failureOf(error.get())) : std::nullopt, result);
+    }
+};
+
+DiskService::DiskService(platform::SystemLog& log, UDisksObjects::Changed changed)
+    : objects_(log, std::move(changed)) {}
+
+DiskService::~DiskService() {
+    g_cancellable_cancel(cancellable_.get());
+}
+
+std::map<std::string, DiskDescription> DiskService::disks() const {
+    std::map<std::string, DiskDescription> found;
+    objects_.forEachBlock([&found](UDisksObject* object, UDisksBlock* block) {
+        auto description = describe(propertiesOf(object, block));
+        auto name = textOf(description.mediaBSDName);
+        found.insert_or_assign(std::move(name), std::move(description));
+    });
+    return found;
+}
+
+OwnedObject<UDisksFilesystem> DiskService::filesystem(const std::string& device) const {
+    OwnedObject<UDisksFilesystem> found;
+    objects_.forEachBlock([&](UDisksObject* object, UDisksBlock* block) {
+        if (bsdName(textOrEmpty(udisks_block_get_device(block))) != device) return;
+        found.reset(udisks_object_get_filesystem(object));
+    });
+    return found;
+}
+
+void DiskService::unmount(const std::string& device, Done done) {
+    const auto target = filesystem(device);
+    if (!target) {
+        done(noSuchDisk(), {});
+        return;
+    }
+    // Writing back what is cached can take longer than any usual time limit of a call.
+    g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(target.get()), G_MAXINT);
+    udisks_filesystem_call_unmount(target.get(), g_variant_new("a{sv}", nullptr),
+                                   cancellable_.get(), &DiskService::finishUnmount,
+                                   new Call(std::move(done), cancellable_.get()));
+}
+
+void DiskService::mount(const std::string& device, const Mounting& mounting, Done done) {
+    const auto target = filesystem(device);
+    if (!target) {
+        done(noSuchDisk(), {});
+        return;
+    }
+    GVariantBuilder builder;
+    g_variant_builder_init(&builder, G_VARIANT_TYPE_VARDICT);
+    g_variant_builder_add(&builder, "{sv}", "options",
+                          g_variant_new_string(mounting.options.c_str()));
+    if (!mounting.driver.empty()) {
+        g_variant_builder_add(&builder, "{sv}", "fstype",
+                              g_variant_new_string(mounting.driver.c_str()));
+    }
+    g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(target.get()), G_MAXINT);
+    udisks_filesystem_call_mount(target.get(), g_variant_builder_end(&builder), cancellable_.get(),
+                                 &DiskService::finishMount,
+                                 new Call(std::move(done), cancellable_.get()));
+}
+
+void DiskService::finishUnmount(GObject* source, GAsyncResult* result, gpointer data) {
+    const std::unique_ptr<Call> call(static_cast<Call*>(data));
+    CallError error;
+    udisks_filesystem_call_unmount_finish(UDISKS_FILESYSTEM(source), result, error.receive());
+    call->end(error, {});
+}
+
+void DiskService::finishMount(GObject* source, GAsyncResult* result, gpointer data) {
+    const std::unique_ptr<Call> call(static_cast<Call*>(data));
+    CallError error;
+    char* path = nullptr;
+    udisks_filesystem_call_mount_finish(UDISKS_FILESYSTEM(source), &path, result, error.receive());
+    const OwnedText owned(path);
+    call->end(error, textOrEmpty(path));
+}
+
+}  // namespace brisel::platform::headless

@@ -1,0 +1,116 @@
+// Mounts NTFS volumes read-write through UDisks2, with whichever driver is there.
+// SPDX-License-Identifier: MIT
+#include "platform/headless/ReadWriteMount.h"
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "platform/headless/UDisksErrors.h"
+#include "platform/headless/VolumeProbe.h"
+
+namespace brisel::platform::headless {
+
+namespace {
+
+constexpr std::array<std::pair<std::string_view, std::string_view>, 3> KnownArguments{
+    {{"rw", "rw"}, {"noatime", "noatime"}, {"nobrowse", "x-gvfs-hide"}}};
+
+// UDisks2's names of the drivers: ntfs-3g goes by the file system's own name.
+constexpr const char* FuseDriver = "ntfs";
+constexpr const char* KernelDriver = "ntfs3";
+// Keeps ntfs-3g from clearing the log of a volume that was not unmounted cleanly. ntfs3 refuses
+// such a volume by itself and has no such option.
+constexpr const char* NoRecovery = "norecover";
+
+std::string withNoRecovery(const std::string& options) {
+    return options.empty() ? NoRecovery : options + "," + NoRecovery;
+}
+
+// The answers of a driver that is not installed, that does not know an option, or that cannot mount
+// this volume. UDisks2 does not tell these apart, so another driver is worth a try.
+bool isOfDriver(const DiskService::CallFailure& failure) {
+    return failure.errorName == "org.freedesktop.UDisks2.Error.OptionNotPermitted" ||
+           failure.errorName == "org.freedesktop.UDisks2.Error.Failed";
+}
+
+std::string reasonToTakeBack(const std::string& mountPoint) {
+    if (isHibernated(mountPoint)) {
+        return "Windows is hibernated on it, or was shut down with its fast start-up. Start "
+               "Windows and shut it down fully";
+    }
+    return "it came up read-only. The device is write-protected, or the driver found the volume "
+           "unsafe to write";
+}
+
+}  // namespace
+
+std::string mountOptions(const std::vector<std::string>& arguments) {
+    std::string options;
+    for (const auto& argument : arguments) {
+        for (const auto& [known, option] : KnownArguments) {
+            if (argument != known) continue;
+            if (!options.empty()) options += ',';
+            options += option;
+        }
+    }
+    return options;
+}
+
+void ReadWriteMount::mount(const std::string& device, const std::string& options, Done done) {
+    tryFuseDriver({.device = device, .options = options, .done = std::move(done)});
+}
+
+// Each try names its driver: by itself UDisks2 2.10 holds the options against ntfs3's list first,
+// and 2.9 against none. Which drivers there are is left to the answers, because the kernel lists
+// ntfs3 only once it has been loaded.
+void ReadWriteMount::tryFuseDriver(const Request& request) {
+    service_.mount(request.device,
+                   {.options = withNoRecovery(request.options), .driver = FuseDriver},
+                   [this, request](const auto& failure, const auto& mountPoint) {
+                       if (failure && isOfDriver(*failure)) {
+                           log_.log(UDisksFailure, request.device, failure->message);
+                           tryKernelDriver(request, *failure);
+                       } else {
+                           finish(request, failure, mountPoint);
+                       }
+                   });
+}
+
+// Where neither driver mounts the volume, the first answer counts: the second may say no more than
+// that there is no ntfs3.
+void ReadWriteMount::tryKernelDriver(const Request& request, const Failure& first) {
+    service_.mount(request.device, {.options = request.options, .driver = KernelDriver},
+                   [this, request, first](const auto& failure, const auto& mountPoint) {
+                       if (failure && isOfDriver(*failure)) {
+                           log_.log(UDisksFailure, request.device, failure->message);
+                           request.done(dissenterFor(first.errorName), {});
+                       } else {
+                           finish(request, failure, mountPoint);
+                       }
+                   });
+}
+
+void ReadWriteMount::finish(const Request& request, const std::optional<Failure>& failure,
+                            const std::string& mountPoint) {
+    if (failure) {
+        log_.log(UDisksFailure, request.device, failure->message);
+        request.done(dissenterFor(failure->errorName), {});
+    } else if (!isHibernated(mountPoint) && takesWriting(mountPoint)) {
+        request.done(std::nullopt, mountPoint);
+    } else {
+        takeBack(request, mountPoint);
+    }
+}
+
+// ntfs-3g falls back to a read-only mount without an error when the volume is hibernated or
+// otherwise unsafe to write. ntfs3 does not look for a hibernated Windows.
+void ReadWriteMount::takeBack(const Request& request, const std::string& mountPoint) {
+    log_.log("%@ is unmounted again: %@.", request.device, reasonToTakeBack(mountPoint));
+    service_.unmount(request.device, [this, request](const auto& failure, const auto& /*result*/) {
+        if (failure) log_.log(UDisksFailure, request.device, failure->message);
+        request.done(Dissenter{.status = DAReturn::NotWritable}, {});
+    });
+}
+
+}  // namespace brisel::platform::headless

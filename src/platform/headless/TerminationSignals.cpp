@@ -1,0 +1,49 @@
+// The signals by which a program is asked to end.
+// SPDX-License-Identifier: MIT
+#include "platform/headless/TerminationSignals.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+
+namespace brisel::platform::headless {
+
+namespace {
+
+constexpr std::array EndingSignals{SIGINT, SIGTERM, SIGHUP};
+
+// Global, because a signal handler reaches nothing else.
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
+volatile std::sig_atomic_t writeEnd = -1;
+
+extern "C" void noteSignal(int /*signal*/) {
+    const int saved = errno;
+    const char anything = 0;
+    static_cast<void>(write(writeEnd, &anything, sizeof anything) > 0);
+    errno = saved;
+}
+
+}  // namespace
+
+TerminationSignals::TerminationSignals() {
+    std::array<int, 2> ends{-1, -1};
+    static_cast<void>(pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) == 0);
+    readEnd_ = ends[0];
+    writeEnd = ends[1];
+    struct sigaction action = {};
+    action.sa_handler = &noteSignal;
+    for (const int signal : EndingSignals)
+        sigaction(signal, &action, nullptr);
+}
+
+TerminationSignals::~TerminationSignals() {
+    for (const int signal : EndingSignals)
+        std::signal(signal, SIG_DFL);
+    close(readEnd_);
+    close(writeEnd);
+}
+
+}  // namespace brisel::platform::headless

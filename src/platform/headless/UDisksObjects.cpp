@@ -1,0 +1,179 @@
+// UDisks2's objects on the system bus.
+// SPDX-License-Identifier: MIT
+#include "platform/headless/UDisksObjects.h"
+
+#include <chrono>
+#include <utility>
+
+#include "platform/headless/MainContext.h"
+
+namespace brisel::platform::headless {
+
+namespace {
+
+constexpr const char* BusName = "org.freedesktop.UDisks2";
+constexpr const char* ObjectPath = "/org/freedesktop/UDisks2";
+
+// One signature serves all signals of the object manager: none of their arguments is read.
+void anythingChanged(gpointer changed) {
+    (*static_cast<UDisksObjects::Changed*>(changed))();
+}
+
+OwnedObject<GDBusConnection> connectToSystemBus(CallError& error) {
+    const OwnedText address(
+        g_dbus_address_get_for_bus_sync(G_BUS_TYPE_SYSTEM, nullptr, error.receive()));
+    if (!address) return nullptr;
+    // A connection of its own: the process's shared one ends the process when the bus goes.
+    const auto flags =
+        static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+                                          G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
+    return OwnedObject<GDBusConnection>(g_dbus_connection_new_for_address_sync(
+        address.get(), flags, nullptr, nullptr, error.receive()));
+}
+
+GDBusConnection* connectionOf(GDBusObjectManager* objects) {
+    return g_dbus_object_manager_client_get_connection(G_DBUS_OBJECT_MANAGER_CLIENT(objects));
+}
+
+}  // namespace
+
+/// Who has asked, and has gone when it is cancelled; the error does not tell, for a service can
+/// answer with that one too.
+struct UDisksObjects::Question {
+    UDisksObjects& asking;
+    OwnedObject<GCancellable> cancellable;
+};
+
+UDisksObjects::UDisksObjects(platform::SystemLog& log, Changed changed)
+    : log_(log), changed_([this, changed = std::move(changed)] {
+          noteOwner();
+          changed();
+      }) {
+    connect();
+}
+
+UDisksObjects::~UDisksObjects() {
+    g_cancellable_cancel(cancellable_.get());
+}
+
+void UDisksObjects::connect() {
+    CallError error;
+    const auto connection = connectToSystemBus(error);
+    if (!connection) {
+        tryAgain(error.message());
+        return;
+    }
+    // A service that answers this has been started, by the bus if need be, and its loop turns: the
+    // same question will be answered once more, without delay.
+    g_dbus_connection_call(
+        connection.get(), BusName, ObjectPath, "org.freedesktop.DBus.ObjectManager",
+        "GetManagedObjects", nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
+        &UDisksObjects::finishFirstQuestion,
+        new Question{*this,
+                     OwnedObject<GCancellable>(G_CANCELLABLE(g_object_ref(cancellable_.get())))});
+}
+
+void UDisksObjects::finishFirstQuestion(GObject* connection, GAsyncResult* result, gpointer data) {
+    const std::unique_ptr<Question> question(static_cast<Question*>(data));
+    CallError error;
+    const OwnedVariant answer(
+        g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, error.receive()));
+    if (g_cancellable_is_cancelled(question->cancellable.get()) != FALSE) return;
+    auto& asking = question->asking;
+    if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_TIMED_OUT) != FALSE) {
+        asking.tryAgain(error.message());
+    } else {
+        asking.fetch(G_DBUS_CONNECTION(connection));
+    }
+}
+
+// At once, though there is an asynchronous way: that one sets the objects up in a thread of GLib's,
+// and their signals would come in whatever thread serves the default main context.
+void UDisksObjects::fetch(GDBusConnection* connection) {
+    CallError error;
+    auto* const objects = udisks_object_manager_client_new_sync(
+        connection, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_DO_NOT_AUTO_START, BusName, ObjectPath,
+        cancellable_.get(), error.receive());
+    if (objects != nullptr) {
+        watch(objects);
+    } else {
+        tryAgain(error.message());
+    }
+}
+
+void UDisksObjects::watch(GDBusObjectManager* objects) {
+    objects_.reset(objects);
+    for (const char* const signal :
+         {"object-added", "object-removed", "interface-added", "interface-removed",
+          "interface-proxy-properties-changed", "notify::name-owner"}) {
+        connections_.emplace_back(objects_.get(), signal, anythingChanged, &changed_);
+    }
+    connections_.emplace_back(
+        connectionOf(objects_.get()), "closed",
+        [](gpointer service) { static_cast<UDisksObjects*>(service)->disconnect(); }, this);
+    changed_();
+}
+
+void UDisksObjects::disconnect() {
+    // Not at once: this is called by a signal of what is to go.
+    nextTry_ = whenMainLoopTurns([this] {
+        connections_.clear();
+        objects_.reset();
+        tryAgain("The system bus has closed the connection.");
+    });
+}
+
+void UDisksObjects::tryAgain(const std::string& reason) {
+    constexpr std::chrono::seconds Pause{3};
+    if (std::exchange(toldThere_, false)) {
+        log_.log("No disk can be watched, UDisks2 cannot be reached: %@", reason);
+    }
+    nextTry_ = RunLoop().scheduledTimer(Pause, [this] {
+        const auto thisTry = std::move(nextTry_);
+        connect();
+    });
+}
+
+bool UDisksObjects::areThere() const {
+    if (!objects_) return false;
+    const OwnedText owner(
+        g_dbus_object_manager_client_get_name_owner(G_DBUS_OBJECT_MANAGER_CLIENT(objects_.get())));
+    return owner != nullptr;
+}
+
+void UDisksObjects::noteOwner() {
+    const bool there = areThere();
+    if (toldThere_ != there) tell(there);
+    toldThere_ = there;
+    wasThere_ = wasThere_ || there;
+}
+
+void UDisksObjects::tell(bool there) {
+    if (there) {
+        log_.log("The disk service UDisks2 is %@.", wasThere_ ? "back" : "there");
+        return;
+    }
+    log_.log("The disk service UDisks2 %@; waiting for it.",
+             wasThere_ ? "has gone" : "is not there");
+    askForRestart();
+}
+
+// The bus starts the service if it can; its answer does not matter, the coming name does.
+void UDisksObjects::askForRestart() const {
+    g_dbus_connection_call(connectionOf(objects_.get()), "org.freedesktop.DBus",
+                           "/org/freedesktop/DBus", "org.freedesktop.DBus", "StartServiceByName",
+                           g_variant_new("(su)", BusName, 0), nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
+                           nullptr, nullptr, nullptr);
+}
+
+void UDisksObjects::forEachBlock(
+    const std::function<void(UDisksObject*, UDisksBlock*)>& visit) const {
+    if (!objects_) return;
+    const OwnedObjectList objects(g_dbus_object_manager_get_objects(objects_.get()));
+    for (const auto* node = objects.get(); node != nullptr; node = node->next) {
+        auto* const object = UDISKS_OBJECT(node->data);
+        if (auto* const block = udisks_object_peek_block(object)) visit(object, block);
+    }
+}
+
+}  // namespace brisel::platform::headless

@@ -1,0 +1,135 @@
+// The preferences in a key file.
+// SPDX-License-Identifier: MIT
+#include "platform/headless/UserDefaults.h"
+
+#include <filesystem>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "platform/headless/GLibOwners.h"
+
+namespace brisel::platform::headless {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* Group = "Brisel";
+constexpr int PrivateFolder = 0700;
+
+std::string freeNameBeside(const std::string& path) {
+    std::error_code code;
+    std::string name = path + ".malformed";
+    for (int number = 2; fs::exists(name, code); ++number) {
+        name = path + ".malformed-" + std::to_string(number);
+    }
+    return name;
+}
+
+}  // namespace
+
+UserDefaults::UserDefaults(platform::SystemLog& log, std::string path)
+    : log_(log), path_(std::move(path)) {
+    load();
+}
+
+std::string UserDefaults::defaultPath() {
+    return std::string(g_get_user_config_dir()) + "/brisel/preferences.conf";
+}
+
+void UserDefaults::load() {
+    std::error_code code;
+    if (!fs::exists(fs::symlink_status(path_, code))) return;
+    // What stands behind a link is the file to replace when it is written.
+    if (const auto target = fs::canonical(path_, code); !code) path_ = target;
+    const auto complaint = read();
+    if (complaint.empty()) return;
+    log_.log("The preferences in %@ cannot be read: %@", path_, complaint);
+    file_.reset(g_key_file_new());
+    setAside();
+}
+
+std::string UserDefaults::read() {
+    std::error_code code;
+    if (!fs::is_regular_file(path_, code)) return "It is no file.";
+    CallError error;
+    char* text = nullptr;
+    gsize length = 0;
+    if (g_file_get_contents(path_.c_str(), &text, &length, error.receive()) == FALSE) {
+        return error.message();
+    }
+    const OwnedText owned(text);
+    // GLib takes a null byte for the end of a line and would lose what follows.
+    if (std::string_view(text, length).find('\0') != std::string_view::npos) {
+        return "It holds null bytes.";
+    }
+    g_key_file_load_from_data(file_.get(), text, length, G_KEY_FILE_KEEP_COMMENTS, error.receive());
+    return error ? error.message() : "";
+}
+
+void UserDefaults::setAside() {
+    const auto name = freeNameBeside(path_);
+    std::error_code code;
+    fs::rename(path_, name, code);
+    mayWrite_ = !code;
+    if (mayWrite_) {
+        log_.log("They are kept as %@; starting on defaults.", name);
+    } else {
+        log_.log("They stay where they are; starting on defaults, which will not be saved.");
+    }
+}
+
+void UserDefaults::registerDefaults(const std::map<std::string, bool>& defaults) {
+    for (const auto& [key, value] : defaults)
+        registered_.insert_or_assign(key, value);
+}
+
+bool UserDefaults::boolForKey(std::string_view key) const {
+    CallError error;
+    const bool stored = g_key_file_get_boolean(file_.get(), Group, std::string(key).c_str(),
+                                               error.receive()) != FALSE;
+    if (!error) return stored;
+    const auto found = registered_.find(key);
+    return found != registered_.end() && found->second;
+}
+
+UserDefaults::StringArray UserDefaults::stringArrayForKey(std::string_view key) const {
+    gsize count = 0;
+    const std::unique_ptr<char*, decltype(&g_strfreev)> texts(
+        g_key_file_get_string_list(file_.get(), Group, std::string(key).c_str(), &count, nullptr),
+        &g_strfreev);
+    if (!texts) return nullptr;
+    return std::make_shared<const std::vector<std::string>>(texts.get(), texts.get() + count);
+}
+
+void UserDefaults::setBool(std::string_view key, bool value) {
+    g_key_file_set_boolean(file_.get(), Group, std::string(key).c_str(), value ? TRUE : FALSE);
+    changed_ = true;
+    synchronize();
+}
+
+void UserDefaults::setStringArray(std::string_view key, StringArray value) {
+    std::vector<const char*> texts;
+    for (const auto& text : *value)
+        texts.push_back(text.c_str());
+    // GLib wants a vector even for no texts at all.
+    texts.push_back(nullptr);
+    g_key_file_set_string_list(file_.get(), Group, std::string(key).c_str(), texts.data(),
+                               texts.size() - 1);
+    changed_ = true;
+    synchronize();
+}
+
+void UserDefaults::synchronize() {
+    if (!changed_ || !mayWrite_) return;
+    g_mkdir_with_parents(fs::path(path_).parent_path().c_str(), PrivateFolder);
+    CallError error;
+    if (g_key_file_save_to_file(file_.get(), path_.c_str(), error.receive()) == FALSE) {
+        log_.log("The preferences cannot be written: %@", error.message());
+        return;
+    }
+    changed_ = false;
+}
+
+}  // namespace brisel::platform::headless
