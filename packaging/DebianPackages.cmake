@@ -19,11 +19,11 @@ set(CPACK_COMPONENT_BRISEL_DESCRIPTION
 "mount NTFS volumes read-write, from the tray
 Brisel gives write access to NTFS disks. When one is plugged in, a
 notification asks whether to remount it read-write. A tray icon shows the
-state of the volume; its menu opens, remounts and unmounts it, and can skip
+state of the volume. Its menu opens, remounts and unmounts it, and can skip
 the question next time.
 
 It mounts through UDisks2, without root rights of its own. brisel-console
-runs in a terminal; brisel-simulator runs the program on a simulated Mac.")
+runs in a terminal. brisel-simulator runs the program on a simulated Mac.")
 set(CPACK_DEBIAN_BRISEL_PACKAGE_NAME brisel)
 set(CPACK_DEBIAN_BRISEL_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_BRISEL_PACKAGE_DEPENDS "udisks2")
