@@ -2,7 +2,7 @@
 set(CPACK_GENERATOR DEB)
 set(CPACK_COMPONENTS_ALL brisel mount-tool)
 set(CPACK_STRIP_FILES ON)
-# Folders that come about on the way; a umask must not show in a package.
+# For intermediate folders: keeps the umask out of the package.
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
@@ -17,32 +17,31 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(CPACK_COMPONENT_BRISEL_DESCRIPTION
 "mount NTFS volumes read-write, from the tray
-Brisel notices every NTFS volume that is attached, offers to mount it
-read-write, and does so when you say yes, or by itself for volumes that you
-chose. It is an icon in the tray that tells by shape and colour what goes on,
-and a menu.
+Brisel gives write access to NTFS disks. When one is plugged in, a
+notification asks whether to remount it read-write. A tray icon shows the
+state of the volume. Its menu opens, remounts and unmounts it, and can skip
+the question next time.
 
-It mounts through UDisks2, and nothing of it runs as root. For machines
-without a desktop there is brisel-console, for trying things out
-brisel-simulator, the whole program on a simulated machine.")
+It mounts through UDisks2, without root rights of its own. brisel-console
+runs in a terminal. brisel-simulator runs the program on a simulated Mac.")
 set(CPACK_DEBIAN_BRISEL_PACKAGE_NAME brisel)
 set(CPACK_DEBIAN_BRISEL_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_BRISEL_PACKAGE_DEPENDS "udisks2")
 set(CPACK_DEBIAN_BRISEL_PACKAGE_RECOMMENDS "ntfs-3g, polkitd, xfce4-notifyd | notification-daemon")
-# Not more than suggested: without it no code of Brisel runs as root.
+# Suggested only: without it no code of Brisel runs as root.
 set(CPACK_DEBIAN_BRISEL_PACKAGE_SUGGESTS "brisel-mount-tool")
 
 set(CPACK_COMPONENT_MOUNT-TOOL_DESCRIPTION
 "mount NTFS volumes read-write, for Brisel, as root
-With this tool Brisel mounts NTFS volumes in a folder of the user's own,
-~/.brisel, instead of through UDisks2.
+With this tool Brisel mounts NTFS volumes in the user's folder ~/.brisel
+instead of through UDisks2.
 
-Polkit asks for an administrator's password first. The tool then runs as
-root: it takes an NTFS block device and an empty folder of the user who asks,
-and nothing else, and never forces a mount.")
+The tool runs as root after polkit has asked for an administrator's password.
+It accepts only an NTFS block device and an empty folder of the requesting
+user, and never forces a mount.")
 set(CPACK_DEBIAN_MOUNT-TOOL_PACKAGE_NAME brisel-mount-tool)
 set(CPACK_DEBIAN_MOUNT-TOOL_PACKAGE_SECTION admin)
-# The program and its tool agree on a command line.
+# The command line between them may change with the version.
 set(CPACK_DEBIAN_MOUNT-TOOL_PACKAGE_DEPENDS
     "brisel (= ${PROJECT_VERSION}), ntfs-3g, pkexec, polkitd")
 set(CPACK_DEBIAN_MOUNT-TOOL_PACKAGE_ENHANCES "brisel")

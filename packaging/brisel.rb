@@ -1,4 +1,4 @@
-# How Homebrew installs Brisel.app from its disk image; docs/macos.md tells how the checksum gets in.
+# Homebrew cask of Brisel.app; docs/macos.md says how a release fills in the checksum.
 # SPDX-License-Identifier: MIT
 cask "brisel" do
   version "1.0.0"
@@ -16,7 +16,7 @@ cask "brisel" do
   uninstall launchctl: "org.brisel.BriselHelper",
             quit:      "org.brisel.Brisel"
 
-  # The folder may hold volumes that are mounted: it goes only when it is empty.
+  # ~/.brisel may hold mounted volumes: remove it only if empty.
   zap trash: "~/Library/Preferences/org.brisel.Brisel.plist",
       rmdir: "~/.brisel"
 end
