@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/terminal/Terminal.h"
 
-#include <glib-unix.h>
 #include <poll.h>
 #include <unistd.h>
 
@@ -12,22 +11,9 @@
 #include <utility>
 
 #include "platform/common/VisibleText.h"
+#include "platform/headless/MainContext.h"
 
 namespace brisel::platform::terminal {
-
-namespace {
-
-using Handler = std::function<bool()>;
-
-gboolean callHandler(gint /*descriptor*/, GIOCondition /*condition*/, gpointer data) {
-    return (*static_cast<Handler*>(data))() ? G_SOURCE_CONTINUE : G_SOURCE_REMOVE;
-}
-
-void deleteHandler(gpointer data) {
-    delete static_cast<Handler*>(data);
-}
-
-}  // namespace
 
 std::optional<std::size_t> numberUpTo(const std::string& text, std::size_t most) {
     std::size_t number = 0;
@@ -57,9 +43,8 @@ std::optional<std::string> Terminal::ask(std::string_view question) {
 
 bool Terminal::wait() const {
     constexpr int NoLimit = -1;
-    std::array<pollfd, 2> awaited{
-        pollfd{.fd = input_, .events = POLLIN, .revents = 0},
-        pollfd{.fd = terminationSignals_, .events = POLLIN, .revents = 0}};
+    std::array<pollfd, 2> awaited{pollfd{.fd = input_, .events = POLLIN, .revents = 0},
+                                  pollfd{.fd = termination_, .events = POLLIN, .revents = 0}};
     while (poll(awaited.data(), awaited.size(), NoLimit) < 0 && errno == EINTR) {
     }
     return awaited[1].revents == 0;
@@ -68,31 +53,22 @@ bool Terminal::wait() const {
 Subscription Terminal::handleLines(LineHandler handler) {
     handler_ = std::move(handler);
     handOutSoon();
-    auto* const readable = new Handler([this] {
+    reading_ = headless::whenReadable(input_, [this] {
         readMore();
         handOutLines();
-        return !ended_;
+        if (ended_) reading_.reset();
     });
-    const guint source = g_unix_fd_add_full(
-        G_PRIORITY_DEFAULT, input_, static_cast<GIOCondition>(G_IO_IN | G_IO_HUP | G_IO_ERR),
-        &callHandler, readable, &deleteHandler);
-    return Subscription([this, source] {
+    return Subscription([this] {
         handler_ = nullptr;
-        if (!ended_) g_source_remove(source);
-        while (g_source_remove_by_user_data(this) != FALSE) {
-        }
+        reading_.reset();
+        handingOut_.reset();
     });
 }
 
 // More lines may have come with the one that was asked for, and nothing else would look at them.
 void Terminal::handOutSoon() {
     if (!handler_ || typed_.empty()) return;
-    g_idle_add(
-        [](gpointer terminal) -> gboolean {
-            static_cast<Terminal*>(terminal)->handOutLines();
-            return G_SOURCE_REMOVE;
-        },
-        this);
+    handingOut_ = headless::whenMainLoopTurns([this] { handOutLines(); });
 }
 
 void Terminal::handOutLines() {

@@ -19,10 +19,10 @@ class Terminal {
     /// A line without its end; none at the end of input.
     using LineHandler = std::function<void(const std::optional<std::string>& line)>;
 
-    /// `input` is a descriptor, which stays the caller's. So is `interruption`, or -1 for none:
+    /// `input` is a descriptor, which stays the caller's. So is `termination`, or -1 for none:
     /// once it can be read from, every question counts as unanswered.
-    Terminal(int input, std::ostream& output, int interruption = -1)
-        : input_(input), terminationSignals_(interruption), output_(output) {}
+    Terminal(int input, std::ostream& output, int termination = -1)
+        : input_(input), termination_(termination), output_(output) {}
 
     /// Prints the text and a line end. Control characters, which a volume's label may hold, are
     /// made visible, so that nothing but the program's own lines steers the terminal.
@@ -42,11 +42,13 @@ class Terminal {
     void handOutSoon();
 
     int input_;
-    int terminationSignals_;
+    int termination_;
     std::ostream& output_;
     std::string typed_;
     bool ended_ = false;
     LineHandler handler_;
+    Subscription reading_;
+    Subscription handingOut_;
 };
 
 /// The number if the text is one from 1 to `most`.
