@@ -2,18 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "simulator/DirectProgram.h"
 
-#include "app/MainMenu.h"
+#include "app/Launch.h"
 #include "platform/simulated/ProgramEnded.h"
 
 namespace brisel::simulator {
 
 void DirectProgram::start() {
-    AppDelegate::initialize(mac_.platform);
-    delegate_ = std::make_shared<AppDelegate>(
-        mac_.platform, [this]() -> NTFSVolumeManager& { return sharedManager(); });
-    mac_.statusMenu.load(mainMenuItems(delegate_, mac_.platform));
-    mac_.application.setTerminationStep(
-        [delegate = delegate_] { delegate->applicationWillTerminate(); });
+    delegate_ = loadInterface(mac_, [this]() -> NTFSVolumeManager& { return sharedManager(); });
     delegate_->awakeFromNib();
 }
 

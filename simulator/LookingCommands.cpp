@@ -19,7 +19,7 @@ std::string itemLine(const platform::MenuItem& item) {
     line += platform::stringWithFormat(R"( title="%@")", item.title);
     if (!item.action.empty()) line += platform::stringWithFormat(" action=%@", item.action);
     const auto volume = volumeOf(item);
-    if (volume) line += " volume=" + platform::textOf(volume->deviceNode);
+    if (volume) line += " volume=" + platform::textOf(volume->deviceNode());
     if (item.alignment) line += platform::stringWithFormat(" align=%i", *item.alignment);
     if (item.checked) line += " checked";
     return line;
@@ -35,9 +35,9 @@ void showVolumes(const Stage& stage) {
     if (stage.program.manager() == nullptr) return;
     for (const auto& volume : stage.program.manager()->volumes()) {
         stage.mac.transcript.record(R"(volume: %@ label="%@" uuid=%@ writable=%@ sent=%@ path=%@)",
-                                    volume->deviceNode, volume->label, volume->uuid,
-                                    yesOrNo(volume->writable), yesOrNo(volume->notificationSent),
-                                    volume->volumePath);
+                                    volume->deviceNode(), volume->label(), volume->uuid(),
+                                    yesOrNo(volume->writable()),
+                                    yesOrNo(volume->notificationSent()), volume->volumePath());
     }
 }
 

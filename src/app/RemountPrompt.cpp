@@ -25,11 +25,11 @@ platform::NotificationRequest makeRequest(const platform::Bundle& bundle,
                                           const NTFSVolume& volume) {
     return {
         .identifier = RequestIdentifier,
-        .title = platform::stringWithFormat(bundle.localizedString("%@ detected"), volume.label),
+        .title = platform::stringWithFormat(bundle.localizedString("%@ detected"), volume.label()),
         .body = bundle.localizedString("Re-mount it read-write?"),
         .soundName = SoundName,
         .categoryIdentifier = CategoryIdentifier,
-        .userInfo = {{VolumeKey, platform::textOf(volume.deviceNode)}},
+        .userInfo = {{VolumeKey, platform::textOf(volume.deviceNode())}},
         .delay = Delay};
 }
 
@@ -40,7 +40,7 @@ void addPrompt(const platform::Platform& platform, const std::shared_ptr<NTFSVol
             if (error) {
                 log.log("Adding Local Notification failed!");
             } else {
-                volume->notificationSent = true;
+                volume->setNotificationSent(true);
             }
         });
 }
@@ -63,7 +63,8 @@ void postRemountPrompt(const platform::Platform& platform,
 void NTFSVolumeManager::registerNotificationCategory() {
     auto& center = platform_.userNotificationCenter;
     responses_ = center.setDelegate([this](const auto& response, const auto& completionHandler) {
-        userNotificationCenterDidReceiveNotificationResponse(response, completionHandler);
+        userNotificationCenterDidReceiveNotificationResponseWithCompletionHandler(
+            response, completionHandler);
     });
     const auto& bundle = platform_.bundle;
     center.setNotificationCategories(
@@ -75,7 +76,7 @@ void NTFSVolumeManager::registerNotificationCategory() {
 
 // The completion handler is not called on any path. Kept so: the program has nothing to tell the
 // center, which goes on without it.
-void NTFSVolumeManager::userNotificationCenterDidReceiveNotificationResponse(
+void NTFSVolumeManager::userNotificationCenterDidReceiveNotificationResponseWithCompletionHandler(
     const platform::NotificationResponse& response,
     const platform::UserNotificationCenter::CompletionHandler& /*completionHandler*/) {
     if (response.requestIdentifier != RequestIdentifier) return;

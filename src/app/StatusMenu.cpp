@@ -88,15 +88,15 @@ class VolumeGroups {
 
     // Every group goes to the top, so the volume found last stands first.
     void insert(const std::shared_ptr<NTFSVolume>& volume) {
-        const auto& main = volume->writable ? ShowInFinder : Remount;
-        const auto* const title = volume->writable ? "show %@ in Finder" : "re-mount %@";
+        const auto& main = volume->writable() ? ShowInFinder : Remount;
+        const auto* const title = volume->writable() ? "show %@ in Finder" : "re-mount %@";
         menu_.insertItem(
             volumeItem(manager_, volume,
-                       platform::stringWithFormat(bundle_.localizedString(title), volume->label),
+                       platform::stringWithFormat(bundle_.localizedString(title), volume->label()),
                        main),
             0);
-        const bool listed = VolumeListHelper::contains(platform_.userDefaults, volume->uuid);
-        if (volume->writable) {
+        const bool listed = VolumeListHelper::contains(platform_.userDefaults, volume->uuid());
+        if (volume->writable()) {
             insertWritable(volume, listed);
         } else {
             insertReadOnly(volume, listed);
@@ -105,7 +105,7 @@ class VolumeGroups {
 
   private:
     void insertReadOnly(const std::shared_ptr<NTFSVolume>& volume, bool listed) {
-        if (!volume->notificationSent && !listed) postRemountPrompt(platform_, volume);
+        if (!volume->notificationSent() && !listed) postRemountPrompt(platform_, volume);
         // Below the item that follows the group, not below the group. Deliberate.
         menu_.insertItem(separator(), 2);
     }
@@ -114,8 +114,9 @@ class VolumeGroups {
         std::size_t index = 1;
         insertSecondary(volume, "unmount", Unmount, index++);
         insertSecondary(volume, "remove all extended attributes", CleanUp, index++);
-        if (volume->uuid && listed) insertSecondary(volume, "mount manually", Unsave, index++);
-        if (volume->uuid && !listed) insertSecondary(volume, "mount automatically", Save, index++);
+        if (volume->uuid() && listed) insertSecondary(volume, "mount manually", Unsave, index++);
+        if (volume->uuid() && !listed)
+            insertSecondary(volume, "mount automatically", Save, index++);
         menu_.insertItem(separator(), index);
     }
 
@@ -150,7 +151,7 @@ void AppDelegate::refreshVolumes() {
         VolumeGroups groups(platform_, *volumeManager_);
         for (const auto& volume : volumeManager_->volumes())
             groups.insert(volume);
-        const bool writable = volumeManager_->volumes().back()->writable;
+        const bool writable = volumeManager_->volumes().back()->writable();
         statusIcon_ = writable ? StatusIcon::Writable : StatusIcon::ReadOnly;
     }
     refreshIcon();

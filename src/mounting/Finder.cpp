@@ -46,7 +46,7 @@ void NTFSVolumeManager::cleanupFinderInfo(const platform::MenuItem& sender) {
     // text, and it runs with no more than the user's own rights.
     const auto source =
         platform::stringWithFormat(R"(do shell script "xattr -cr %@/%@")", mountFolder(platform_),
-                                   volume ? volume->label : std::nullopt);
+                                   volume ? volume->label() : std::nullopt);
     const auto result = platform_.scriptRunner.execute(source);
     if (result.error) logScriptError(platform_.systemLog, result);
     setInProgress(false);

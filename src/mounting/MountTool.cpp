@@ -34,7 +34,7 @@ Target makeTarget(const NTFSVolumeManager& manager, const platform::Disk& disk,
     target.devicePath = stringWithFormat("/dev/%s", disk.bsdName);
     target.bsdName = platform::textOf(description.mediaBSDName);
     const auto volume = findVolume(manager.volumes(), target.bsdName);
-    target.label = platform::textOf(volume ? volume->label : description.volumeName);
+    target.label = platform::textOf(volume ? volume->label() : description.volumeName);
     target.mountPoint = stringWithFormat(
         "%@/.brisel/%@", manager.platform().fileManager.homeDirectory(), target.label);
     return target;
@@ -68,14 +68,14 @@ bool launch(KJPrivilegedTask& task, platform::SystemLog& log, const Target& targ
 void recordMountedVolume(NTFSVolumeManager& manager, const Target& target,
                          const DiskDescription& description) {
     const auto volume = NTFSVolume::initWithVolume(description);
-    volume->label = target.label;
-    volume->writable = true;
-    volume->deviceNode = target.bsdName;
-    volume->volumePath = platform::FileURL(target.mountPoint);
-    volume->uuid = uuidText(description);
+    volume->setLabel(target.label);
+    volume->setWritable(true);
+    volume->setDeviceNode(target.bsdName);
+    volume->setVolumePath(platform::FileURL(target.mountPoint));
+    volume->setUuid(automountUUID(description));
     manager.volumes().push_back(volume);
     manager.refreshVolumes();
-    manager.openInFinder(volume->volumePath);
+    manager.openInFinder(volume->volumePath());
 }
 
 void finish(NTFSVolumeManager& manager, KJPrivilegedTask& task, const Target& target,

@@ -27,7 +27,7 @@ const std::vector<std::string>& mountArguments() {
 void reportVolumeNotMounted(NTFSVolumeManager& manager, const std::shared_ptr<NTFSVolume>& volume) {
     const auto& platform = manager.platform();
     manager.errorIcon();
-    const auto label = volume ? volume->label : std::nullopt;
+    const auto label = volume ? volume->label() : std::nullopt;
     platform.alert.runModal(
         {.messageText = platform.bundle.localizedString("Volume not mounted"),
          .informativeText = platform::stringWithFormat(
@@ -53,7 +53,7 @@ void NTFSVolumeManager::remountVolumeNamed(const std::optional<std::string>& nam
 }
 
 void NTFSVolumeManager::goAhead(const std::shared_ptr<NTFSVolume>& volume) {
-    const auto bsdName = volume ? volume->diskData.mediaBSDName : std::nullopt;
+    const auto bsdName = volume ? volume->diskData().mediaBSDName : std::nullopt;
     const auto disk = platform_.diskArbitration.diskFromBSDName(bsdName);
     if (!disk) {
         reportVolumeNotMounted(*this, volume);

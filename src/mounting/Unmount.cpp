@@ -34,9 +34,9 @@ void unmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& disk,
     // Waits for nothing: gives other processes a turn after the unmount.
     sleep(0);
     const auto bsdName = platform::textOf(description.mediaBSDName);
-    const VolumeList snapshot = manager.volumes();
+    const VolumeRecords snapshot = manager.volumes();
     for (const auto& volume : snapshot) {
-        if (volume->deviceNode != bsdName) continue;
+        if (volume->deviceNode() != bsdName) continue;
         manager.removeVolumeFromList(volume);
         manager.setInProgress(false);
     }

@@ -3,24 +3,25 @@
 #include "platform/Platform.h"
 
 #include <cstdlib>
+#include <optional>
 
 namespace brisel::platform {
 
 namespace {
 
-const Platform*& slot() {
-    static const Platform* platform = nullptr;
+std::optional<Platform>& slot() {
+    static std::optional<Platform> platform;
     return platform;
 }
 
 }  // namespace
 
 void install(const Platform& platform) {
-    slot() = &platform;
+    slot().emplace(platform);
 }
 
 const Platform& installed() {
-    if (slot() == nullptr) std::abort();
+    if (!slot()) std::abort();
     return *slot();
 }
 

@@ -1,4 +1,4 @@
-// All that the program asks of the operating system, in one place.
+// The services of a platform that the core runs on.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -22,7 +22,7 @@ class UserDefaults;
 class UserNotificationCenter;
 class Workspace;
 
-/// One service each; whoever builds it keeps them alive as long as the core runs.
+/// References to the services, which must outlive the core.
 struct Platform {
     Alert& alert;
     Application& application;
@@ -43,11 +43,33 @@ struct Platform {
     Workspace& workspace;
 };
 
-/// Makes `platform` the one that NTFSVolumeManager::sharedInstance is built on. To be called once
-/// before the core starts.
+/// The services of a struct that has each of them as a member of that name. The struct must outlive
+/// the result.
+template <typename Services>
+Platform platformOf(Services& services) {
+    return {.alert = services.alert,
+            .application = services.application,
+            .authorization = services.authorization,
+            .bundle = services.bundle,
+            .diskArbitration = services.diskArbitration,
+            .fileManager = services.fileManager,
+            .loginItems = services.loginItems,
+            .statusMenu = services.statusMenu,
+            .notificationCenter = services.notificationCenter,
+            .runLoop = services.runLoop,
+            .scriptRunner = services.scriptRunner,
+            .statusItem = services.statusItem,
+            .systemLog = services.systemLog,
+            .systemVersion = services.systemVersion,
+            .userDefaults = services.userDefaults,
+            .userNotificationCenter = services.userNotificationCenter,
+            .workspace = services.workspace};
+}
+
+/// Sets the platform of `NTFSVolumeManager::sharedInstance`. Call once, before the core starts.
 void install(const Platform& platform);
 
-/// The installed platform; one must have been installed.
+/// The installed platform. Requires an earlier `install`.
 const Platform& installed();
 
 }  // namespace brisel::platform

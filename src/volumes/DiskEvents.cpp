@@ -38,16 +38,16 @@ void warnOfForeignKind(platform::SystemLog& log, const std::string& name, const 
 // followed by Data-disk4s1. A stale record of the same device is dropped on the way. Where that
 // one is not the last of the list there is no label: the list has changed under the walk, and the
 // event ends right there, on purpose, with the stale record gone and nothing made in its place.
-std::optional<std::string> uniqueLabel(VolumeList& volumes, std::string label,
+std::optional<std::string> uniqueLabel(VolumeRecords& volumes, std::string label,
                                        const std::string& bsdName) {
     for (auto record = volumes.begin(); record != volumes.end(); ++record) {
-        if ((*record)->deviceNode == bsdName) {
+        if ((*record)->deviceNode() == bsdName) {
             const bool last = std::next(record) == volumes.end();
             volumes.erase(record);
             if (last) return label;
             return std::nullopt;
         }
-        if ((*record)->label == label) {
+        if ((*record)->label() == label) {
             label = platform::stringWithFormat("%@-%@", label, bsdName);
         }
     }
@@ -57,12 +57,12 @@ std::optional<std::string> uniqueLabel(VolumeList& volumes, std::string label,
 std::shared_ptr<NTFSVolume> makeRecord(DiskDescription description, std::string label,
                                        bool writable) {
     auto bsdName = textOf(description.mediaBSDName);
-    auto uuid = uuidText(description);
+    auto uuid = automountUUID(description);
     auto volume = NTFSVolume::initWithVolume(std::move(description));
-    volume->label = std::move(label);
-    volume->writable = writable;
-    volume->deviceNode = std::move(bsdName);
-    volume->uuid = std::move(uuid);
+    volume->setLabel(std::move(label));
+    volume->setWritable(writable);
+    volume->setDeviceNode(std::move(bsdName));
+    volume->setUuid(std::move(uuid));
     return volume;
 }
 
@@ -86,7 +86,7 @@ void diskAppeared(NTFSVolumeManager& manager, const platform::Disk& disk) {
     const auto volume = makeRecord(std::move(description), std::move(*label), writable);
     manager.volumes().push_back(volume);
 
-    if (!writable && VolumeListHelper::contains(platform.userDefaults, volume->uuid)) {
+    if (!writable && VolumeListHelper::contains(platform.userDefaults, volume->uuid())) {
         manager.goAhead(volume);
     } else {
         manager.refreshVolumes();
@@ -104,7 +104,7 @@ void diskDisappeared(NTFSVolumeManager& manager, const platform::Disk& disk) {
 
     const auto volume = findVolume(manager.volumes(), textOf(description.mediaBSDName));
     if (!volume) return;
-    if (volume->volumePath && !removeEmptyMountFolder(platform, *volume->volumePath)) return;
+    if (volume->volumePath() && !removeEmptyMountFolder(platform, *volume->volumePath())) return;
     removeVolume(manager.volumes(), *volume);
     manager.setInProgress(false);
     manager.refreshVolumes();

@@ -8,17 +8,17 @@ namespace brisel {
 
 std::shared_ptr<NTFSVolume> NTFSVolume::initWithVolume(platform::DiskDescription description) {
     auto volume = std::make_shared<NTFSVolume>();
-    volume->diskData = std::move(description);
+    volume->setDiskData(std::move(description));
     return volume;
 }
 
-std::optional<std::string> uuidText(const platform::DiskDescription& description) {
+std::optional<std::string> automountUUID(const platform::DiskDescription& description) {
     return description.mediaUUID ? description.mediaUUID : description.volumeUUID;
 }
 
 std::optional<platform::FileURL> currentFolder(const std::shared_ptr<NTFSVolume>& volume) {
     if (!volume) return std::nullopt;
-    return volume->volumePath ? volume->volumePath : volume->diskData.volumePath;
+    return volume->volumePath() ? volume->volumePath() : volume->diskData().volumePath;
 }
 
 }  // namespace brisel

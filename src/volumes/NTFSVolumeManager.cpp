@@ -11,7 +11,8 @@
 namespace brisel {
 
 NTFSVolumeManager& NTFSVolumeManager::sharedInstance() {
-    static NTFSVolumeManager manager(platform::installed());
+    // Never destroyed: its registrations with the system last as long as the process.
+    static auto& manager = *new NTFSVolumeManager(platform::installed());
     return manager;
 }
 

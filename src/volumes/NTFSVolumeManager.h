@@ -1,4 +1,4 @@
-// The one object that knows which NTFS volumes are attached and carries out what is done to them.
+// The volume manager: the known NTFS volumes, the disk-arbitration session and every operation.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,13 +6,14 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/FileURL.h"
 #include "platform/Platform.h"
 #include "platform/Subscription.h"
 #include "platform/UserNotificationCenter.h"
 #include "volumes/NTFSVolumeManagerDelegate.h"
-#include "volumes/VolumeList.h"
+#include "volumes/VolumeRecords.h"
 
 namespace brisel::platform {
 struct MenuItem;
@@ -20,79 +21,82 @@ struct MenuItem;
 
 namespace brisel {
 
-/// Main thread only, but for `sharedInstance` and reading the busy flag. The session with the
-/// platform's disk service, and whatever memory it takes, is the service's own. Each operation is
-/// defined in the folder whose matter it is; none returns a result: what comes of it reaches the
-/// user through the delegate, alerts and the log.
+/// Main thread only, except for `sharedInstance` and `inProgress`. Each operation is defined in the
+/// folder of its feature. None returns a result: outcomes reach the user through the delegate,
+/// alerts and the log.
 class NTFSVolumeManager {
   public:
-    /// The program's one manager, made on the first call on the installed platform. Any thread may
-    /// call; when first calls race, one manager is made and all get it.
+    /// The shared manager, made on the installed platform by the first call and never destroyed.
+    /// Any thread; racing first calls get one manager.
     static NTFSVolumeManager& sharedInstance();
 
-    /// Opens the disk-arbitration session, asks for reports of disks, and registers the category
-    /// of the remount prompt. Disks that are there already are reported like later ones.
+    /// Opens the disk-arbitration session, registers the disk callbacks and the category of the
+    /// remount prompt. Disks that are already attached are reported like later ones.
     explicit NTFSVolumeManager(const platform::Platform& platform);
     NTFSVolumeManager(const NTFSVolumeManager&) = delete;
     NTFSVolumeManager& operator=(const NTFSVolumeManager&) = delete;
     ~NTFSVolumeManager() = default;
 
-    /// The records of the known volumes, shared by all that act on them.
-    [[nodiscard]] VolumeList& volumes() { return volumes_; }
-    [[nodiscard]] const VolumeList& volumes() const { return volumes_; }
-    /// A remount, an unmount or a clean-up is running. Advisory: nothing refuses a second one.
+    /// The records of the known volumes, in order of discovery. Callers add and remove records.
+    [[nodiscard]] VolumeRecords& volumes() { return volumes_; }
+    [[nodiscard]] const VolumeRecords& volumes() const { return volumes_; }
+    void setVolumes(VolumeRecords volumes) { volumes_ = std::move(volumes); }
+    /// True while a remount, an unmount or a clean-up runs. Advisory: a second one is not refused.
+    /// Any thread may read it.
     [[nodiscard]] bool inProgress() const { return inProgress_; }
     void setInProgress(bool inProgress) { inProgress_ = inProgress; }
-    /// The manager does not keep its delegate alive; once it is gone, telling it does nothing.
+    /// Held weakly. Null once the delegate is gone; calls to it are then no-ops.
+    [[nodiscard]] std::shared_ptr<NTFSVolumeManagerDelegate> delegate() const {
+        return delegate_.lock();
+    }
     void setDelegate(std::weak_ptr<NTFSVolumeManagerDelegate> delegate);
 
     [[nodiscard]] const platform::Platform& platform() const { return platform_; }
 
-    /// Hands on to the delegate.
+    /// Calls the delegate.
     void refreshVolumes() const;
     void errorIcon() const;
 
     // mounting/Remount.cpp
     /// Remounts the sender's volume read-write.
     void remountVolume(const platform::MenuItem& sender);
-    /// Remounts the first volume with this BSD name; where there is none, says so in an alert.
+    /// Remounts the first volume with this BSD name. Shows an alert if there is none.
     void remountVolumeNamed(const std::optional<std::string>& name);
-    /// Starts the remount of a volume, or says in an alert that there is no disk for it.
+    /// Starts the remount of a volume. Shows an alert if no disk can be made for it.
     void goAhead(const std::shared_ptr<NTFSVolume>& volume);
 
     // mounting/Unmount.cpp
-    /// Unmounts the sender's volume without force; where no disk is mounted there, only the log
-    /// tells.
+    /// Unmounts the sender's volume without force. Only logs if no disk is mounted at its path.
     void unmountVolume(const platform::MenuItem& sender);
 
     // mounting/Finder.cpp
     /// Opens the sender's volume in the file browser.
     void showInFinder(const platform::MenuItem& sender);
-    /// Opens a folder in the file browser, none opens nothing; ends the busy state.
+    /// Opens a folder in the file browser and clears `inProgress`. Absent opens nothing.
     void openInFinder(const std::optional<platform::FileURL>& url);
-    /// Removes all extended attributes from the sender's volume; blocks until that is done.
+    /// Removes all extended attributes from the sender's volume. Blocks until done.
     void cleanupFinderInfo(const platform::MenuItem& sender);
 
     // volumes/AutomountActions.cpp
-    /// Puts the volume's UUID on the automount list; a volume without one gets a line in the log.
+    /// Adds the sender's volume to the automount list. Only logs if the volume has no UUID.
     void saveVolumeForAutomount(const platform::MenuItem& sender);
-    /// Takes it off again.
+    /// Removes the sender's volume from the automount list. Only logs if it has no UUID.
     void unsaveVolumeForAutomount(const platform::MenuItem& sender);
-    /// Drops the record of an unmounted volume and its emptied mount point. Despite its name it
-    /// leaves the automount list alone.
+    /// Removes the record of an unmounted volume and its empty mount point. Does not change the
+    /// automount list.
     void removeVolumeFromList(const std::shared_ptr<NTFSVolume>& volume);
 
     // app/RemountPrompt.cpp
-    /// Tells the center of the prompt's two buttons, and takes the user's responses.
+    /// Registers the prompt's two buttons and the handler of the user's response.
     void registerNotificationCategory();
-    /// Starts the remount when the user pressed the prompt's affirmative button.
-    void userNotificationCenterDidReceiveNotificationResponse(
+    /// Starts the remount if the response is the prompt's affirmative button.
+    void userNotificationCenterDidReceiveNotificationResponseWithCompletionHandler(
         const platform::NotificationResponse& response,
         const platform::UserNotificationCenter::CompletionHandler& completionHandler);
 
   private:
     const platform::Platform platform_;
-    VolumeList volumes_;
+    VolumeRecords volumes_;
     std::weak_ptr<NTFSVolumeManagerDelegate> delegate_;
     std::atomic<bool> inProgress_ = false;
     platform::Subscription appeared_;
@@ -100,7 +104,7 @@ class NTFSVolumeManager {
     platform::Subscription responses_;
 };
 
-/// The record that a menu item carries, or null.
+/// The item's represented object as a record; null if it is none.
 std::shared_ptr<NTFSVolume> volumeOf(const platform::MenuItem& item);
 
 }  // namespace brisel

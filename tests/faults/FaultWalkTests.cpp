@@ -97,8 +97,8 @@ class FaultyRun {
         if (manager == nullptr) return;
         std::set<std::optional<std::string>> devices;
         for (const auto& volume : manager->volumes()) {
-            EXPECT_TRUE(devices.insert(volume->deviceNode).second)
-                << "two records of " << volume->deviceNode.value_or("no device");
+            EXPECT_TRUE(devices.insert(volume->deviceNode()).second)
+                << "two records of " << volume->deviceNode().value_or("no device");
         }
     }
 

@@ -24,7 +24,7 @@ void require(bool holds, const char* what) {
 void checkInvariants(const NTFSVolumeManager& manager, const platform::simulated::Mac& mac) {
     std::set<std::optional<std::string>> devices;
     for (const auto& volume : manager.volumes())
-        require(devices.insert(volume->deviceNode).second, "two records have one device");
+        require(devices.insert(volume->deviceNode()).second, "two records have one device");
     const auto& items = mac.statusMenu.items();
     const auto fixed = std::count_if(items.begin(), items.end(),
                                      [](const platform::MenuItem& item) { return item.tag == 0; });

@@ -10,7 +10,7 @@ namespace brisel::tests {
 
 namespace {
 
-bool holds(const VolumeList& list, const std::shared_ptr<NTFSVolume>& volume) {
+bool holds(const VolumeRecords& list, const std::shared_ptr<NTFSVolume>& volume) {
     return std::find(list.begin(), list.end(), volume) != list.end();
 }
 
@@ -33,7 +33,7 @@ void ListRule::hear(const std::string& line) {
 void ListRule::compare() {
     if (manager() == nullptr || manager()->volumes() == before_) return;
     const auto& now = manager()->volumes();
-    VolumeList kept;
+    VolumeRecords kept;
     std::copy_if(before_.begin(), before_.end(), std::back_inserter(kept),
                  [&](const auto& volume) { return holds(now, volume); });
     require(now.size() >= kept.size() && std::equal(kept.begin(), kept.end(), now.begin()),
@@ -44,19 +44,19 @@ void ListRule::compare() {
     before_ = now;
 }
 
-void ListRule::checkThatTheyMightGo(const VolumeList& now) const {
+void ListRule::checkThatTheyMightGo(const VolumeRecords& now) const {
     for (const auto& volume : before_) {
-        const auto device = platform::textOf(volume->deviceNode);
+        const auto device = platform::textOf(volume->deviceNode());
         const bool might = device == appeared_ || device == disappeared_ ||
                            unmounted_.contains(device) || holds(now, volume);
         require(might, "The record of " + device + " has gone without a reason.");
     }
 }
 
-void ListRule::checkThatTheyMightCome(const VolumeList& now, std::size_t kept) const {
+void ListRule::checkThatTheyMightCome(const VolumeRecords& now, std::size_t kept) const {
     require(now.size() <= kept + 1, "Two records came at once.");
     for (std::size_t index = kept; index < now.size(); ++index) {
-        const auto device = platform::textOf(now[index]->deviceNode);
+        const auto device = platform::textOf(now[index]->deviceNode());
         require(device == appeared_ || device == mounted_,
                 "A record of " + device + " came without a reason.");
     }
@@ -65,7 +65,7 @@ void ListRule::checkThatTheyMightCome(const VolumeList& now, std::size_t kept) c
 void ListRule::checkThatDevicesDiffer() const {
     std::set<std::string> devices;
     for (const auto& volume : manager()->volumes()) {
-        const auto device = platform::textOf(volume->deviceNode);
+        const auto device = platform::textOf(volume->deviceNode());
         require(devices.insert(device).second, "Two records have the device " + device + ".");
     }
 }

@@ -19,11 +19,11 @@ class ListRule final : public Rule {
 
   private:
     void compare();
-    void checkThatTheyMightGo(const VolumeList& now) const;
-    void checkThatTheyMightCome(const VolumeList& now, std::size_t kept) const;
+    void checkThatTheyMightGo(const VolumeRecords& now) const;
+    void checkThatTheyMightCome(const VolumeRecords& now, std::size_t kept) const;
     void checkThatDevicesDiffer() const;
 
-    VolumeList before_;
+    VolumeRecords before_;
     std::string appeared_;
     std::string disappeared_;
     std::set<std::string> unmounted_;

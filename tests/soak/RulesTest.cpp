@@ -31,9 +31,9 @@ class ARule : public RunningProgram {
 
     /// A record of the same volume.
     static std::shared_ptr<NTFSVolume> another(const NTFSVolume& volume) {
-        const auto record = NTFSVolume::initWithVolume(volume.diskData);
-        record->label = volume.label;
-        record->deviceNode = volume.deviceNode;
+        const auto record = NTFSVolume::initWithVolume(volume.diskData());
+        record->setLabel(volume.label());
+        record->setDeviceNode(volume.deviceNode());
         return record;
     }
 
@@ -77,7 +77,7 @@ TEST_F(ARule, SeesARecordThatGoesWithoutAReason) {
 TEST_F(ARule, SeesARecordThatComesWithoutAReason) {
     hear("log: disk disk9s1 appeared");
     manager().volumes().push_back(another(*manager().volumes().front()));
-    manager().volumes().back()->deviceNode = "disk8s1";
+    manager().volumes().back()->setDeviceNode("disk8s1");
     rest();
     expectBroken("A record of disk8s1 came without a reason.");
 }
@@ -103,7 +103,7 @@ TEST_F(ARule, SeesAMenuWithoutAVolumeOfTheList) {
 }
 
 TEST_F(ARule, SeesAMenuThatOffersWhatTheVolumeIsNot) {
-    manager().volumes().front()->writable = true;
+    manager().volumes().front()->setWritable(true);
     hear("menu: ");
     expectBroken("The menu offers something else for Data.");
 }

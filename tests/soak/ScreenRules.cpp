@@ -26,9 +26,9 @@ Actions actionsFor(const Items& items, const std::shared_ptr<NTFSVolume>& volume
 }
 
 Actions actionsWanted(const NTFSVolume& volume, bool listed) {
-    if (!volume.writable) return {"remountVolume:"};
+    if (!volume.writable()) return {"remountVolume:"};
     Actions actions{"showInFinder:", "unmountVolume:", "cleanupFinderInfo:"};
-    if (volume.uuid) {
+    if (volume.uuid()) {
         actions.emplace_back(listed ? "unsaveVolumeForAutomount:" : "saveVolumeForAutomount:");
     }
     return actions;
@@ -69,7 +69,7 @@ void MenuRule::checkStatusLine() const {
 
 void MenuRule::checkVolumes() const {
     const auto& items = mac().statusMenu.items();
-    VolumeList shown;
+    VolumeRecords shown;
     for (const auto& item : items) {
         const auto volume = volumeOf(item);
         if (volume && (shown.empty() || shown.back() != volume)) shown.push_back(volume);
@@ -79,10 +79,10 @@ void MenuRule::checkVolumes() const {
     require(shown == manager()->volumes(), "The menu does not show the volumes of the list.");
     const auto listed = mac().userDefaults.stringArrayForKey("volumeList");
     for (const auto& volume : manager()->volumes()) {
-        const bool automatic =
-            listed && volume->uuid && std::count(listed->begin(), listed->end(), *volume->uuid) > 0;
+        const bool automatic = listed && volume->uuid() &&
+                               std::count(listed->begin(), listed->end(), *volume->uuid()) > 0;
         require(actionsFor(items, volume) == actionsWanted(*volume, automatic),
-                "The menu offers something else for " + platform::textOf(volume->label) + ".");
+                "The menu offers something else for " + platform::textOf(volume->label()) + ".");
     }
 }
 
@@ -114,7 +114,7 @@ void IconRule::hearIcon(const std::string& name) {
 std::string IconRule::colour() const {
     if (inProgress()) return "orange";
     if (manager()->volumes().empty()) return "grey";
-    return manager()->volumes().back()->writable ? "blue" : "green";
+    return manager()->volumes().back()->writable() ? "blue" : "green";
 }
 
 void AlertRule::hear(const std::string& line) {

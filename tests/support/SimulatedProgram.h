@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/simulated/Mac.h"
@@ -22,6 +23,14 @@ DiskProperties ntfsDisk(const std::string& name, const std::string& volumeUUID =
 
 /// A menu item that stands for this record, as an action's sender.
 platform::MenuItem senderFor(const std::shared_ptr<NTFSVolume>& volume);
+
+/// Changes the description that the record keeps.
+template <typename Change>
+void changeDiskData(NTFSVolume& volume, const Change& change) {
+    auto data = volume.diskData();
+    change(data);
+    volume.setDiskData(std::move(data));
+}
 
 /// Answers as told; unless told, presses the first button and knows the password.
 class ScriptedPerson final : public platform::simulated::Person {

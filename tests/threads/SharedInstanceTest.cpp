@@ -63,13 +63,13 @@ TEST(NotificationSent, IsSetOnAnotherThreadWhileTheMainThreadReadsIt) {
     std::barrier start(2);
     std::thread center([&] {
         start.arrive_and_wait();
-        volume->notificationSent = true;
+        volume->setNotificationSent(true);
     });
     start.arrive_and_wait();
-    while (!volume->notificationSent)
+    while (!volume->notificationSent())
         std::this_thread::yield();
     center.join();
-    EXPECT_TRUE(volume->notificationSent);
+    EXPECT_TRUE(volume->notificationSent());
 }
 
 }  // namespace

@@ -3,13 +3,10 @@
 #include "entry/desktop/Desktop.h"
 
 #include <cstdlib>
-#include <iostream>
 
-#include "app/MainMenu.h"
-#include "platform/common/VisibleText.h"
+#include "app/Launch.h"
 #include "platform/headless/MountFolder.h"
 #include "platform/headless/Process.h"
-#include "volumes/NTFSVolumeManager.h"
 
 namespace brisel::desktop {
 
@@ -17,51 +14,38 @@ namespace {
 
 using Place = platform::desktop::SingleInstance::Place;
 
-void printLogEntry(const std::string& text) {
-    std::cerr << "brisel: " + platform::common::visible(text) + '\n';
-}
-
 }  // namespace
 
-Desktop::Desktop(GDBusConnection* bus)
-    : systemLog_(&printLogEntry),
-      singleInstance_(bus),
-      notifications_(bus),
-      statusItem_({.bus = bus,
-                   .log = systemLog_,
-                   .bundle = bundle_,
-                   .menu = statusMenu_,
-                   .mainThread = mainThread_}) {
-    bundle_.setLanguages(platform::headless::userLanguages());
-    application_.setEnd([this] { mainLoop_.quit(); });
+Desktop::Desktop(GDBusConnection* bus) : services_(bus) {
+    services_.bundle.setLanguages(platform::headless::userLanguages());
+    services_.application.setEnd([this] { services_.mainLoop.quit(); });
 }
 
 Desktop::~Desktop() = default;
 
 int Desktop::run() {
-    if (singleInstance_.place() == Place::First) {
+    if (services_.singleInstance.place() == Place::First) {
         runFirst();
         return EXIT_SUCCESS;
     }
-    if (singleInstance_.place() == Place::Second && singleInstance_.activateFirst())
+    if (services_.singleInstance.place() == Place::Second &&
+        services_.singleInstance.activateFirst())
         return EXIT_SUCCESS;
-    systemLog_.log("Another Brisel refuses to show itself, or the session bus is out of order.");
+    services_.systemLog.log(
+        "Another Brisel refuses to show itself, or the session bus is out of order.");
     return EXIT_FAILURE;
 }
 
 void Desktop::runFirst() {
     platform::headless::removeEmptyMountPoints(
-        platform::headless::mountFolderIn(fileManager_.homeDirectory()));
-    platform::install(platform_);
-    AppDelegate::initialize(platform_);
-    delegate_ = std::make_shared<AppDelegate>(platform_);
-    statusMenu_.load(mainMenuItems(delegate_, platform_));
-    application_.setTerminationStep([this] { delegate_->applicationWillTerminate(); });
-    const auto ending = platform::headless::whenReadable(terminationSignals_.descriptor(),
-                                                         [this] { application_.terminate(); });
-    singleInstance_.listen([this] { menuWindow_.show(); });
+        platform::headless::mountFolderIn(services_.fileManager.homeDirectory()));
+    platform::install(platform::platformOf(services_));
+    delegate_ = loadInterface(services_);
+    const auto ending = platform::headless::whenReadable(
+        services_.terminationSignals.descriptor(), [this] { services_.application.terminate(); });
+    services_.singleInstance.listen([this] { services_.menuWindow.show(); });
     delegate_->awakeFromNib();
-    if (!application_.terminated()) mainLoop_.run();
+    if (!services_.application.terminated()) services_.mainLoop.run();
 }
 
 }  // namespace brisel::desktop

@@ -11,12 +11,12 @@ MenuBarApplication& MenuBarApplication::shared() {
 }
 
 MenuBarApplication::MenuBarApplication() {
-    platform::install(platform_);
-    delegate_ = std::make_shared<AppDelegate>(platform_);
+    platform::install(platform());
+    delegate_ = std::make_shared<AppDelegate>(platform());
 }
 
 void MenuBarApplication::connect(NSMenu* statusMenu, NSMenuItem* startAtLogin) {
-    statusMenu_.connect(statusMenu, startAtLogin);
+    services_.statusMenu.connect(statusMenu, startAtLogin);
 }
 
 }  // namespace brisel::macos

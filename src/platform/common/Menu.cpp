@@ -13,14 +13,12 @@ void Menu::removeItemsWithTags(std::span<const int> tags) {
     std::erase_if(items_, [tags](const MenuItem& item) {
         return std::find(tags.begin(), tags.end(), item.tag) != tags.end();
     });
-    rebuilt_ = true;
     tellChanged();
 }
 
 void Menu::insertItem(MenuItem item, std::size_t index) {
     assert(index <= items_.size());
     items_.insert(std::next(items_.begin(), static_cast<std::ptrdiff_t>(index)), std::move(item));
-    rebuilt_ = true;
     tellChanged();
 }
 
@@ -34,10 +32,6 @@ void Menu::setChecked(std::string_view action, bool checked) {
 void Menu::load(std::vector<MenuItem> items) {
     items_.assign(std::make_move_iterator(items.begin()), std::make_move_iterator(items.end()));
     tellChanged();
-}
-
-bool Menu::takeRebuilt() {
-    return std::exchange(rebuilt_, false);
 }
 
 void choose(const MenuItem& item) {

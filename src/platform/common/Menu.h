@@ -1,4 +1,4 @@
-// The status menu where the platform has no menu of its own: a list of items.
+// A menu as a list of items, for platforms without a menu of their own.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,21 +11,18 @@
 
 namespace brisel::platform::common {
 
-/// A deque, because the program inserts at the top: each insertion moves the few items above it,
-/// not the many below.
-class Menu final : public platform::Menu {
+/// A deque: the program inserts near the top, and an insertion moves the items above only.
+class Menu : public platform::Menu {
   public:
     void removeItemsWithTags(std::span<const int> tags) override;
     void insertItem(MenuItem item, std::size_t index) override;
     void setChecked(std::string_view action, bool checked) override;
 
-    /// Puts the fixed items in, as a nib does on a Mac.
+    /// Replaces the items, as loading a nib does on a Mac.
     void load(std::vector<MenuItem> items);
     [[nodiscard]] const std::deque<MenuItem>& items() const { return items_; }
-    /// `changed` is called after every change of an item; none takes the last one away.
+    /// Calls `changed` after every change of an item. An empty function ends that.
     void setChanged(std::function<void()> changed) { changed_ = std::move(changed); }
-    /// Whether items came or went since this was asked last.
-    [[nodiscard]] bool takeRebuilt();
 
   private:
     void tellChanged() const {
@@ -34,10 +31,9 @@ class Menu final : public platform::Menu {
 
     std::deque<MenuItem> items_;
     std::function<void()> changed_;
-    bool rebuilt_ = false;
 };
 
-/// Does what choosing the item does; the item may leave its menu meanwhile.
+/// Performs the item's action. The item may leave its menu meanwhile.
 void choose(const MenuItem& item);
 
 }  // namespace brisel::platform::common

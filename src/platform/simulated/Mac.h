@@ -1,9 +1,8 @@
-// A Mac in memory: the program's whole surroundings, and the strings to pull.
+// A Mac in memory: the services of a platform, and its test controls.
 // SPDX-License-Identifier: MIT
 #pragma once
 
 #include "platform/common/Bundle.h"
-#include "platform/common/Menu.h"
 #include "platform/common/NotificationCenter.h"
 #include "platform/Platform.h"
 #include "platform/simulated/Alert.h"
@@ -15,6 +14,7 @@
 #include "platform/simulated/FileSystem.h"
 #include "platform/simulated/LoginItems.h"
 #include "platform/simulated/MainLoop.h"
+#include "platform/simulated/Menu.h"
 #include "platform/simulated/Person.h"
 #include "platform/simulated/ScriptRunner.h"
 #include "platform/simulated/StatusItem.h"
@@ -27,8 +27,8 @@
 
 namespace brisel::platform::simulated {
 
-/// Each member is a service of the platform, with a control face beside it; deterministic, with
-/// nothing running but the real child processes of privileged starts. One thread.
+/// Each service is a member with its test controls. Deterministic and single-threaded; a privileged
+/// start runs a real child process.
 struct Mac {
     /// `person` must outlive the Mac.
     explicit Mac(Person& person)
@@ -40,6 +40,7 @@ struct Mac {
     Transcript transcript;
     Faults faults;
     MainLoop mainLoop;
+    MainLoop& runLoop = mainLoop;
     FileSystem fileSystem;
     common::NotificationCenter notificationCenter;
     common::Bundle bundle;
@@ -49,7 +50,7 @@ struct Mac {
     Authorization authorization;
     FileManager fileManager{transcript, faults, fileSystem, diskArbitration};
     LoginItems loginItems{transcript, faults};
-    common::Menu statusMenu;
+    Menu statusMenu;
     ScriptRunner scriptRunner{transcript, faults};
     StatusItem statusItem{transcript, statusMenu};
     SystemLog systemLog{transcript};
@@ -58,24 +59,7 @@ struct Mac {
     UserNotificationCenter userNotificationCenter{transcript, faults};
     Workspace workspace{transcript};
 
-    /// The services as the core takes them.
-    const Platform platform{.alert = alert,
-                            .application = application,
-                            .authorization = authorization,
-                            .bundle = bundle,
-                            .diskArbitration = diskArbitration,
-                            .fileManager = fileManager,
-                            .loginItems = loginItems,
-                            .statusMenu = statusMenu,
-                            .notificationCenter = notificationCenter,
-                            .runLoop = mainLoop,
-                            .scriptRunner = scriptRunner,
-                            .statusItem = statusItem,
-                            .systemLog = systemLog,
-                            .systemVersion = systemVersion,
-                            .userDefaults = userDefaults,
-                            .userNotificationCenter = userNotificationCenter,
-                            .workspace = workspace};
+    const Platform platform = platformOf(*this);
 };
 
 }  // namespace brisel::platform::simulated

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/common/Menu.h"
 #include "platform/common/Signal.h"
+#include "platform/simulated/Menu.h"
 #include "platform/simulated/Transcript.h"
 #include "platform/StatusItem.h"
 
@@ -14,7 +14,7 @@ namespace brisel::platform::simulated {
 
 class StatusItem final : public platform::StatusItem {
   public:
-    StatusItem(Transcript& transcript, common::Menu& menu) : transcript_(transcript), menu_(menu) {}
+    StatusItem(Transcript& transcript, Menu& menu) : transcript_(transcript), menu_(menu) {}
 
     void create(double length) override { length_ = length; }
     void showStatusMenu() override { showsMenu_ = true; }
@@ -31,7 +31,7 @@ class StatusItem final : public platform::StatusItem {
 
   private:
     Transcript& transcript_;
-    common::Menu& menu_;
+    Menu& menu_;
     std::string appearance_ = "NSAppearanceNameAqua";
     std::optional<double> length_;
     bool showsMenu_ = false;

@@ -41,7 +41,7 @@ class HostileLabel : public testing::TestWithParam<std::string>, public Simulate
 };
 
 TEST_P(HostileLabel, IsShownAsItIs) {
-    EXPECT_EQ(volume()->label, GetParam());
+    EXPECT_EQ(volume()->label(), GetParam());
     EXPECT_EQ(mac.statusMenu.items().front().title, "re-mount " + GetParam());
     EXPECT_EQ(mac.userNotificationCenter.lastPrompt()->title, GetParam() + " detected");
 }
@@ -55,10 +55,10 @@ TEST_P(HostileLabel, IsShownAsItIsInAnAlert) {
 TEST_P(HostileLabel, NamesItsMountPoint) {
     choose("re-mount " + GetParam());
     ASSERT_EQ(manager().volumes().size(), 1U);
-    EXPECT_TRUE(volume()->writable);
-    EXPECT_EQ(volume()->label, GetParam());
+    EXPECT_TRUE(volume()->writable());
+    EXPECT_EQ(volume()->label(), GetParam());
     const platform::FileURL expected("/Users/user/.brisel/" + GetParam());
-    EXPECT_EQ(volume()->volumePath, expected);
+    EXPECT_EQ(volume()->volumePath(), expected);
     EXPECT_EQ(mac.statusMenu.items().front().title, "show " + GetParam() + " in Finder");
 }
 
@@ -74,7 +74,7 @@ TEST_P(HostileLabel, GoesThroughEveryActionUnharmed) {
 TEST_P(HostileLabel, GrowsLikeAnyOther) {
     mac.diskArbitration.attach("disk5s1", ntfsDisk(GetParam()));
     turn();
-    EXPECT_EQ(volume(1)->label, GetParam() + "-disk5s1");
+    EXPECT_EQ(volume(1)->label(), GetParam() + "-disk5s1");
 }
 
 INSTANTIATE_TEST_SUITE_P(OfEachSort, HostileLabel, testing::ValuesIn(Names));

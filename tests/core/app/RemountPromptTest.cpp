@@ -18,8 +18,8 @@ class RemountPrompt : public RunningProgram {
   protected:
     std::shared_ptr<NTFSVolume> post() {
         const auto volume = NTFSVolume::initWithVolume({});
-        volume->label = "Data";
-        volume->deviceNode = "disk4s1";
+        volume->setLabel("Data");
+        volume->setDeviceNode("disk4s1");
         postRemountPrompt(mac.platform, volume);
         return volume;
     }
@@ -45,7 +45,7 @@ TEST_F(RemountPrompt, OffersItsActionsInTheUsersLanguage) {
 }
 
 TEST_F(RemountPrompt, CarriesItsContent) {
-    EXPECT_TRUE(post()->notificationSent);
+    EXPECT_TRUE(post()->notificationSent());
     const auto& prompt = mac.userNotificationCenter.lastPrompt();
     ASSERT_TRUE(prompt);
     EXPECT_EQ(prompt->identifier, "mount");
@@ -59,20 +59,20 @@ TEST_F(RemountPrompt, CarriesItsContent) {
 
 TEST_F(RemountPrompt, IsOnlyLoggedWhereThePermissionFails) {
     mac.userNotificationCenter.setPermission(Center::Permission::Error);
-    EXPECT_FALSE(post()->notificationSent);
+    EXPECT_FALSE(post()->notificationSent());
     EXPECT_THAT(newLines(), ElementsAre("permission: alert sound",
                                         "log: Requesting auth for Local Notification failed!"));
 }
 
 TEST_F(RemountPrompt, IsSilentlyDroppedWithoutPermission) {
     mac.userNotificationCenter.setPermission(Center::Permission::Deny);
-    EXPECT_FALSE(post()->notificationSent);
+    EXPECT_FALSE(post()->notificationSent());
     EXPECT_THAT(newLines(), ElementsAre("permission: alert sound"));
 }
 
 TEST_F(RemountPrompt, IsNotSentWhereItIsNotAccepted) {
     mac.userNotificationCenter.refuseNextRequest();
-    EXPECT_FALSE(post()->notificationSent);
+    EXPECT_FALSE(post()->notificationSent());
     EXPECT_THAT(newLines(),
                 ElementsAre("permission: alert sound", "log: Adding Local Notification failed!"));
 }
@@ -84,7 +84,7 @@ TEST_F(RemountPrompt, IsTriedAgainWithTheNextRebuildUntilItWasAccepted) {
     EXPECT_THAT(newLines(), Contains("permission: alert sound"));
     mac.userNotificationCenter.setPermission(Center::Permission::Allow);
     manager().refreshVolumes();
-    EXPECT_TRUE(volume()->notificationSent);
+    EXPECT_TRUE(volume()->notificationSent());
     forgetLines();
     manager().refreshVolumes();
     EXPECT_THAT(newLines(), testing::Not(Contains("permission: alert sound")));
@@ -98,8 +98,8 @@ TEST_F(RemountPrompt, IsReplacedByThatOfALaterVolume) {
     manager().refreshVolumes();
     EXPECT_EQ(mac.userNotificationCenter.lastPrompt()->userInfo.at("volume"), "disk5s1");
     EXPECT_EQ(mac.userNotificationCenter.lastPrompt()->identifier, "mount");
-    EXPECT_TRUE(volume(0)->notificationSent);
-    EXPECT_TRUE(volume(1)->notificationSent);
+    EXPECT_TRUE(volume(0)->notificationSent());
+    EXPECT_TRUE(volume(1)->notificationSent());
 }
 
 /// A center whose answers come when the test gives them.
@@ -147,9 +147,9 @@ TEST_F(SlowPrompt, StopsAtAnErrorEvenWhereItIsGranted) {
 TEST_F(SlowPrompt, CountsAsSentOnlyOnceItWasAccepted) {
     postRemountPrompt(slow, record);
     center.permissions.at(0)(true, std::nullopt);
-    EXPECT_FALSE(record->notificationSent);
+    EXPECT_FALSE(record->notificationSent());
     center.additions.at(0)(std::nullopt);
-    EXPECT_TRUE(record->notificationSent);
+    EXPECT_TRUE(record->notificationSent());
 }
 
 TEST_F(SlowPrompt, IsAddedAgainByARebuildBeforeItWasAccepted) {
@@ -170,7 +170,7 @@ TEST_F(SlowPrompt, KeepsItsRecordAlive) {
     const auto kept = observer.lock();
     ASSERT_NE(kept, nullptr);
     center.additions.at(0)(std::nullopt);
-    EXPECT_TRUE(kept->notificationSent);
+    EXPECT_TRUE(kept->notificationSent());
 }
 
 TEST_F(SlowPrompt, ShowsAMissingLabelAndDeviceAsNull) {
@@ -186,7 +186,7 @@ TEST_F(SlowPrompt, MayBeAnsweredOnAnotherThread) {
         center.permissions.at(0)(true, std::nullopt);
         center.additions.at(0)(std::nullopt);
     }).join();
-    EXPECT_TRUE(record->notificationSent);
+    EXPECT_TRUE(record->notificationSent());
 }
 
 class Response : public RunningProgram {
@@ -200,7 +200,7 @@ class Response : public RunningProgram {
 TEST_F(Response, StartsTheRemount) {
     respond("DO_MOUNT", "disk4s1");
     EXPECT_THAT(newLines(), Contains("unmount: disk4s1"));
-    EXPECT_TRUE(volume()->writable);
+    EXPECT_TRUE(volume()->writable());
 }
 
 TEST_F(Response, DoesNothingForAnyOtherAction) {

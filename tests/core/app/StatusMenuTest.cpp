@@ -33,10 +33,10 @@ class StatusMenu : public RunningProgram {
     std::shared_ptr<NTFSVolume> add(const std::string& label, const std::string& uuid,
                                     bool writable) {
         const auto volume = NTFSVolume::initWithVolume({});
-        volume->label = label;
-        volume->deviceNode = "disk-of-" + label;
-        if (!uuid.empty()) volume->uuid = uuid;
-        volume->writable = writable;
+        volume->setLabel(label);
+        volume->setDeviceNode("disk-of-" + label);
+        if (!uuid.empty()) volume->setUuid(uuid);
+        volume->setWritable(writable);
         manager().volumes().push_back(volume);
         return volume;
     }
@@ -187,7 +187,7 @@ TEST_F(StatusMenu, ReadsTheAutomountListOncePerVolume) {
 }
 
 TEST_F(StatusMenu, ShowsAMissingLabelAsNull) {
-    addWritable("x")->label.reset();
+    addWritable("x")->setLabel(std::nullopt);
     EXPECT_THAT(titles(), StartsWith("show (null) in Finder | "));
 }
 
@@ -212,7 +212,7 @@ class Prompting : public StatusMenu {
 TEST_F(Prompting, AsksForAReadOnlyVolumeOnce) {
     const auto volume = addReadOnly("Data", SomeUUID);
     EXPECT_EQ(promptsOfARebuild(), 1);
-    EXPECT_TRUE(volume->notificationSent);
+    EXPECT_TRUE(volume->notificationSent());
     EXPECT_EQ(promptsOfARebuild(), 0);
 }
 

@@ -36,7 +36,10 @@ void makeUnmountable(SimulatedProgram& program) {
 
 const Way Ways[] = {
     {"NoDisk", System::MacOS12,
-     [](SimulatedProgram& program) { program.volume()->diskData.mediaBSDName.reset(); }, Busy::No},
+     [](SimulatedProgram& program) {
+         changeDiskData(*program.volume(), [](auto& data) { data.mediaBSDName.reset(); });
+     },
+     Busy::No},
     {"UnmountRefused", System::MacOS12,
      [](SimulatedProgram& program) {
          program.mac.diskArbitration.refuseUnmount("disk4s1", 0xF8DA0001);

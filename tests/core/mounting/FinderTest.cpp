@@ -15,7 +15,7 @@ class Finder : public RunningProgram {
   protected:
     static std::shared_ptr<NTFSVolume> record(const std::string& label) {
         const auto made = NTFSVolume::initWithVolume({});
-        made->label = label;
+        made->setLabel(label);
         return made;
     }
     std::string scriptFor(const std::string& label) {
@@ -29,8 +29,9 @@ class Finder : public RunningProgram {
 
 TEST_F(Finder, OpensWhereTheProgramMountedTheVolume) {
     const auto volume = record("Data");
-    volume->volumePath = platform::FileURL("/Users/user/.brisel/Data");
-    volume->diskData.volumePath = platform::FileURL("/Volumes/Data");
+    volume->setVolumePath(platform::FileURL("/Users/user/.brisel/Data"));
+    changeDiskData(*volume,
+                   [](auto& data) { data.volumePath = platform::FileURL("/Volumes/Data"); });
     manager().showInFinder(senderFor(volume));
     EXPECT_THAT(newLines(), ElementsAre("open: file:///Users/user/.brisel/Data/", emptyMenuLine(),
                                         "icon: brisel-status-grey-light"));
@@ -38,7 +39,8 @@ TEST_F(Finder, OpensWhereTheProgramMountedTheVolume) {
 
 TEST_F(Finder, OpensWhereThePlatformMountedTheVolume) {
     const auto volume = record("Data");
-    volume->diskData.volumePath = platform::FileURL("/Volumes/My Data");
+    changeDiskData(*volume,
+                   [](auto& data) { data.volumePath = platform::FileURL("/Volumes/My Data"); });
     manager().showInFinder(senderFor(volume));
     EXPECT_THAT(newLines(), Contains("open: file:///Volumes/My%20Data/"));
 }
@@ -86,8 +88,8 @@ TEST_F(CleanUp, LeavesTheBlankOfALabelToTheShell) {
 
 TEST_F(CleanUp, DoesNotConsultTheRecordsOwnPath) {
     const auto volume = record("Data");
-    volume->volumePath = platform::FileURL("/elsewhere");
-    volume->diskData.volumePath = platform::FileURL("/elsewhere");
+    volume->setVolumePath(platform::FileURL("/elsewhere"));
+    changeDiskData(*volume, [](auto& data) { data.volumePath = platform::FileURL("/elsewhere"); });
     manager().cleanupFinderInfo(senderFor(volume));
     EXPECT_THAT(newLines(),
                 Contains("script: do shell script \"xattr -cr /Users/user/.brisel/Data\""));

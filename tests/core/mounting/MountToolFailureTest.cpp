@@ -147,9 +147,9 @@ TEST_F(MountToolFailure, OfTheToolNeverFallsBackToAnotherMount) {
 // The order matters where two records share a device: each removal takes the first that is left.
 TEST_F(MountToolFailure, OfTheToolTakesTwoRecordsOfTheDeviceAway) {
     const auto twin = NTFSVolume::initWithVolume({});
-    twin->deviceNode = "disk4s1";
+    twin->setDeviceNode("disk4s1");
     const auto third = NTFSVolume::initWithVolume({});
-    third->deviceNode = "disk4s1";
+    third->setDeviceNode("disk4s1");
     manager().volumes().push_back(twin);
     manager().volumes().push_back(third);
     mac.authorization.setToolEnd({.exitStatus = 1, .signal = 0, .output = ""});
@@ -161,7 +161,7 @@ TEST_F(MountToolFailure, OfTheToolTakesTwoRecordsOfTheDeviceAway) {
 TEST_F(MountToolFailure, BySignalCountsAsSuccess) {
     mac.authorization.setToolEnd({.exitStatus = 0, .signal = 9, .output = ""});
     choose("re-mount Data");
-    EXPECT_TRUE(volume()->writable);
+    EXPECT_TRUE(volume()->writable());
     EXPECT_FALSE(manager().inProgress());
 }
 

@@ -43,20 +43,20 @@ TEST_F(MountTool, LeavesANewWritableRecordBehind) {
     ASSERT_EQ(manager().volumes().size(), 1U);
     const auto after = volume();
     EXPECT_NE(after, before);
-    EXPECT_EQ(after->label, "Data");
-    EXPECT_TRUE(after->writable);
-    EXPECT_EQ(after->deviceNode, "disk4s1");
-    EXPECT_EQ(after->volumePath, platform::FileURL("/Users/user/.brisel/Data"));
-    EXPECT_EQ(after->uuid, SomeUUID);
-    EXPECT_FALSE(after->notificationSent);
-    EXPECT_FALSE(before->writable);
+    EXPECT_EQ(after->label(), "Data");
+    EXPECT_TRUE(after->writable());
+    EXPECT_EQ(after->deviceNode(), "disk4s1");
+    EXPECT_EQ(after->volumePath(), platform::FileURL("/Users/user/.brisel/Data"));
+    EXPECT_EQ(after->uuid(), SomeUUID);
+    EXPECT_FALSE(after->notificationSent());
+    EXPECT_FALSE(before->writable());
 }
 
 TEST_F(MountTool, RecordsTheDescriptionOfTheUnmountedDisk) {
     attachQuietly("disk4s1", "Data");
     remountData();
-    EXPECT_EQ(volume()->diskData.volumePath, std::nullopt);
-    EXPECT_EQ(volume()->diskData.mediaBSDName, "disk4s1");
+    EXPECT_EQ(volume()->diskData().volumePath, std::nullopt);
+    EXPECT_EQ(volume()->diskData().mediaBSDName, "disk4s1");
 }
 
 TEST_F(MountTool, PutsTheNewRecordAtTheEnd) {
@@ -100,7 +100,7 @@ TEST_F(MountTool, TakesTheLabelOfTheRecordForTheMountPoint) {
 
 TEST_F(MountTool, FallsBackToTheVolumeNameWhereTheRecordIsGone) {
     attachQuietly("disk4s1", "Data");
-    volume()->label = "Label";
+    volume()->setLabel("Label");
     mac.diskArbitration.hold();
     manager().remountVolumeNamed("disk4s1");
     manager().volumes().clear();
@@ -141,7 +141,7 @@ TEST_F(MountTool, RecordsTheTextOfAMissingDeviceNode) {
 TEST_F(MountTool, PutsTwoVolumesOfOneLabelOnTheSamePath) {
     attachQuietly("disk4s1", "Data");
     attachQuietly("disk5s1", "Other");
-    volume(1)->label = "Data";
+    volume(1)->setLabel("Data");
     manager().remountVolumeNamed("disk4s1");
     manager().remountVolumeNamed("disk5s1");
     turn();
@@ -151,7 +151,7 @@ TEST_F(MountTool, PutsTwoVolumesOfOneLabelOnTheSamePath) {
 TEST_F(MountTool, RecordsNoUUIDWhereTheDescriptionHasNone) {
     attachQuietly("disk4s1", "Data");
     remountData();
-    EXPECT_EQ(volume()->uuid, std::nullopt);
+    EXPECT_EQ(volume()->uuid(), std::nullopt);
 }
 
 TEST_F(MountTool, RecordsTheUUIDOfTheMediumFirst) {
@@ -160,7 +160,7 @@ TEST_F(MountTool, RecordsTheUUIDOfTheMediumFirst) {
     mac.diskArbitration.attach("disk4s1", disk);
     turn();
     remountData();
-    EXPECT_EQ(volume()->uuid, SomeUUID);
+    EXPECT_EQ(volume()->uuid(), SomeUUID);
 }
 
 TEST_F(MountTool, FollowsTheHomeDirectory) {
@@ -174,7 +174,7 @@ TEST_F(MountTool, AcceptsAMountPointThatIsThereAlready) {
     mac.fileSystem.makeFolder("/Users/user/.brisel/Data");
     attachQuietly("disk4s1", "Data");
     remountData();
-    EXPECT_TRUE(volume()->writable);
+    EXPECT_TRUE(volume()->writable());
 }
 
 }  // namespace

@@ -38,9 +38,9 @@ TEST_F(OlderSystem, RecordsTheVolumeAfreshWithoutAPathOfItsOwn) {
     choose("re-mount Data");
     ASSERT_EQ(manager().volumes().size(), 1U);
     EXPECT_NE(volume(), before);
-    EXPECT_TRUE(volume()->writable);
-    EXPECT_FALSE(volume()->volumePath);
-    EXPECT_EQ(volume()->label, "Data");
+    EXPECT_TRUE(volume()->writable());
+    EXPECT_FALSE(volume()->volumePath());
+    EXPECT_EQ(volume()->label(), "Data");
 }
 
 TEST_F(OlderSystem, MakesNoFolderAndAsksForNoPassword) {
@@ -92,7 +92,7 @@ TEST_F(OlderSystem, RemountsAListedVolumeOnItsOwn) {
     storeAutomountList({SomeUUID});
     mac.diskArbitration.report("disk4s1");
     turn();
-    EXPECT_TRUE(volume()->writable);
+    EXPECT_TRUE(volume()->writable());
     EXPECT_FALSE(manager().inProgress());
 }
 

@@ -38,7 +38,7 @@ TEST_F(Remount, TakesTheFirstVolumeOfAName) {
 
 TEST_F(Remount, AsksForTheDiskOfTheRecordsDescription) {
     attachQuietly("disk4s1", "Data");
-    volume()->diskData.mediaBSDName = "disk9s9";
+    changeDiskData(*volume(), [](auto& data) { data.mediaBSDName = "disk9s9"; });
     manager().remountVolumeNamed("disk4s1");
     EXPECT_THAT(newLines(), Contains("unmount: disk9s9"));
 }
@@ -68,7 +68,7 @@ TEST_F(Remount, EndsInAnAlertForNoNameAtAll) {
 TEST_F(Remount, NamesTheVolumeWithoutADiskByItsLabel) {
     attachQuietly("disk4s1", "Data");
     attachQuietly("disk5s1", "Data");
-    volume(1)->diskData.mediaBSDName.reset();
+    changeDiskData(*volume(1), [](auto& data) { data.mediaBSDName.reset(); });
     manager().remountVolume(senderFor(volume(1)));
     EXPECT_THAT(newLines(), Contains(StartsWith("text: The volume Data-disk5s1 is not mounted")));
 }
@@ -80,7 +80,7 @@ TEST_F(Remount, EndsInAnAlertWithoutARebuildWhereThereIsNoDisk) {
         return 0;
     };
     attachQuietly("disk4s1", "Data");
-    volume()->diskData.mediaBSDName.reset();
+    changeDiskData(*volume(), [](auto& data) { data.mediaBSDName.reset(); });
     manager().remountVolume(senderFor(volume()));
     turn();
     EXPECT_THAT(newLines(),
@@ -107,7 +107,7 @@ TEST_F(Remount, ReportsARefusedUnmountAndKeepsTheRecord) {
                             "Quit Brisel",
                             "icon: brisel-status-green-light"));
     EXPECT_FALSE(manager().inProgress());
-    EXPECT_FALSE(volume()->writable);
+    EXPECT_FALSE(volume()->writable());
 }
 
 TEST_F(Remount, StopsSilentlyWhereTheVolumeIsNoLongerMountable) {
@@ -153,7 +153,7 @@ TEST_F(Remount, IsStillPossibleForARecordThatIsGone) {
     manager().remountVolume(senderFor(record));
     turn();
     EXPECT_THAT(labels(), ElementsAre("Data"));
-    EXPECT_TRUE(volume()->writable);
+    EXPECT_TRUE(volume()->writable());
 }
 
 /// Disk Arbitration that completes unmounts and mounts before the request returns.
@@ -204,7 +204,7 @@ TEST_P(HastyRemount, SucceedsWhereRequestsCompleteBeforeTheyReturn) {
     turn();
     made.remountVolumeNamed("disk4s1");
     ASSERT_EQ(made.volumes().size(), 1U);
-    EXPECT_TRUE(made.volumes()[0]->writable);
+    EXPECT_TRUE(made.volumes()[0]->writable());
     EXPECT_FALSE(made.inProgress());
 }
 

@@ -96,7 +96,7 @@ TEST_F(FailureReport, OfARemountRemovesTheRecordBeforeTheAlert) {
 
 TEST_F(FailureReport, OfARemountRemovesTheFirstMatchOnly) {
     const auto twin = NTFSVolume::initWithVolume({});
-    twin->deviceNode = "disk4s1";
+    twin->setDeviceNode("disk4s1");
     manager().volumes().push_back(twin);
     reportRemountFailure(manager(), std::nullopt, description_);
     EXPECT_THAT(devices(), ElementsAre("disk5s1", "disk4s1"));

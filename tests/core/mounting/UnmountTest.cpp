@@ -46,7 +46,7 @@ TEST_F(Unmount, DropsARemountedVolumeAndItsMountPoint) {
 TEST_F(Unmount, LocatesTheVolumeByItsOwnMountFirst) {
     attachWritable("disk4s1", "Data");
     attachWritable("disk5s1", "Other");
-    volume(0)->volumePath = platform::FileURL("/Volumes/Other");
+    volume(0)->setVolumePath(platform::FileURL("/Volumes/Other"));
     manager().unmountVolume(senderFor(volume(0)));
     EXPECT_THAT(newLines(), ElementsAre("unmount: disk5s1"));
 }
@@ -124,8 +124,8 @@ TEST_F(Unmount, DropsEveryRecordOfTheDisk) {
     attachWritable("disk5s1", "Other");
     for (int copies = 0; copies < 3; ++copies) {
         const auto twin = NTFSVolume::initWithVolume({});
-        twin->deviceNode = "disk4s1";
-        twin->label = "Twin";
+        twin->setDeviceNode("disk4s1");
+        twin->setLabel("Twin");
         manager().volumes().push_back(twin);
     }
     forgetLines();

@@ -71,8 +71,8 @@ class RemovalFromTheList : public RunningProgram {
   protected:
     std::shared_ptr<NTFSVolume> mountedAt(const std::string& path) {
         const auto record = NTFSVolume::initWithVolume({});
-        record->deviceNode = "disk4s1";
-        record->volumePath = platform::FileURL(path);
+        record->setDeviceNode("disk4s1");
+        record->setVolumePath(platform::FileURL(path));
         manager().volumes().push_back(record);
         return record;
     }
@@ -108,7 +108,7 @@ TEST_F(RemovalFromTheList, LeavesAFolderWithEntriesSilently) {
 TEST_F(RemovalFromTheList, LeavesTheBusyStateAndTheAutomountListAlone) {
     storeAutomountList({SomeUUID});
     const auto record = mountedAt("/Users/user/.brisel/Data");
-    record->uuid = SomeUUID;
+    record->setUuid(SomeUUID);
     manager().setInProgress(true);
     manager().removeVolumeFromList(record);
     EXPECT_TRUE(manager().inProgress());

@@ -53,14 +53,14 @@ TEST_F(DiskAppearance, RecordsADiskThatIsNotMountedAsReadOnlyThoughTheRootIsWrit
     disk.description.volumePath.reset();
     appear(disk);
     EXPECT_TRUE(mac.fileManager.isWritableFileAtPath("/"));
-    EXPECT_FALSE(volume()->writable);
+    EXPECT_FALSE(volume()->writable());
 }
 
 TEST_F(DiskAppearance, RecordsTheTextOfAMissingDeviceNode) {
     auto disk = ntfsDisk("Data");
     disk.description.mediaBSDName.reset();
     diskAppeared(manager(), {.bsdName = "disk4s1", .reported = disk.description});
-    EXPECT_EQ(volume()->deviceNode, "(null)");
+    EXPECT_EQ(volume()->deviceNode(), "(null)");
 }
 
 TEST_F(DiskAppearance, OnlyLogsADiskOfNoKind) {
@@ -142,7 +142,7 @@ TEST_F(DiskAppearance, RemountsAReadOnlyVolumeOnTheListWithoutAPrompt) {
                 ElementsAre("log: disk disk4s1 appeared", busyMenuLine(),
                             "icon: brisel-status-orange-light", "unmount: disk4s1"));
     EXPECT_THAT(lines, Not(Contains(StartsWith("permission:"))));
-    EXPECT_TRUE(volume()->writable);
+    EXPECT_TRUE(volume()->writable());
 }
 
 TEST_F(DiskAppearance, NeverRemountsAVolumeThatIsWritableAlready) {
@@ -154,7 +154,7 @@ TEST_F(DiskAppearance, NeverRemountsAVolumeThatIsWritableAlready) {
                                         menuLine("show Data in Finder | unmount | remove all "
                                                  "extended attributes | mount manually | ---"),
                                         "icon: brisel-status-blue-light"));
-    EXPECT_TRUE(volume()->writable);
+    EXPECT_TRUE(volume()->writable());
 }
 
 TEST_F(DiskAppearance, CountsAVolumeWithoutAPathAsReadOnly) {
@@ -163,7 +163,7 @@ TEST_F(DiskAppearance, CountsAVolumeWithoutAPathAsReadOnly) {
     disk.description.volumePath.reset();
     disk.writable = true;
     appear(disk);
-    EXPECT_FALSE(volume()->writable);
+    EXPECT_FALSE(volume()->writable());
     EXPECT_THAT(newLines(), Contains("unmount: disk4s1"));
 }
 
@@ -184,8 +184,8 @@ TEST_F(DiskAppearance, RecordsAnEarlierRunsMountWithoutItsPath) {
     mac.fileSystem.makeFolder("/Users/user/.brisel/Data");
     storeAutomountList({SomeUUID});
     appear(disk);
-    EXPECT_TRUE(volume()->writable);
-    EXPECT_FALSE(volume()->volumePath);
+    EXPECT_TRUE(volume()->writable());
+    EXPECT_FALSE(volume()->volumePath());
     mac.diskArbitration.detach("disk4s1");
     turn();
     EXPECT_TRUE(mac.fileSystem.hasFolder("/Users/user/.brisel/Data"));

@@ -21,7 +21,7 @@ class DiskDisappearance : public RunningProgram {
     void attachRemounted() {
         attachQuietly("disk4s1", "Data", SomeUUID);
         choose("re-mount Data");
-        ASSERT_TRUE(volume()->volumePath);
+        ASSERT_TRUE(volume()->volumePath());
     }
 };
 
@@ -98,8 +98,8 @@ TEST_F(DiskDisappearance, IgnoresADeviceWithoutARecord) {
 TEST_F(DiskDisappearance, DropsTheFirstOfTwoRecordsOnly) {
     attachQuietly("disk4s1", "Data");
     const auto twin = NTFSVolume::initWithVolume({});
-    twin->deviceNode = "disk4s1";
-    twin->label = "Twin";
+    twin->setDeviceNode("disk4s1");
+    twin->setLabel("Twin");
     manager().volumes().push_back(twin);
     disappear();
     EXPECT_THAT(labels(), ElementsAre("Twin"));

@@ -52,7 +52,7 @@ TEST_F(UniqueLabel, GrowsBeforeTheStaleRecordAtTheEnd) {
 
 TEST_F(UniqueLabel, KnowsTheStaleRecordByItsDeviceNode) {
     attachQuietly("disk4s1", "Data");
-    volume()->diskData.mediaBSDName = "disk9s9";
+    changeDiskData(*volume(), [](auto& data) { data.mediaBSDName = "disk9s9"; });
     mac.diskArbitration.report("disk4s1");
     turn();
     EXPECT_THAT(labels(), ElementsAre("Data"));
@@ -102,7 +102,7 @@ TEST_F(StaleRecord, StopsTheHandlingOfAListedVolumeToo) {
 TEST_F(StaleRecord, StopsTheWalkAtItsFirstRemoval) {
     attachQuietly("disk4s1", "Data");
     const auto twin = NTFSVolume::initWithVolume({});
-    twin->deviceNode = "disk4s1";
+    twin->setDeviceNode("disk4s1");
     manager().volumes().push_back(twin);
     mac.diskArbitration.report("disk4s1");
     turn();

@@ -56,14 +56,5 @@ TEST_F(Menu, ChecksTheItemOfTheAction) {
     EXPECT_FALSE(menu.items()[1].checked);
 }
 
-TEST_F(Menu, TellsOnceThatItWasRebuilt) {
-    EXPECT_FALSE(menu.takeRebuilt());
-    menu.insertItem(item("a"), 0);
-    EXPECT_TRUE(menu.takeRebuilt());
-    EXPECT_FALSE(menu.takeRebuilt());
-    menu.removeItemsWithTags(std::array{5});
-    EXPECT_TRUE(menu.takeRebuilt());
-}
-
 }  // namespace
 }  // namespace brisel::tests

@@ -18,6 +18,16 @@ class Simulated : public testing::Test, public SimulatedProgram {};
 
 class Transcript : public Simulated {};
 
+TEST(TheSimulatedMenu, TellsOnceThatItWasRebuilt) {
+    platform::simulated::Menu menu;
+    EXPECT_FALSE(menu.takeRebuilt());
+    menu.insertItem({}, 0);
+    EXPECT_TRUE(menu.takeRebuilt());
+    EXPECT_FALSE(menu.takeRebuilt());
+    menu.removeItemsWithTags(std::array{5});
+    EXPECT_TRUE(menu.takeRebuilt());
+}
+
 TEST_F(Transcript, EscapesLineBreaksAndNothingElse) {
     mac.transcript.write("a\nb\\n\t\"");
     EXPECT_THAT(newLines(), ElementsAre("a\\nb\\n\t\""));

@@ -1,6 +1,6 @@
 // The ordered list of records: finding and removing.
 // SPDX-License-Identifier: MIT
-#include "volumes/VolumeList.h"
+#include "volumes/VolumeRecords.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,38 +10,38 @@ namespace {
 
 std::shared_ptr<NTFSVolume> record(const std::string& device) {
     const auto volume = NTFSVolume::initWithVolume({});
-    volume->deviceNode = device;
+    volume->setDeviceNode(device);
     return volume;
 }
 
-TEST(VolumeList, FindsTheFirstMatch) {
-    const VolumeList list{record("disk1"), record("disk2"), record("disk2")};
+TEST(VolumeRecords, FindsTheFirstMatch) {
+    const VolumeRecords list{record("disk1"), record("disk2"), record("disk2")};
     EXPECT_EQ(findVolume(list, "disk2"), list[1]);
 }
 
-TEST(VolumeList, FindsNothingForAnUnknownDeviceOrNone) {
-    const VolumeList list{record("disk1"), NTFSVolume::initWithVolume({})};
+TEST(VolumeRecords, FindsNothingForAnUnknownDeviceOrNone) {
+    const VolumeRecords list{record("disk1"), NTFSVolume::initWithVolume({})};
     EXPECT_EQ(findVolume(list, "disk10"), nullptr);
     EXPECT_EQ(findVolume(list, std::nullopt), nullptr);
 }
 
-TEST(VolumeList, RemovesByIdentity) {
+TEST(VolumeRecords, RemovesByIdentity) {
     const auto one = record("disk1");
     const auto equal = record("disk1");
-    VolumeList list{one, equal};
+    VolumeRecords list{one, equal};
     removeVolume(list, *equal);
     EXPECT_THAT(list, testing::ElementsAre(one));
 }
 
-TEST(VolumeList, LosesNothingWithARecordItDoesNotHold) {
-    VolumeList list{record("disk1")};
+TEST(VolumeRecords, LosesNothingWithARecordItDoesNotHold) {
+    VolumeRecords list{record("disk1")};
     removeVolume(list, *record("disk1"));
     EXPECT_EQ(list.size(), 1U);
 }
 
-TEST(VolumeList, LosesOnlyTheFirstOfADevice) {
+TEST(VolumeRecords, LosesOnlyTheFirstOfADevice) {
     const auto second = record("disk1");
-    VolumeList list{record("disk1"), second};
+    VolumeRecords list{record("disk1"), second};
     removeFirstVolume(list, "disk1");
     EXPECT_THAT(list, testing::ElementsAre(second));
     removeFirstVolume(list, "disk2");

@@ -1,0 +1,31 @@
+// The services of brisel, in the tray of a Linux desktop.
+// SPDX-License-Identifier: MIT
+#include "entry/desktop/Services.h"
+
+#include <iostream>
+
+#include "platform/common/VisibleText.h"
+
+namespace brisel::desktop {
+
+namespace {
+
+void printLogEntry(const std::string& text) {
+    std::cerr << "brisel: " + platform::common::visible(text) + '\n';
+}
+
+}  // namespace
+
+Services::Services(GDBusConnection* bus)
+    : systemLog(&printLogEntry),
+      singleInstance(bus),
+      notifications(bus),
+      statusItem({.bus = bus,
+                  .log = systemLog,
+                  .bundle = bundle,
+                  .menu = statusMenu,
+                  .mainThread = mainThread}) {}
+
+Services::~Services() = default;
+
+}  // namespace brisel::desktop
