@@ -1,5 +1,5 @@
 # What there is to do with the sources; CMakePresets.json says how each build is made.
-.PHONY: all run test macos-stage bench bench-desktop package coverage mutants tidy diagram format clean
+.PHONY: all run test macos-stage bench bench-desktop package coverage tidy diagram format clean
 
 all:
 	scripts/install-needs build
@@ -62,11 +62,6 @@ package:
 coverage:
 	scripts/install-needs test
 	scripts/coverage
-
-# Which small mistakes in the core would the tests miss? In a copy of the tree.
-mutants:
-	scripts/install-needs test
-	/usr/bin/python3 -B tests/mutation/mutation_check.py
 
 tidy:
 	scripts/install-needs test
