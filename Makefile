@@ -1,5 +1,5 @@
 # What there is to do with the sources; CMakePresets.json says how each build is made.
-.PHONY: all run test macos-stage bench bench-desktop package coverage tidy diagram format clean
+.PHONY: all run test macos-stage bench bench-desktop package coverage fuzz tidy diagram format clean
 
 all:
 	scripts/install-needs build
@@ -62,6 +62,13 @@ package:
 coverage:
 	scripts/install-needs test
 	scripts/coverage
+
+# Each fuzz target for that long, one after the other.
+fuzz: SECONDS ?= 60
+fuzz:
+	scripts/install-needs test
+	cmake --preset asan
+	BRISEL_FUZZ_SECONDS=$(SECONDS) cmake --build --preset asan --target fuzz
 
 tidy:
 	scripts/install-needs test

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/soak/Rule.h"
+#include "tests/rules/Rule.h"
 
 namespace brisel::tests {
 

@@ -1,11 +1,11 @@
-// The rules of the soak run: whether each sees that it is broken.
+// The rules, each on a program that breaks it.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "tests/soak/Rule.h"
+#include "tests/rules/Rule.h"
 #include "tests/support/RunningProgram.h"
 
 namespace brisel::tests {

@@ -4,13 +4,13 @@
 
 #include <set>
 
-#include "tests/soak/Rule.h"
+#include "tests/rules/Rule.h"
 
 namespace brisel::tests {
 
 /// New records come last and one by one, for the disk that was just reported or mounted. The others
 /// stay the same objects in the same order. What goes is the record of a disk that was reported, or
-/// was to be unmounted; no device has two.
+/// was to be unmounted.
 class ListRule final : public Rule {
   public:
     using Rule::Rule;
@@ -21,13 +21,19 @@ class ListRule final : public Rule {
     void compare();
     void checkThatTheyMightGo(const VolumeList& now) const;
     void checkThatTheyMightCome(const VolumeList& now, std::size_t kept) const;
-    void checkThatDevicesDiffer() const;
 
     VolumeList before_;
     std::string appeared_;
     std::string disappeared_;
     std::set<std::string> unmounted_;
     std::string mounted_;
+};
+
+/// No device has two records.
+class DeviceRule final : public Rule {
+  public:
+    using Rule::Rule;
+    void rest(bool blocked) override;
 };
 
 }  // namespace brisel::tests

@@ -1,6 +1,6 @@
 // What operations leave behind.
 // SPDX-License-Identifier: MIT
-#include "tests/soak/OperationRules.h"
+#include "tests/rules/OperationRules.h"
 
 #include <algorithm>
 

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "simulator/Words.h"
-#include "tests/soak/Rule.h"
+#include "tests/rules/Rule.h"
 
 namespace brisel::tests {
 

@@ -57,6 +57,15 @@ std::optional<std::string> after(std::string_view prefix, const std::string& lin
 
 using Rules = std::vector<std::unique_ptr<Rule>>;
 
+/// A rule of each of these classes.
+template <typename... Each>
+Rules makeRules(platform::simulated::Mac& mac, const simulator::Program& program,
+                const Rule::Broken& broken) {
+    Rules rules;
+    (rules.push_back(std::make_unique<Each>(mac, program, broken)), ...);
+    return rules;
+}
+
 /// Every rule there is.
 Rules allRules(platform::simulated::Mac& mac, const simulator::Program& program,
                const Rule::Broken& broken);

@@ -1,6 +1,6 @@
 // What is on the screen fits what the program knows.
 // SPDX-License-Identifier: MIT
-#include "tests/soak/ScreenRules.h"
+#include "tests/rules/ScreenRules.h"
 
 #include <algorithm>
 #include <array>
