@@ -31,7 +31,7 @@ RandomCommands::Lines longList(std::size_t length) {
 }  // namespace
 
 RandomCommands::RandomCommands(unsigned seed, std::size_t steps)
-    : chance_(seed + 1),
+    : chance_(seed),
       long_(steps > 0),
       stepsBeforeStart_(long_ ? 30 : pick(std::vector<std::size_t>{0, 0, 0, 2, 6})),
       steps_(long_ ? steps : FewestSteps + below(StepsOfAShortOne)) {
@@ -39,8 +39,7 @@ RandomCommands::RandomCommands(unsigned seed, std::size_t steps)
 }
 
 unsigned RandomCommands::below(std::size_t limit) {
-    // The low bits of this engine are poor.
-    return static_cast<unsigned>((chance_() >> 8U) % limit);
+    return static_cast<unsigned>(chance_() % limit);
 }
 
 std::string RandomCommands::word(const std::string& text) {

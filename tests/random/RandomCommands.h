@@ -77,7 +77,7 @@ class RandomCommands final : public simulator::CommandSource {
     std::string respond();
     std::string answer();
 
-    std::minstd_rand chance_;
+    std::mt19937 chance_;
     const bool long_;
     std::size_t stepsBeforeStart_;
     std::size_t steps_;

@@ -7,7 +7,7 @@
 namespace brisel::tests {
 
 struct Soak {
-    std::size_t scenarios = 10;
+    std::size_t scenarios = 20;
     std::size_t steps = 2000;
     unsigned firstSeed = 1;
 };
