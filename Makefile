@@ -1,5 +1,5 @@
 # What there is to do with the sources; CMakePresets.json says how each build is made.
-.PHONY: all run test macos-stage bench bench-desktop package coverage mutants tidy diagram format clean
+.PHONY: all run test macos-stage bench bench-desktop package coverage fuzz tidy diagram format clean
 
 all:
 	scripts/install-needs build
@@ -63,10 +63,12 @@ coverage:
 	scripts/install-needs test
 	scripts/coverage
 
-# Which small mistakes in the core would the tests miss? In a copy of the tree.
-mutants:
+# Each fuzz target for that long, one after the other.
+fuzz: SECONDS ?= 60
+fuzz:
 	scripts/install-needs test
-	/usr/bin/python3 -B tests/mutation/mutation_check.py
+	cmake --preset asan
+	BRISEL_FUZZ_SECONDS=$(SECONDS) cmake --build --preset asan --target fuzz
 
 tidy:
 	scripts/install-needs test

@@ -4,13 +4,9 @@ import pathlib
 import tempfile
 import unittest
 
-import commands_test
 import diagram_test
 import links_test
-from house import House
 from printed_test import is_printed
-
-PRESETS = '{"configurePresets": [{"name": "release"}, {"name": "base", "hidden": true}]}'
 
 
 class Tree(unittest.TestCase):
@@ -20,12 +16,8 @@ class Tree(unittest.TestCase):
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
         self.root = pathlib.Path(scratch.name)
-        for name, text in {"CMakePresets.json": PRESETS, "CMakeLists.txt": "option(BRISEL_TESTS)\n",
-                           "Makefile": ".PHONY: empty\nall:\n\ttrue\nother:\n\tcmake --preset gone\n",
-                           ".ci/run": "make other\n", "tests/docs/commands.txt": "",
-                           "docs/pictures/used.png": "", "scripts/tool": "",
-                           "README.md": "![](docs/pictures/used.png)\n"}.items():
-            self.write(name, text)
+        self.write("docs/pictures/used.png", "")
+        self.write("scripts/tool", "")
 
     def write(self, name, text):
         path = self.root / name
@@ -34,83 +26,6 @@ class Tree(unittest.TestCase):
 
     def write_readme(self, text):
         self.write("README.md", f"# Its heading\n![](docs/pictures/used.png)\n{text}\n")
-
-
-class Commands(Tree):
-    def complaints(self, readme="", table=""):
-        self.write_readme(readme)
-        self.write("tests/docs/commands.txt", table)
-        house = House(self.root, self.root / "build", self.root / "bin")
-        house.tests = {"good.test", "macos-stage.other"}
-        return "\n".join(commands_test.complaints(house))
-
-    def check_way(self, command, way, complaint):
-        """A way that does not hold the command right is complained about."""
-        self.assertIn(complaint, self.complaints(f"```sh\n{command}\n```", f"{command}\n    {way}\n"))
-
-    def check_good(self, command, way):
-        self.assertEqual(self.complaints(f"```sh\n{command}\n```", f"{command}\n    {way}\n"), "")
-
-    def test_are_content_with_what_is_right(self):
-        self.check_good("true", "run")
-        self.check_good("make", "make")
-        self.check_good("make other", "ci")
-        self.check_good("scripts/tool x", "test: good.test")
-        self.check_good("cmake --preset release", "holds: .ci/run: other")
-        self.check_good("rm -rf ~/.config/brisel ~/.config/autostart ~/.brisel", "home")
-
-    def test_must_have_an_entry_in_a_block(self):
-        self.assertIn("README.md:4: nothing holds `cp a b` to be right",
-                      self.complaints("```sh\ncp a b\n```"))
-
-    def test_must_have_an_entry_in_a_line(self):
-        self.assertIn("README.md:3: nothing holds `make` to be right",
-                      self.complaints("Type `make`, not `help`."))
-        self.assertIn("nothing holds `scripts/tool x` to be right",
-                      self.complaints("Type `scripts/tool x`."))
-
-    def test_that_go_on_in_the_next_line_are_one(self):
-        self.assertIn("`cp a b`", self.complaints("```sh\ncp a \\\n  b\n```"))
-
-    def test_must_be_in_a_document(self):
-        self.assertIn("`make` is in no document any more", self.complaints("", "make\n    make\n"))
-
-    def test_must_have_a_way(self):
-        self.assertIn("nothing holds it", self.complaints("`make`", "make\n"))
-        self.check_way("make", "hope", 'there is no way "hope"')
-
-    def test_must_be_a_shell_s(self):
-        self.check_way("cp 'a b", "person: x", "a shell does not understand it")
-
-    def test_must_name_what_is_there(self):
-        self.check_way("scripts/gone x", "person: x", "there is no scripts/gone")
-        self.check_way("build/bin/gone x", "person: x", "nothing builds build/bin/gone")
-        self.check_way("cmake --preset base", "person: x", "there is no configure preset base")
-        self.check_way("ctest --preset release", "person: x", "there is no test preset release")
-
-    def test_must_do_what_is_said_of_them(self):
-        self.check_way("false", "run", "it ends with 1")
-        self.check_way("make gone", "make", "make does not know that target")
-        self.check_way("make empty", "make", "make does nothing for that target")
-        self.check_way("make other", "make", "there is no configure preset gone")
-        self.check_way("make", "part of make other", "`make other` does not do `true`")
-        self.check_way("make", "ci", ".ci/run does not run it")
-        self.check_way("true", "test: bad.test", "there is no test bad.test")
-        self.check_way("true", "test: macos-stage.gone", "there is no test macos-stage.gone")
-        self.check_way("true", "holds: .ci/run: x", ".ci/run does not have: x")
-        self.check_way("true", "person:", "it is not said why")
-        self.check_way("rm -rf ~/.brisel", "home", "leave .config/brisel")
-
-    def test_must_print_what_is_said_of_them(self):
-        self.assertIn("it does not print what is in .ci/run",
-                      self.complaints("`sh -c true`", "sh -c true\n    run\n    prints: .ci/run\n"))
-
-    def test_stand_in_blocks_that_say_so(self):
-        self.assertIn("say behind the fence", self.complaints("```\nmake\n```"))
-
-    def test_may_be_options_that_cmake_knows(self):
-        self.assertEqual(self.complaints("`-DBRISEL_TESTS=OFF`"), "")
-        self.assertIn("CMake is told nothing of BRISEL", self.complaints("`-DBRISEL=OFF`"))
 
 
 class Links(Tree):

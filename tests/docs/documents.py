@@ -1,11 +1,9 @@
-# What stands in the documents: commands, what programs print, links and headings.
+# What stands in the documents: what programs print, links and headings.
 # SPDX-License-Identifier: MIT
 import re
 from dataclasses import dataclass
 
 FENCE = re.compile(r"^\s*```(\S*)\s*$")
-# A comment behind a command. No command in the documents has such a sign otherwise.
-COMMENT = re.compile(r"\s+#\s.*$")
 SPAN = re.compile(r"(?<!`)`((?:(?!\n\n)[^`])+)`(?!`)")
 # A link whose text is a name in the sources.
 NAME_LINK = re.compile(r"\[`([^`\[\]]+)`\]\(([^()\s#]+)\)")
@@ -46,22 +44,6 @@ class Document:
             elif block:
                 block.lines.append(line)
         return "\n".join(prose)
-
-    def typed(self):
-        """Line and text of each command in a block; one that goes on in the next line is one."""
-        for block in self.blocks:
-            if block.kind != "sh":
-                continue
-            text = "\n".join(block.lines).replace("\\\n", " ")
-            for offset, line in enumerate(text.split("\n"), 1):
-                command = " ".join(COMMENT.sub("", line).split())
-                if command and not command.startswith("#"):
-                    yield block.line + offset, command
-
-    def spans(self):
-        """Line and text of what stands in backquotes."""
-        for found in SPAN.finditer(self._prose):
-            yield self._line(found), " ".join(found.group(1).split())
 
     def links(self):
         """Line and target of each link and picture."""

@@ -7,30 +7,24 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
-#include <set>
 
-#include "simulator/Scenario.h"
 #include "tests/faults/FaultExpectations.h"
 #include "tests/faults/ScenarioAndProbe.h"
+#include "tests/rules/WatchedScenario.h"
 
 namespace brisel::tests {
 
 namespace {
 
 using Lines = std::vector<std::string>;
-using simulator::Scenario;
 using ::testing::Contains;
+using ::testing::IsEmpty;
 using ::testing::StartsWith;
-
-/// Scenarios that are about bad commands stop at one, so there is nothing to walk.
-constexpr std::string_view BadCommandPrefix = "bad-";
 
 Lines scenarioNames() {
     Lines names;
     for (const auto& entry : std::filesystem::directory_iterator(BRISEL_SCENARIO_FOLDER)) {
-        const auto name = entry.path().stem().string();
-        const bool scenario = entry.path().extension() == ".scenario";
-        if (scenario && !name.starts_with(BadCommandPrefix)) names.push_back(name);
+        if (entry.path().extension() == ".scenario") names.push_back(entry.path().stem().string());
     }
     std::sort(names.begin(), names.end());
     return names;
@@ -50,26 +44,23 @@ class FaultyRun {
     /// `failing` counts from 1; with 0 no call fails.
     FaultyRun(const Lines& commands, std::size_t failing)
         : source_(commands, transcript_),
-          scenario_(source_, [this](const std::string& line) { hear(line); },
-                    {.onBadCommand = Scenario::OnBadCommand::GoOn,
-                     .echo = Scenario::Echo::Nothing,
-                     .badCommandHandler = [](const Scenario::BadCommand&) {},
-                     .afterCommand = [this] { checkThatNoDeviceHasTwoRecords(); }}) {
-        scenario_.mac().faults.failCall(failing);
-        scenario_.run();
-        scenario_.mac().mainLoop.post([this] { loopTurned_ = true; });
-        scenario_.mac().mainLoop.turnUntilIdle();
+          watched_(source_, {.line = [this](const std::string& line) { hear(line); }}) {
+        mac().faults.failCall(failing);
+        watched_.run();
+        mac().mainLoop.post([this] { loopTurned_ = true; });
+        mac().mainLoop.turnUntilIdle();
     }
 
-    [[nodiscard]] const platform::simulated::Faults& faults() { return scenario_.mac().faults; }
-    [[nodiscard]] const platform::Bundle& bundle() { return scenario_.mac().bundle; }
+    [[nodiscard]] const platform::simulated::Faults& faults() { return mac().faults; }
+    [[nodiscard]] const platform::Bundle& bundle() { return mac().bundle; }
+    [[nodiscard]] const Lines& brokenRules() const { return watched_.broken(); }
     [[nodiscard]] bool loopTurned() const { return loopTurned_; }
 
     /// Whether the program, or the simulation before it was started, has ended.
     [[nodiscard]] bool hasEnded() {
         const bool terminated =
             std::find(transcript_.begin(), transcript_.end(), "terminate") != transcript_.end();
-        return terminated || !scenario_.program().started();
+        return terminated || !watched_.scenario().program().started();
     }
 
     /// Up to the probe, where the fault came before it.
@@ -88,28 +79,22 @@ class FaultyRun {
 
   private:
     void hear(const std::string& line) {
+        if (line.starts_with("> ")) return;
         if (faults().struck().empty()) linesBeforeFault_ = transcript_.size() + 1;
         transcript_.push_back(line);
     }
 
-    void checkThatNoDeviceHasTwoRecords() {
-        const auto* const manager = scenario_.program().manager();
-        if (manager == nullptr) return;
-        std::set<std::optional<std::string>> devices;
-        for (const auto& volume : manager->volumes()) {
-            EXPECT_TRUE(devices.insert(volume->deviceNode()).second)
-                << "two records of " << volume->deviceNode().value_or("no device");
-        }
-    }
+    platform::simulated::Mac& mac() { return watched_.scenario().mac(); }
 
     Lines transcript_;
     std::size_t linesBeforeFault_ = 0;
     bool loopTurned_ = false;
     ScenarioAndProbe source_;
-    Scenario scenario_;
+    WatchedScenario watched_;
 };
 
 void checkThatTheProgramLives(FaultyRun& run) {
+    EXPECT_THAT(run.brokenRules(), IsEmpty());
     EXPECT_TRUE(run.loopTurned());
     if (run.hasEnded()) return;
     const auto lines = run.linesOfTheProbe();

@@ -3,10 +3,13 @@
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <array>
+#include <iostream>
 
 #include "platform/simulated/ProgramEnded.h"
 #include "simulator/DirectProgram.h"
-#include "tests/fuzz/Invariants.h"
+#include "tests/fuzz/Must.h"
+#include "tests/rules/ListRule.h"
+#include "tests/rules/ScreenRules.h"
 #include "volumes/DiskEvents.h"
 
 namespace {
@@ -48,6 +51,10 @@ class Session {
   public:
     explicit Session(FuzzedDataProvider& input) : input_(input), person_(input) {
         mac_.transcript.keepNothing();
+        mac_.transcript.setListener([this](const std::string& line) {
+            for (const auto& rule : rules_)
+                rule->hear(line);
+        });
         mac_.systemVersion.setMacOS12OrLater(input_.ConsumeBool());
         mac_.userDefaults.store("showDisclaimer", false);
     }
@@ -57,7 +64,8 @@ class Session {
         for (std::size_t left = MostSteps; left > 0 && input_.remaining_bytes() > 0; --left) {
             step();
             mac_.mainLoop.turnUntilIdle();
-            tests::checkInvariants(manager(), mac_);
+            for (const auto& rule : rules_)
+                rule->rest(false);
         }
     }
 
@@ -153,6 +161,11 @@ class Session {
     RandomPerson person_;
     platform::simulated::Mac mac_{person_};
     simulator::DirectProgram program_{mac_};
+    tests::Rules rules_ = tests::makeRules<tests::DeviceRule, tests::MenuRule>(
+        mac_, program_, [](const std::string& sentence) {
+            std::cerr << sentence << '\n';
+            tests::must(false);
+        });
     platform::MenuItem lastChosen_;
 };
 

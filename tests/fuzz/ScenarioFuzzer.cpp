@@ -1,16 +1,16 @@
-// Fuzz target: any bytes, as a scenario.
+// Fuzz target: any bytes, as a scenario under all rules.
 // SPDX-License-Identifier: MIT
 #include <cstddef>
 #include <cstdint>
+#include <iostream>
 #include <sstream>
 
-#include "simulator/Scenario.h"
-#include "tests/fuzz/Invariants.h"
+#include "tests/fuzz/Must.h"
+#include "tests/rules/WatchedScenario.h"
 
 namespace {
 
 using brisel::simulator::CommandSource;
-using brisel::simulator::Scenario;
 using brisel::simulator::StreamSource;
 
 /// The first lines of a stream. Each line may start a real child process, so few will do.
@@ -32,20 +32,11 @@ class FewLines final : public CommandSource {
 void runScenario(const std::string& text) {
     std::istringstream stream(text);
     FewLines source(stream);
-    Scenario* running = nullptr;
-    Scenario::Manner manner{.onBadCommand = Scenario::OnBadCommand::GoOn,
-                            .echo = Scenario::Echo::Commands,
-                            .badCommandHandler = [](const Scenario::BadCommand&) {},
-                            .afterCommand =
-                                [&running] {
-                                    const auto* const manager = running->program().manager();
-                                    if (manager == nullptr) return;
-                                    brisel::tests::checkInvariants(*manager, running->mac());
-                                }};
-    Scenario scenario(
-        source, [](const std::string&) {}, manner);
-    running = &scenario;
+    brisel::tests::WatchedScenario scenario(source, {});
     scenario.run();
+    for (const auto& sentence : scenario.broken())
+        std::cerr << sentence << '\n';
+    brisel::tests::must(scenario.broken().empty());
 }
 
 }  // namespace

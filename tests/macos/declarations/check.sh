@@ -4,8 +4,8 @@
 #
 # usage: check.sh ROOT x86_64|arm64 [SOURCE...]
 #
-# Compiles for macOS 11 and stops short of the code: what it shows is that the sources agree with
-# the interfaces as they are declared here. The C++ library is this system's, and so are the C
+# Compiles for macOS 11 and stops short of the code: what it shows is that the sources, and the facts
+# in facts.mm, agree with the interfaces as they are declared here. The C++ library is this system's, and so are the C
 # headers that include/ does not have, with their numbers of errors and signals.
 cd "$1" || exit 2
 processor=$2
@@ -36,9 +36,9 @@ system_folders() {
         sed -n '/^#include <\.\.\.>/,/^End of/s/^ \//-isystem \//p' | grep -v /clang/
 }
 
-# A bridging cast looks like one of C's.
-leniency() {
-    case $1 in *.mm) echo "-Wno-old-style-cast" ;; esac
+# check ARGUMENTS...: all sources in one run of the compiler.
+check() {
+    "$compiler" -fsyntax-only $options "$@" || broken=1
 }
 
 if ! command -v "$compiler" >/dev/null; then
@@ -46,20 +46,26 @@ if ! command -v "$compiler" >/dev/null; then
     exit 1
 fi
 if [ $# -eq 0 ]; then
-    # With the Mac's own, what asks more of a system than the standard library.
-    set -- $(find src/platform/macos src/entry/macos helper src/platform/common src/platform/simulated src/privileged \
-        -name '*.mm' -o -name '*.cpp' | sort)
-fi
-if [ $# -eq 0 ]; then
-    echo "there is no macOS source" >&2
-    exit 1
+    # What the application is built of, and what of the simulator asks for more than the standard library.
+    set -- $(find src/platform/macos src/entry/macos helper src/platform/common src/privileged \
+        -name '*.mm' -o -name '*.cpp' | sort) $(grep -l '#include <.*\.h>' src/platform/simulated/*.cpp)
+    if [ $# -eq 0 ]; then
+        echo "there is no macOS source" >&2
+        exit 1
+    fi
+    set -- "$@" $macos/declarations/facts.mm
 fi
 options="-target $processor-apple-macos11.0 $(pretend) $settings $warnings
     -nostdinc++ -isystem $macos/declarations/include -isystem $macos/frameworks/include
     $(system_folders)"
 
-broken=0
+objective=
+plain=
 for source in "$@"; do
-    "$compiler" -fsyntax-only $options $(leniency "$source") "$source" || broken=1
+    case $source in *.mm) objective="$objective $source" ;; *) plain="$plain $source" ;; esac
 done
+broken=0
+# A bridging cast looks like one of C's.
+[ -z "$objective" ] || check -Wno-old-style-cast $objective
+[ -z "$plain" ] || check $plain
 exit $broken

@@ -11,32 +11,34 @@ processor=$2
 wrong=tests/macos/declarations/wrong
 failures=0
 
+output=$(mktemp) || exit 1
+trap 'rm -f "$output"' EXIT
+
 word() {
-    sed -n "s|^// $1: ||p" "$root/$wrong/$source"
+    sed -n "s|^// $1: ||p" "$root/$source"
 }
 
-faulty_lines() {
-    printf '%s\n' "$output" | grep ' error: ' | cut -d: -f1,2 | sort -u
+errors() {
+    grep "^$source:.* error: " "$output"
 }
 
 complain() {
     echo "$source: $1"
-    printf '%s\n' "$output"
+    errors
     failures=1
 }
 
-for path in "$root/$wrong"/*; do
-    source=${path##*/}
-    output=$(sh "$root/tests/macos/declarations/check.sh" "$root" "$processor" "$wrong/$source" 2>&1)
-    status=$?
+sources=$(cd "$root" && ls $wrong/*)
+sh "$root/tests/macos/declarations/check.sh" "$root" "$processor" $sources >"$output" 2>&1
+for source in $sources; do
     only=$(word only)
     if [ "${only:-$processor}" != "$processor" ]; then
-        [ -z "$output" ] || complain "is not accepted for $processor"
-    elif [ $status -eq 0 ]; then
+        [ -z "$(errors)" ] || complain "is not accepted for $processor"
+    elif [ -z "$(errors)" ]; then
         complain "is accepted for $processor"
-    elif ! printf '%s\n' "$output" | grep ' error: ' | grep -qF -- "$(word says)"; then
+    elif ! errors | grep -qF -- "$(word says)"; then
         complain "is refused for $processor, but not for its fault"
-    elif [ "$(faulty_lines | wc -l)" -ne 1 ]; then
+    elif [ "$(errors | cut -d: -f1,2 | sort -u | wc -l)" -ne 1 ]; then
         complain "is refused for $processor for more than its fault"
     fi
 done

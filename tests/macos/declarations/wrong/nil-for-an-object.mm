@@ -1,9 +1,0 @@
-// Nil is given where there must be an object.
-// SPDX-License-Identifier: MIT
-//
-// says: null passed to a callee that requires a non-null argument
-#import <AppKit/AppKit.h>
-
-BOOL openNothing() {
-    return [[NSWorkspace sharedWorkspace] openURL:nil];
-}
