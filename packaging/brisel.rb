@@ -16,7 +16,7 @@ cask "brisel" do
   uninstall launchctl: "org.brisel.BriselHelper",
             quit:      "org.brisel.Brisel"
 
-  # ~/.brisel may hold mounted volumes: remove it only if empty.
+  # The mount folder may hold mounted volumes: remove it only if empty.
   zap trash: "~/Library/Preferences/org.brisel.Brisel.plist",
       rmdir: "~/.brisel"
 end

@@ -52,9 +52,9 @@ TEST(InstalledPlatform, IsTheOneInstalledLast) {
     SimulatedProgram one;
     SimulatedProgram other;
     platform::install(one.mac.platform);
-    EXPECT_EQ(&platform::installed(), &one.mac.platform);
+    EXPECT_EQ(&platform::installed().systemLog, &one.mac.systemLog);
     platform::install(other.mac.platform);
-    EXPECT_EQ(&platform::installed(), &other.mac.platform);
+    EXPECT_EQ(&platform::installed().systemLog, &other.mac.systemLog);
 }
 
 }  // namespace
