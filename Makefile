@@ -1,15 +1,20 @@
 # What there is to do with the sources; CMakePresets.json says how each build is made.
-.PHONY: all run test macos-stage bench bench-desktop package coverage fuzz tidy diagram format clean
+.PHONY: all deps run test macos-stage bench bench-desktop package coverage fuzz tidy diagram format clean
 
+# Installs nothing; `make deps` does.
 all:
-	scripts/install-needs build
+	@scripts/install-needs --check build
 	cmake --preset release
 	cmake --build --preset release
+
+# Installs what any of the targets needs.
+deps:
+	scripts/install-needs all
 
 run:
 	scripts/install-needs run
 	cmake --preset release
-	cmake --build --preset release
+	cmake --build --preset run
 	scripts/main-job build/bin
 
 # Both compilers, all tests under the address, undefined-behaviour and leak sanitizers, those with
@@ -39,8 +44,8 @@ bench:
 	scripts/install-needs bench
 	cmake --preset bench
 	cmake --build --preset bench
-	build/bin/brisel-benchmarks
-	build/bin/brisel-benchmarks --check-growth
+	build/bench/bin/brisel-benchmarks
+	build/bench/bin/brisel-benchmarks --check-growth
 
 # Beside another tray program, in a session of its own; better on a machine that does nothing else.
 bench-desktop:

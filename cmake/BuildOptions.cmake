@@ -5,9 +5,6 @@ target_include_directories(brisel_options INTERFACE ${PROJECT_SOURCE_DIR}/src ${
 target_compile_options(brisel_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
   -Wold-style-cast -Woverloaded-virtual -Wnull-dereference)
-if(BRISEL_WARNINGS_AS_ERRORS)
-  target_compile_options(brisel_options INTERFACE -Werror)
-endif()
 
 if(BRISEL_SANITIZERS)
   target_compile_options(brisel_options INTERFACE
@@ -30,10 +27,11 @@ if(BRISEL_COVERAGE)
   target_link_options(brisel_options INTERFACE --coverage)
 endif()
 
-# What keeps a released program hard to attack.
+# Hardening, in every build type that is optimised.
+set(optimised $<NOT:$<CONFIG:Debug>>)
 if(NOT APPLE)
-  target_link_options(brisel_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
+  target_link_options(brisel_options INTERFACE $<${optimised}:-Wl,-z,relro,-z,now>)
 endif()
 target_compile_options(brisel_options INTERFACE
-  $<$<CONFIG:Release>:-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  $<${optimised}:-fstack-protector-strong> $<${optimised}:-U_FORTIFY_SOURCE>
+  $<${optimised}:-D_FORTIFY_SOURCE=2>)
