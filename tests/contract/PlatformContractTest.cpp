@@ -1,4 +1,4 @@
-// What every platform's services promise alike, held against each that can run here.
+// Contract tests: one suite of service tests, run on each platform available here.
 // SPDX-License-Identifier: MIT
 #include <glib.h>
 #include <gtest/gtest.h>
@@ -19,7 +19,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// The simulated Mac's services.
 class Simulated {
   public:
     platform::FileManager& files() { return mac_.fileManager; }
@@ -34,7 +33,6 @@ class Simulated {
     platform::simulated::Mac mac_{person_};
 };
 
-/// This Linux machine's services.
 class Linux {
   public:
     platform::FileManager& files() { return files_; }

@@ -1,4 +1,4 @@
-// The login item finds the application that it lies in.
+// Path of the application that contains the login item.
 // SPDX-License-Identifier: MIT
 #include "helper/EnclosingApplication.h"
 

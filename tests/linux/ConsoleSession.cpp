@@ -89,7 +89,7 @@ std::string ConsoleSession::restOfLine() {
 }
 
 bool ConsoleSession::choose(const std::string& title) {
-    // The whole menu stands there once its last item does.
+    // The last item: the menu is complete.
     if (!waitFor("Quit Brisel")) return false;
     const auto end = output_.rfind("  " + title + "\n");
     if (end == std::string::npos) return false;
@@ -100,7 +100,7 @@ bool ConsoleSession::choose(const std::string& title) {
 }
 
 std::string ConsoleSession::menu() {
-    // A menu that was printed before is not the answer.
+    // Skips menus printed earlier.
     while (readMore(std::chrono::steady_clock::now() + std::chrono::milliseconds(2))) {
     }
     seen_ = output_.size();

@@ -1,4 +1,4 @@
-// brisel-console as a child process, used as a person uses it: by reading and typing.
+// Drives brisel-console as a child process, through its standard input and output.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,32 +11,31 @@ namespace brisel::tests {
 
 class ConsoleSession {
   public:
-    /// Starts the program with `home` as home folder, and with preferences of its own there.
+    /// Starts `program` with `home` as its home directory, which also holds its preferences.
     ConsoleSession(const std::string& program, const std::string& home);
     ConsoleSession(const ConsoleSession&) = delete;
     ConsoleSession& operator=(const ConsoleSession&) = delete;
-    /// Ends the program, by force if it must.
+    /// Kills the program if it still runs.
     ~ConsoleSession();
 
     void type(const std::string& line) const;
-    /// Waits until the text has been printed, after what was waited for before; false if it does
-    /// not come in time.
+    /// Waits until `text` is printed after the last match; false on timeout.
     bool waitFor(const std::string& text);
-    /// Types the number that stands before the title in the menu printed last.
+    /// Waits for the menu and types the number of the item `title`; false if it is absent.
     bool choose(const std::string& title);
-    /// Asks for the menu and returns it, a line an item.
+    /// Types `menu` and returns the printed menu, one line per item.
     [[nodiscard]] std::string menu();
-    /// The rest of the line after the text that was waited for last.
+    /// The rest of the line after the last match of waitFor().
     [[nodiscard]] std::string restOfLine();
-    /// All that was printed so far.
+    /// The whole output so far.
     [[nodiscard]] const std::string& output() const { return output_; }
-    /// Whether the text was printed, from the start on.
+    /// True if `text` occurs in the output so far.
     [[nodiscard]] bool printed(const std::string& text) const;
     /// Types `quit` and returns the exit status.
     int quit();
 
   private:
-    /// False when nothing more came before `deadline`.
+    /// Reads more output; false if none arrives before `deadline`.
     bool readMore(std::chrono::steady_clock::time_point deadline);
 
     pid_t child_ = 0;

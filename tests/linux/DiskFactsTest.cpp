@@ -1,4 +1,4 @@
-// What UDisks2 and the kernel say of disks, read into the program's own terms.
+// UDisks2 properties and mountinfo lines, converted to the program's terms.
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
@@ -93,7 +93,7 @@ TEST(DiskDescription, OfAnIgnoredDiskIsNotMountable) {
     EXPECT_EQ(describe(properties).volumeMountable, false);
 }
 
-// The expected text was worked out with another implementation of name-based UUIDs.
+// Expected value from an independent UUID implementation.
 TEST(UUIDText, OfASerialNumberIsANameBasedUUID) {
     EXPECT_EQ(uuidText("4FF6D5AE2056652A"), "FDC51158-4C14-5DC8-B93E-8D96241BE74B");
     EXPECT_EQ(uuidText("4ff6d5ae2056652a"), uuidText("4FF6D5AE2056652A"));

@@ -1,4 +1,4 @@
-// Loops of one's own and of other threads, and what waits for them.
+// Main loops of several threads, and the work handed to them.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/MainContext.h"
 
@@ -31,7 +31,7 @@ class ALoop : public testing::Test {
             if (end >= 0) close(end);
         }
     }
-    /// Does all that waits now.
+    /// Dispatches all ready sources.
     void turn() const {
         while (g_main_context_iteration(loop_->context(), FALSE) != FALSE) {
         }

@@ -28,7 +28,7 @@ bool succeeds(const std::string& command) {
 NTFSImage::NTFSImage(const std::string& folder, const std::string& label, const std::string& file)
     : path_(folder + "/" + file) {
     setenv("LABEL", label.c_str(), 1);
-    // mkntfs gives all volumes of one second the same serial number, which stands at byte 72.
+    // mkntfs derives the serial number, at offset 72, from the time in seconds.
     shell("truncate -s 8M '" + path_ + "' && mkntfs -F -q -L \"$LABEL\" '" + path_ +
           "' && dd if=/dev/urandom of='" + path_ + "' bs=8 count=1 seek=9 conv=notrunc");
 }

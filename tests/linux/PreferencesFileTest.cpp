@@ -1,4 +1,4 @@
-// The preferences file: what it survives.
+// The preferences file, and its recovery from damage.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The process itself: its standard descriptors, its language, its tools, and the volumes it sees.
+// Process set-up: standard descriptors, language, tools, and mounted volumes.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/Process.h"
 
@@ -25,7 +25,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What `body` returns in a process of its own.
+/// Runs `body` in a child process; returns its result, or -1 if the child was killed.
 int inAnotherProcess(const std::function<int()>& body) {
     const pid_t child = fork();
     if (child == 0) _exit(body());
@@ -34,7 +34,7 @@ int inAnotherProcess(const std::function<int()>& body) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-/// A variable of the environment, for a while.
+/// Sets an environment variable while in scope.
 class Variable {
   public:
     Variable(const char* name, const std::optional<std::string>& value) : name_(name) {

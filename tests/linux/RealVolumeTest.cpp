@@ -44,14 +44,14 @@ class RealVolume : public testing::Test {
             << transcript();
     }
 
-    /// From a volume that is attached and listed to the folder it is mounted on read-write.
+    /// Waits for the volume's prompt and accepts it; returns the mount point.
     std::string acceptPrompt() {
         waitForPrompt();
         console_->type("y");
         return folderShown();
     }
 
-    /// The folder that the program shows, which must be one of this volume.
+    /// The folder that the program opens; expects this volume to be mounted there.
     std::string folderShown() {
         EXPECT_TRUE(console_->waitFor("The volume is at ")) << transcript();
         const auto folder = console_->restOfLine();
@@ -61,7 +61,7 @@ class RealVolume : public testing::Test {
 
     [[nodiscard]] const std::string& transcript() const { return console_->output(); }
 
-    /// One that no other volume has: the program also sees what else is attached.
+    /// Unique: the program also sees other attached volumes.
     const std::string label_ = "Brisel" + std::to_string(getpid());
     std::string folder_;
     std::unique_ptr<NTFSImage> image_;
@@ -224,7 +224,7 @@ TEST_F(RealVolume, WithAHostileLabelIsRemountedAllTheSame) {
 
 }  // namespace brisel::tests
 
-// Says in one line why nothing can be tested, with the exit status by which ctest knows a skip.
+// Exits with 77, which ctest takes for a skip, and prints the reason if no volume can be mounted.
 int main(int argumentCount, char** arguments) {
     constexpr int Skipped = 77;
     using brisel::tests::shell;

@@ -1,4 +1,4 @@
-// The clean-up command: which command lines run, and what the program gets.
+// The script runner: the command lines it accepts, and the arguments it passes.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/ScriptRunner.h"
 
@@ -25,7 +25,7 @@ std::string scriptOf(const std::string& command) {
     return "do shell script \"" + command + '"';
 }
 
-/// A stand-in for xattr writes its arguments down, a line each.
+/// A stand-in for xattr writes its arguments to a file, one per line.
 class Script : public testing::Test {
   protected:
     Script() { makeProgram("for argument; do echo \"$argument\"; done >" + told_); }

@@ -1,4 +1,4 @@
-// The services that a Linux machine answers by itself: folders, privileged starts.
+// Linux services without a desktop: folders and privileged starts.
 // SPDX-License-Identifier: MIT
 #include <fcntl.h>
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-// Several real NTFS volumes at once: the menu shows what is mounted.
+// Several real NTFS volumes at once: the menu matches the mounts.
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -43,7 +43,7 @@ class SeveralVolumes : public testing::TestWithParam<std::size_t> {
         console_->type("1");
     }
 
-    /// Not part of another one's.
+    /// No label contains another.
     [[nodiscard]] static std::string label(std::size_t index) {
         return "Brisel" + std::to_string(getpid()) + "-" + std::to_string(index);
     }
@@ -54,7 +54,7 @@ class SeveralVolumes : public testing::TestWithParam<std::size_t> {
         return "  re-mount " + label(index) + "\n";
     }
 
-    /// Every order of all volumes; of many, three.
+    /// All permutations; for more than three volumes, three samples.
     [[nodiscard]] static std::vector<Order> orders() {
         Order order(GetParam());
         std::iota(order.begin(), order.end(), 0);
@@ -68,7 +68,7 @@ class SeveralVolumes : public testing::TestWithParam<std::size_t> {
         return all;
     }
 
-    /// Asks for the menu until it has this text, and returns it.
+    /// Requests the menu until it contains `text`; returns it.
     std::string menuWith(const std::string& text) {
         std::string menu;
         await(text, [&] {
@@ -77,7 +77,7 @@ class SeveralVolumes : public testing::TestWithParam<std::size_t> {
         });
         return menu;
     }
-    /// Types the number of an item after that text.
+    /// Types the number of the first `item` below `text`.
     void chooseAfter(const std::string& text, const std::string& item) {
         const auto menu = menuWith(text);
         const auto end = menu.find("  " + item + "\n", menu.find(text));
@@ -106,8 +106,8 @@ class SeveralVolumes : public testing::TestWithParam<std::size_t> {
         chooseAfter(showing(index), "mount automatically");
     }
 
-    /// Whether the menu shows exactly those volumes as writable that the kernel has mounted so, and
-    /// all others as read-only.
+    /// Waits until the menu shows as writable exactly the volumes that the kernel has mounted
+    /// read-write, and the others as read-only.
     void expectMenuOfMounts() {
         await("the menu equals the mounts", [this] {
             const auto menu = console_->menu();
@@ -133,7 +133,7 @@ class SeveralVolumes : public testing::TestWithParam<std::size_t> {
         std::make_unique<ConsoleSession>(BRISEL_CONSOLE, folder_ + "/home");
 
   private:
-    /// Ends the test where it does not come true in time.
+    /// Throws if `condition` stays false for 10 seconds.
     void await(const std::string& what, const std::function<bool()>& condition) const {
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
         while (!condition()) {

@@ -1,4 +1,4 @@
-// A folder that goes with its owner.
+// A temporary folder, removed with its owner.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,7 +10,7 @@ namespace brisel::tests {
 
 class TemporaryFolder {
   public:
-    /// Makes it within another folder, by default the one for temporary files.
+    /// Creates the folder in `within`.
     explicit TemporaryFolder(
         const std::filesystem::path& within = std::filesystem::temp_directory_path()) {
         std::string name = within / "brisel-XXXXXX";

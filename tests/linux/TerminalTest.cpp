@@ -1,4 +1,4 @@
-// The terminal as a screen: what is typed, what is shown, and what must not get through.
+// The terminal as a screen: input, output, and escaping of control characters.
 // SPDX-License-Identifier: MIT
 #include <glib.h>
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Runs a test program on real volumes and detaches those it leaves when it runs out of time.
+# Runs a test program on real volumes; after a timeout, detaches the volumes that it left.
 # SPDX-License-Identifier: MIT
 #
 # usage: with-volumes.sh SECONDS PROGRAM [ARGUMENT...]

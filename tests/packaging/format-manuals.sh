@@ -1,5 +1,5 @@
 #!/bin/sh
-# Formats manual pages as man does, and fails if it complains about any.
+# Formats manual pages with man, and fails on a warning.
 # SPDX-License-Identifier: MIT
 #
 # usage: format-manuals.sh PAGE...

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Checks that released programs are hard to attack, and linked with nothing that they do not need.
+# Checks the hardening of released programs, and that they link no unused library.
 # SPDX-License-Identifier: MIT
 #
 # usage: hardening.sh COMPILE-COMMANDS FOLDER PROGRAM...
@@ -18,7 +18,7 @@ complain() {
     failures=1
 }
 
-# must HAVE WORDS OPTIONS...: readelf, so asked, says so of the program.
+# must PATTERN COMPLAINT OPTIONS...: readelf OPTIONS prints PATTERN.
 must() {
     have=$1
     what=$2
@@ -46,8 +46,7 @@ for name; do
     fi
 done
 
-# Which calls into buffers are checked does not show in a program whose every size is known: the
-# compiler was told to.
+# A program in which every buffer size is known has no checked calls, so check the compiler flags.
 for flag in -D_FORTIFY_SOURCE=2 -fstack-protector-strong -flto; do
     without=$(grep '"command":' "$commands" | grep -cv -e "$flag")
     [ "$without" = 0 ] || complain "$commands" "$without sources were compiled without $flag"

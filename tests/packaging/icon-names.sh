@@ -1,5 +1,5 @@
 #!/bin/sh
-# Checks that the status images made are those that the program asks for, no more and no fewer.
+# Checks that the status images equal those that the program asks for.
 # SPDX-License-Identifier: MIT
 #
 # usage: icon-names.sh ROOT FOLDER

@@ -1,4 +1,4 @@
-# Checks that what a desktop shows of the program is there in each of the program's languages.
+# Checks that the desktop file, metainfo and policy have all languages of the program.
 # SPDX-License-Identifier: MIT
 #
 # usage: languages_test.py RESOURCES [-v]
@@ -21,7 +21,7 @@ TRANSLATIONS = {locale(folder.stem) for folder in RESOURCES.glob("*.lproj")} - {
 
 
 def languages(document, tag):
-    """The languages of all elements of that name, the untranslated one left out."""
+    """The languages of all elements `tag`, without the untranslated one."""
     root = xml.etree.ElementTree.parse(LINUX / document).getroot()
     return {element.get(XML_LANGUAGE) for element in root.iter(tag)} - {None}
 

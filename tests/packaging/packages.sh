@@ -1,10 +1,10 @@
 #!/bin/sh
-# Packages the release, and checks the packages' contents to the file and by Debian's own checker.
+# Packages the release; checks the packages' files against lists, and with Debian's lintian.
 # SPDX-License-Identifier: MIT
 #
 # usage: packages.sh RELEASE-TREE FOLDER
 #
-# The lists PACKAGE.contents hold the mode and path of all that is not a folder.
+# The lists PACKAGE.contents hold mode and path of everything but folders.
 release=$1
 folder=$2
 lists=$(dirname "$0")
@@ -47,7 +47,7 @@ done
 
 dpkg-deb -f "$folder"/brisel_*.deb Depends | grep -q 'brisel-mount-tool\|pkexec' &&
     complain "brisel drags code in that runs as root."
-# As the documents install it.
+# The documents install it with this command.
 apt-get install --simulate "$folder"/brisel_*.deb >"$folder/simulated" 2>&1 || {
     cat "$folder/simulated"
     complain "brisel would not be installed."

@@ -1,4 +1,4 @@
-# Renders SVG files to pixels, with rsvg-convert and the standard library.
+# Renders SVG files to pixels with rsvg-convert.
 # SPDX-License-Identifier: MIT
 import struct
 import subprocess
@@ -8,7 +8,7 @@ BYTES_PER_PIXEL = 4
 
 
 def render(svg, size):
-    """The drawing at size by size pixels: rows of (red, green, blue, alpha), 0 to 255."""
+    """The drawing at `size` by `size` pixels: rows of (red, green, blue, alpha), 0 to 255."""
     png = subprocess.run(
         ["rsvg-convert", "--width", str(size), "--height", str(size), str(svg)],
         check=True, stdout=subprocess.PIPE).stdout
@@ -16,7 +16,7 @@ def render(svg, size):
 
 
 def decode(png):
-    """The pixels of a PNG as rsvg-convert writes it: 8 bits a channel, not interlaced."""
+    """The pixels of a PNG from rsvg-convert: 8 bits per channel, not interlaced."""
     chunks = list(read_chunks(png))
     width, _, depth, colour_type, _, _, interlace = struct.unpack(">IIBBBBB", chunks[0][1])
     if (depth, colour_type, interlace) != (8, 6, 0):

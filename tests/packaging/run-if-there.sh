@@ -1,5 +1,5 @@
 #!/bin/sh
-# Runs a command whose needs, programs and files, are there; else it exits 77 and says what is missing.
+# Runs a command if its needs, programs or files, exist; else prints the missing one and exits 77.
 # SPDX-License-Identifier: MIT
 #
 # usage: run-if-there.sh "NEED..." COMMAND...

@@ -1,17 +1,17 @@
-# What is asked of the status images, whatever they are drawn in: seen on their bars, told apart.
+# Checks of status images in any format: visible on their bars, and distinct in shape.
 # SPDX-License-Identifier: MIT
 import collections
 import itertools
 
 COLOURS = ("grey", "green", "blue", "orange", "red")
-# The lightest and the darkest of what menu bars and panels have for each.
+# The lightest and darkest backgrounds of menu bars and panels.
 BARS = {"dark": ((0, 0, 0), (0x36, 0x3B, 0x40)), "light": ((255, 255, 255), (0xE0, 0xE0, 0xE0))}
 LEAST_CONTRAST = 3.0
-# Whole pixels of a colour at the smallest size; fewer are a speck.
+# Fully covered pixels of a colour at the smallest size.
 LEAST_PIXELS = 6
-# The part of what two images cover together that only one of them covers.
+# The fraction of two images' joint area that only one of them covers.
 LEAST_DIFFERENCE = 0.15
-# The part of the area an image covers that stands out from the bar; soft edges do not.
+# The fraction of an image's area that contrasts with the bar; soft edges do not.
 LEAST_PART_SEEN = 0.6
 
 
@@ -29,7 +29,7 @@ def contrast(one, other):
 
 
 def whole_pixels(picture):
-    """How many pixels each colour covers entirely."""
+    """The number of opaque pixels of each colour."""
     return collections.Counter(pixel[:3] for row in picture for pixel in row if pixel[3] == 255)
 
 
@@ -49,7 +49,7 @@ def laid_on(pixel, background):
 
 
 def part_seen(picture, background):
-    """The part of the area covered that stands out once the picture is laid on the background."""
+    """The fraction of the picture's area that contrasts with the background."""
     covered = [pixel for row in picture for pixel in row]
     seen = [pixel for pixel in covered
             if contrast(laid_on(pixel, background), background) >= LEAST_CONTRAST]
@@ -57,12 +57,12 @@ def part_seen(picture, background):
 
 
 class StatusIconChecks:
-    """To be mixed into a test case that has `sizes`, the smallest first, and `picture`."""
+    """Mixin for test cases with `picture` and `sizes`, smallest first."""
 
     sizes = ()
 
     def picture(self, colour, bar, size):
-        """The image of that many pixels: rows of (red, green, blue, alpha)."""
+        """The image at `size` pixels: rows of (red, green, blue, alpha)."""
         raise NotImplementedError
 
     def shades(self, colour, bar):

@@ -1,4 +1,4 @@
-# Checks that the status images can be seen on their menu bars, and told apart without colours.
+# Checks that status images are visible on their menu bars, and distinct without colour.
 # SPDX-License-Identifier: MIT
 #
 # usage: status_icons_test.py FOLDER [-v]

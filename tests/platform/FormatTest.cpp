@@ -1,4 +1,4 @@
-// Text made from a format and values.
+// Format strings and their arguments.
 // SPDX-License-Identifier: MIT
 #include "platform/Format.h"
 

@@ -1,4 +1,4 @@
-// The localised texts: every language has every text, and every text that the program shows.
+// The localised texts: each language is complete, and so is the English table.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -50,8 +50,8 @@ std::size_t placeholdersIn(const std::string& text) {
         std::distance(std::sregex_iterator(text.begin(), text.end(), placeholder), {}));
 }
 
-/// All literals of the program's own sources as the compiler sees them: neighbours joined, the
-/// escapes of quotes resolved, raw ones as they stand.
+/// All string literals of `source`: adjacent ones joined, escaped quotes resolved, raw ones
+/// verbatim.
 std::set<std::string> literalsIn(const std::string& source) {
     static const std::regex runs(
         R"re((R"\(([^]*?)\)"|"(\\.|[^"\\\n])*")(\s*"(\\.|[^"\\\n])*")*)re");
@@ -72,7 +72,7 @@ std::set<std::string> literalsIn(const std::string& source) {
     return literals;
 }
 
-/// The literals that are handed to localizedString at the place itself.
+/// The literals passed directly to localizedString.
 std::set<std::string> keysAskedForDirectlyIn(const std::string& source) {
     static const std::regex calls(
         R"re(localizedString\(\s*((R"\([^]*?\)"|"(\\.|[^"\\\n])*")(\s*"(\\.|[^"\\\n])*")*)\s*\))re");
@@ -84,7 +84,7 @@ std::set<std::string> keysAskedForDirectlyIn(const std::string& source) {
     return keys;
 }
 
-/// What `collect` finds in the sources of the core and of what the platforms share.
+/// Merges `collect(source)` over the sources of the core and of platform/common.
 template <typename Collect>
 std::set<std::string> collectFromTheCore(Collect collect) {
     std::set<std::string> found;
@@ -112,7 +112,7 @@ TEST(EnglishTable, HoldsNoKeyThatIsNotInTheSources) {
         EXPECT_TRUE(literals.contains(key)) << key;
 }
 
-// The texts that reach the lookup through a variable are listed here, so that none is forgotten.
+// Lists the keys that reach localizedString in a variable; the scan of the sources misses them.
 TEST(EnglishTable, HoldsTheTextsThatAreLookedUpByAVariable) {
     for (const auto* const key :
          {"no NTFS volume", "a volume is read-only", "a volume is writable", "working",

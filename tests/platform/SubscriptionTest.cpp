@@ -1,4 +1,4 @@
-// The owner of a registration.
+// Subscriptions: a registration ends with its owner.
 // SPDX-License-Identifier: MIT
 #include "platform/Subscription.h"
 

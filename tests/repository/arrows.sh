@@ -8,7 +8,7 @@ cd "$1" || exit 2
 find src simulator tests benchmarks tools helper \
     \( -name '*.h' -o -name '*.cpp' -o -name '*.mm' -o -name '*.m' -o -name '*.c' \) 2>/dev/null |
 sort | xargs awk '
-# The part of the house a path belongs to; platforms are parts of their own.
+# The component of a path; each platform is one.
 function partOf(path, words, count) {
     sub(/^src\//, "", path)
     count = split(path, words, "/")
@@ -26,7 +26,7 @@ BEGIN {
     may["privileged"] = "privileged platform"
     may["platform"] = "platform"
     may["tools"] = may["helper"] = "platform"
-    # What may include the platforms: `src` stands for any part of src/.
+    # Components that may include platforms; `src` stands for any component of src/.
     may["entry"] = may["simulator"] = "src"
     may["benchmarks"] = "src simulator tests"
     may["tests"] = "src simulator benchmarks tools helper"
@@ -57,7 +57,7 @@ function allowed(from, to, words, count, i) {
     if (inHouse && from != to && !allowed(from, to)) complain(from " includes " to)
 }
 
-# __APPLE__ and its like.
+# Macros such as __APPLE__.
 /^[ \t]*#[ \t]*(if|ifdef|ifndef|elif|elifdef)/ &&
         /__linux|__APPLE|__MACH__|__unix|_WIN32|_WIN64|__FreeBSD__|__ANDROID__|TARGET_OS_|GNUSTEP/ {
     if (FILENAME !~ /^src\/(platform\/[^\/]+|entry)\//) complain("tests for an operating system")

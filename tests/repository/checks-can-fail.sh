@@ -1,5 +1,5 @@
 #!/bin/sh
-# Checks that each check of the repository finds what it is for, and nothing in a good tree.
+# Checks that each repository check finds its faults, and accepts a good tree.
 # SPDX-License-Identifier: MIT
 #
 # usage: checks-can-fail.sh FOLDER, which is emptied
@@ -7,7 +7,7 @@ folder=$1
 checks=$(dirname "$0")
 failures=0
 
-# tree FILE TEXT: a tree of this one file.
+# tree FILE TEXT: creates a tree with this file only.
 tree() {
     rm -rf "$folder"
     mkdir -p "$folder/$(dirname "$1")"
@@ -15,20 +15,20 @@ tree() {
     printf "$2" >"$folder/$1"
 }
 
-# program FILE TEXT: the same, of a file that may be executed.
+# program FILE TEXT: creates a tree with this executable file only.
 program() {
     tree "$1" "$2"
     chmod +x "$folder/$1"
 }
 
-# lines TEXT NUMBER: so many lines of this text.
+# lines TEXT NUMBER: repeats the line.
 lines() {
     yes "$1" | head -n "$2" | tr '\n' '@' | sed 's/@/\\n/g'
 }
 
 passes() {
     sh "$checks/$1.sh" "$folder" >/dev/null 2>&1
-    # 77: the check is skipped here.
+    # 77: the check is skipped on this machine.
     case $? in 0 | 77) return ;; esac
     echo "$1 complains about a good tree: $2"
     failures=1

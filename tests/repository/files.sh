@@ -1,12 +1,12 @@
 #!/bin/sh
-# Checks that each source file and script says what it is, and is short.
+# Checks that each source file and script has a headline and a licence, and is short.
 # SPDX-License-Identifier: MIT
 #
 # usage: files.sh ROOT
 cd "$1" || exit 2
 status=0
 
-# files TEST...: those that meet one of find's tests.
+# files TEST...: the source files that pass one of find's tests.
 files() {
     find src simulator tests benchmarks tools helper scripts .ci \
         -type f \( "$@" \) ! -path '*/__pycache__/*' 2>/dev/null | sort
@@ -38,7 +38,7 @@ function finish() {
     if (file ~ /\.h$/ && !once) complain("lacks #pragma once")
 }
 
-# The sentence on a script may end with how it is called.
+# The sentence of a script may end with its usage.
 function isSentence(line) {
     if (mark == "//") return line ~ /^\/\/ .*[a-z].*[.]$/
     return line ~ /^# .*[a-z].*[.]$/ || (line ~ /^# .*[a-z]/ && index(line, ": " name " "))

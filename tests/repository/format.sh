@@ -1,5 +1,5 @@
 #!/bin/sh
-# Checks that the sources are formatted as .clang-format has it, by the release of clang-format that is ours.
+# Checks that the sources are formatted by .clang-format with clang-format 14.
 # SPDX-License-Identifier: MIT
 #
 # usage: format.sh ROOT
@@ -9,7 +9,7 @@ if ! command -v clang-format >/dev/null; then
     echo "clang-format is missing, so nothing was checked" >&2
     exit 1
 fi
-# Other releases break lines at other places. CI runs this one.
+# Other releases break lines differently. CI uses this one.
 if ! clang-format --version | grep -q 'version 14\.'; then
     echo "Skipped: the format is clang-format 14's, and this is $(clang-format --version)."
     exit 77

@@ -1,4 +1,4 @@
-// Answering an alert by its first button.
+// Answers an alert with its first button.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,10 +7,10 @@
 
 namespace brisel::tests {
 
-/// What starts the transcript's line of an alert's buttons.
+/// Prefix of the transcript line that lists an alert's buttons.
 inline constexpr std::string_view ButtonsEvent = "buttons: ";
 
-/// The command that presses the first button of those in this line of a transcript.
+/// The simulator command that presses the first button listed in `buttonsLine`.
 inline std::string pressFirstButton(const std::string& buttonsLine) {
     const auto titles = buttonsLine.substr(ButtonsEvent.size());
     return "press \"" + titles.substr(0, titles.find(" | ")) + '"';

@@ -6,7 +6,7 @@
 
 namespace brisel::tests {
 
-/// The services to put in; null keeps what is there.
+/// Replacement services; null keeps the original.
 struct Replacements {
     platform::Application* application = nullptr;
     platform::Authorization* authorization = nullptr;

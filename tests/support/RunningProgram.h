@@ -1,4 +1,4 @@
-// The fixture of most tests: the program, started, with no disk attached yet.
+// The fixture of most tests: the program has started and no disk is attached.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,7 +12,7 @@ namespace brisel::tests {
 inline constexpr const char* SomeUUID = "0F1E2D3C-4B5A-6978-8796-A5B4C3D2E1F0";
 inline constexpr const char* OtherUUID = "11111111-2222-3333-4444-555555555555";
 
-/// What the program prints of itself begins after the start.
+/// newLines() begins after the start.
 class RunningProgram : public ::testing::Test, public SimulatedProgram {
   protected:
     void SetUp() override {
@@ -20,24 +20,24 @@ class RunningProgram : public ::testing::Test, public SimulatedProgram {
         forgetLines();
     }
 
-    /// Stores the automount list behind the program's back.
+    /// Stores the automount list directly in the user defaults, bypassing the program.
     void storeAutomountList(std::vector<std::string> uuids) {
         mac.userDefaults.store("volumeList",
                                std::make_shared<const std::vector<std::string>>(std::move(uuids)));
     }
 
-    /// A `menu:` line whose generated items are these.
+    /// The transcript line of a menu with these generated items.
     static std::string menuLine(const std::string& generated) {
         return "menu: " + generated + " | " + FixedItems;
     }
 };
 
-/// Matches the transcript lines that a rebuild of the menu prints while an operation runs.
+/// The transcript line of the menu during an operation.
 inline std::string busyMenuLine() {
     return std::string("menu: Brisel is operating ... | --- | ") + FixedItems;
 }
 
-/// The same with no volume known.
+/// The transcript line of a menu without volumes.
 inline std::string emptyMenuLine() {
     return std::string("menu: No NTFS Volumes to re-mount | --- | ") + FixedItems;
 }

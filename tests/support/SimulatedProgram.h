@@ -1,4 +1,4 @@
-// The program on a simulated Mac, with answers given beforehand to whatever blocks it.
+// The program on a simulated Mac, with scripted answers to alerts and prompts.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,7 +13,7 @@
 
 namespace brisel::tests {
 
-/// The fixed items as they stand at the end of every `menu:` line.
+/// The fixed items that end every `menu:` line.
 inline constexpr const char* FixedItems = "Start at Login | About Brisel | --- | Quit Brisel";
 
 using DiskProperties = platform::simulated::DiskArbitration::Properties;
@@ -21,7 +21,7 @@ using DiskProperties = platform::simulated::DiskArbitration::Properties;
 /// A mountable, read-only NTFS disk mounted at /Volumes/NAME.
 DiskProperties ntfsDisk(const std::string& name, const std::string& volumeUUID = "");
 
-/// A menu item that stands for this record, as an action's sender.
+/// A menu item that represents `volume`, as the sender of an action.
 platform::MenuItem senderFor(const std::shared_ptr<NTFSVolume>& volume);
 
 /// Changes the description that the record keeps.
@@ -32,7 +32,7 @@ void changeDiskData(NTFSVolume& volume, const Change& change) {
     volume.setDiskData(std::move(data));
 }
 
-/// Answers as told; unless told, presses the first button and knows the password.
+/// Answers alerts and password prompts; by default with the first button and success.
 class ScriptedPerson final : public platform::simulated::Person {
   public:
     std::function<int(const platform::AlertContent&)> whenAlertShows;
@@ -54,33 +54,33 @@ struct SimulatedProgram {
     platform::simulated::Mac mac{person};
     simulator::DirectProgram program{mac};
 
-    /// Starts the program with the warning notice accepted before, and turns the main loop.
+    /// Starts the program with the warning notice already accepted; turns the main loop.
     void start();
     [[nodiscard]] NTFSVolumeManager& manager() { return *program.manager(); }
 
-    /// A mountable, read-only NTFS disk mounted at /Volumes/NAME; reported when the loop turns.
+    /// Attaches ntfsDisk(name, volumeUUID); reported when the main loop turns.
     void attachNTFS(const std::string& device, const std::string& name,
                     const std::string& volumeUUID = "");
-    /// Has it reported at once, and forgets the lines up to here.
+    /// attachNTFS(), then turns the main loop and forgets the transcript so far.
     void attachQuietly(const std::string& device, const std::string& name,
                        const std::string& volumeUUID = "");
     void turn() { mac.mainLoop.turnUntilIdle(); }
-    /// Chooses the first menu item of this title, and turns the main loop.
+    /// Chooses the first item with this title, or fails the test; turns the main loop.
     void choose(const std::string& title);
-    /// The user's response to the prompt for this device; turns the main loop.
+    /// Responds to the remount prompt of `device`; turns the main loop.
     void respond(const std::string& action, const std::string& device);
 
-    /// The record at this place of the list.
+    /// The record at `index` in the manager's list.
     [[nodiscard]] std::shared_ptr<NTFSVolume> volume(std::size_t index = 0);
-    /// `TITLE | TITLE | ---` from the top.
+    /// The titles from the top, joined by ` | `; a separator is `---`.
     [[nodiscard]] std::string menuTitles() const;
     [[nodiscard]] std::vector<std::string> labels();
     [[nodiscard]] std::vector<std::string> devices();
 
-    /// The transcript lines since this was asked last.
+    /// The transcript lines since the last call.
     [[nodiscard]] std::vector<std::string> newLines();
     void forgetLines() { linesSeen_ = mac.transcript.lines().size(); }
-    /// Those of them that begin with `log: `, without it.
+    /// The new lines that begin with `log: `, without this prefix.
     [[nodiscard]] std::vector<std::string> newLogLines();
 
   private:

@@ -1,4 +1,4 @@
-// What may happen on several threads; a program of its own, as the shared manager never goes.
+// Thread-safety tests; a separate program, because the shared manager is never destroyed.
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t ThreadCount = 8;
 
-/// Counts how often a manager has registered its category.
+/// Counts the registrations of the notification category, one for each manager created.
 class CountingCenter final : public platform::UserNotificationCenter {
   public:
     std::atomic<int> registrations = 0;
@@ -25,7 +25,7 @@ class CountingCenter final : public platform::UserNotificationCenter {
     void setNotificationCategories(
         const std::vector<platform::NotificationCategory>& /*categories*/) override {
         ++registrations;
-        // Gives the other first calls time to arrive while the manager is being made.
+        // Keeps the manager's creation open until the other threads call too.
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
     void requestAuthorization(unsigned /*options*/, AuthorizationHandler /*handler*/) override {}

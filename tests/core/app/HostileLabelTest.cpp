@@ -1,4 +1,4 @@
-// Volume names that nobody should give a volume: they crash nothing and are shown as they are.
+// Hostile volume names: they do no harm and are shown unchanged.
 // SPDX-License-Identifier: MIT
 #include "tests/support/RunningProgram.h"
 

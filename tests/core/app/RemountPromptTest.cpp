@@ -102,7 +102,7 @@ TEST_F(RemountPrompt, IsReplacedByThatOfALaterVolume) {
     EXPECT_TRUE(volume(1)->notificationSent());
 }
 
-/// A center whose answers come when the test gives them.
+/// A notification center whose completion handlers wait until the test calls them.
 class SlowCenter final : public platform::UserNotificationCenter {
   public:
     unsigned options = 0;

@@ -1,4 +1,4 @@
-// The start-at-login check item.
+// The "Start at Login" menu item.
 // SPDX-License-Identifier: MIT
 #include "platform/Bundle.h"
 #include "tests/support/PlatformWith.h"
@@ -57,7 +57,7 @@ TEST_F(StartAtLogin, KeepsTheCheckMarkWhereItsRemovalIsRefused) {
                 ElementsAre("shouldStartAtLogin = YES", "showDisclaimer = NO"));
 }
 
-/// Texts that are their keys, and a note of each that was looked up.
+/// Returns each key as its text and records the keys.
 class NotedTexts final : public platform::Bundle {
   public:
     mutable std::vector<std::string> keys;

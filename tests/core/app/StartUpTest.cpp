@@ -1,4 +1,4 @@
-// Start-up, the warning notice, the About action and the end.
+// Start-up, the warning notice, the About action and termination.
 // SPDX-License-Identifier: MIT
 #include "app/MainMenu.h"
 #include "platform/Application.h"
@@ -146,7 +146,7 @@ TEST_F(StartUp, RegistersItsDefaultsWithoutStoringThem) {
     EXPECT_TRUE(mac.userDefaults.stored().empty());
 }
 
-/// An application that returns from its termination and ends some time later.
+/// An application whose terminate() returns without ending the process.
 class LateEnd final : public platform::Application {
   public:
     int terminations = 0;

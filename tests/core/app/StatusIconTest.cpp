@@ -1,4 +1,4 @@
-// The status icon: its colour, and light and dark.
+// The status icon: colour and appearance.
 // SPDX-License-Identifier: MIT
 #include "platform/Bundle.h"
 #include "platform/StatusItem.h"
@@ -12,7 +12,7 @@ using testing::ElementsAre;
 
 class StatusIcon : public RunningProgram {
   protected:
-    /// The image that a state's code shows.
+    /// Name of the image shown for a status code.
     std::string imageOf(int code) {
         program.delegate()->setStatusIcon(static_cast<AppDelegate::StatusIcon>(code));
         forgetLines();
@@ -79,7 +79,7 @@ TEST_F(StatusIcon, IgnoresOtherKeyPaths) {
     EXPECT_THAT(newLines(), ElementsAre("icon: brisel-status-grey-light"));
 }
 
-/// Resources without images.
+/// A bundle without images.
 class BareBundle final : public platform::Bundle {
   public:
     std::string localizedString(std::string_view key) const override { return std::string(key); }

@@ -13,7 +13,7 @@ using testing::ElementsAre;
 using testing::Not;
 using testing::StartsWith;
 
-/// What an item is, in one line.
+/// Tag, title, action and alignment in one line.
 std::string look(const platform::MenuItem& item) {
     auto line = std::to_string(item.tag) + ' ' + (item.separator ? "---" : item.title);
     if (!item.action.empty()) line.append(" ").append(item.action);

@@ -1,4 +1,4 @@
-// What each way of a remount leaves of the busy state.
+// The busy state after each outcome of a remount.
 // SPDX-License-Identifier: MIT
 #include "tests/support/RunningProgram.h"
 #include "volumes/DiskEvents.h"
@@ -12,12 +12,12 @@ enum class Busy { Yes, No };
 struct Way {
     const char* name;
     System system;
-    /// Prepares the surroundings after the disk was attached.
+    /// Sets up the outcome; called after the disk is attached.
     void (*prepare)(SimulatedProgram& program);
     Busy afterwards;
 };
 
-// How the test framework shows one.
+// Names the case in GoogleTest's output.
 void PrintTo(const Way& way, std::ostream* stream) {
     *stream << way.name;
 }

@@ -1,4 +1,4 @@
-// Showing volumes in the file browser, and stripping their extended attributes.
+// Opening volumes in the file manager, and removing their extended attributes.
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-// The ways in which a mount by the mount tool fails, and what each leaves behind.
+// Each failure of a mount by the mount tool, and its effects.
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
@@ -21,7 +21,7 @@ class MountToolFailure : public RunningProgram {
         attachQuietly("disk4s1", "Data", SomeUUID);
     }
 
-    /// What follows the request of the mount point.
+    /// Starts a remount; returns the transcript from the creation of the mount point.
     std::vector<std::string> linesFromTheMountPointOn() {
         choose("re-mount Data");
         auto lines = newLines();
@@ -144,7 +144,7 @@ TEST_F(MountToolFailure, OfTheToolNeverFallsBackToAnotherMount) {
     EXPECT_EQ(person.passwordPromptsSeen, 1);
 }
 
-// The order matters where two records share a device: each removal takes the first that is left.
+// Records that share a device are removed one by one, each time the first that is left.
 TEST_F(MountToolFailure, OfTheToolTakesTwoRecordsOfTheDeviceAway) {
     const auto twin = NTFSVolume::initWithVolume({});
     twin->setDeviceNode("disk4s1");

@@ -1,4 +1,4 @@
-// The remount on systems before macOS 12, by Disk Arbitration itself.
+// The remount before macOS 12, which uses Disk Arbitration instead of the mount tool.
 // SPDX-License-Identifier: MIT
 #include "tests/support/RunningProgram.h"
 

@@ -1,4 +1,4 @@
-// The start of a read-write remount: who starts it, and where it ends without a disk.
+// The start of a read-write remount: its triggers, and its ends without a disk.
 // SPDX-License-Identifier: MIT
 #include "mounting/Remount.h"
 
@@ -156,7 +156,7 @@ TEST_F(Remount, IsStillPossibleForARecordThatIsGone) {
     EXPECT_TRUE(volume()->writable());
 }
 
-/// Disk Arbitration that completes unmounts and mounts before the request returns.
+/// Disk Arbitration that completes each unmount and mount before the request returns.
 class HastyDiskArbitration final : public platform::DiskArbitration {
   public:
     explicit HastyDiskArbitration(platform::simulated::Mac& mac) : mac_(mac) {}

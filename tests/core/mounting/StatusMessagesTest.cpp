@@ -1,4 +1,4 @@
-// Disk Arbitration's refusals, for the log and for the user.
+// Disk Arbitration statuses as log messages and alert texts.
 // SPDX-License-Identifier: MIT
 #include "mounting/StatusMessages.h"
 

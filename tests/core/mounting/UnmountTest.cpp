@@ -1,4 +1,4 @@
-// Unmounting a volume that the user chose in the menu.
+// Unmounting a volume from the menu.
 // SPDX-License-Identifier: MIT
 #include "mounting/Unmount.h"
 

@@ -1,4 +1,4 @@
-// The scratch memory of one privileged launch, and the handle on its output.
+// The buffers of one privileged launch, and the file handle of its output.
 // SPDX-License-Identifier: MIT
 #include "privileged/LaunchBuffers.h"
 
@@ -28,7 +28,7 @@ TEST(RightsItemValue, BeginsWithThePointerAndIsAsLongAsThePath) {
     }
 }
 
-// Under the address sanitizer this fails where the described bytes are not the value's own.
+// Reads every byte, so that the address sanitizer reports a length beyond the buffer.
 TEST(RightsItemValue, CanBeReadToItsDescribedEnd) {
     const std::string path(4000, 'x');
     const RightsItemValue value(path.c_str());

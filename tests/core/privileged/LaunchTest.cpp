@@ -1,4 +1,4 @@
-// Launching a privileged task: the authorization, the tool's surroundings, and refusals.
+// Launching a privileged task: authorization, environment of the tool, and failures.
 // SPDX-License-Identifier: MIT
 #include "tests/core/privileged/RealTools.h"
 
@@ -11,7 +11,6 @@ using testing::StartsWith;
 
 class Launch : public PrivilegedTask {
   protected:
-    /// Nothing of a task has changed.
     static void expectUntouched(const Task& made) {
         EXPECT_FALSE(made->isRunning());
         EXPECT_EQ(made->processIdentifier(), 0);

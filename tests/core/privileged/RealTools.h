@@ -1,4 +1,4 @@
-// An authorization service that really starts the tools it is given, and notes what it was asked.
+// An authorization service that records its calls and starts real tools.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -24,7 +24,7 @@ class RealTools final : public platform::Authorization {
     platform::OSStatus executeStatus = 0;
 
     std::vector<std::string> calls;
-    /// What the last call was given.
+    /// The arguments of the last call.
     std::string rightName;
     std::size_t valueLength = 0;
     std::vector<char> value;
@@ -37,7 +37,7 @@ class RealTools final : public platform::Authorization {
     const char* toolPointer = nullptr;
     std::vector<std::string> arguments;
     std::string workingDirectory;
-    /// The task's end of the tool's socket.
+    /// The task's end of the socket to the tool.
     int descriptor = -1;
 
     platform::CreatedAuthorization create(std::uint32_t flags) override {
@@ -78,7 +78,7 @@ class RealTools final : public platform::Authorization {
         return started(pathToTool, vector);
     }
 
-    /// An authorization that a caller may hold.
+    /// An authorization that the caller owns.
     [[nodiscard]] platform::AuthorizationRef own() const {
         return reinterpret_cast<platform::AuthorizationRef>(&createStatus);
     }
@@ -100,7 +100,7 @@ class RealTools final : public platform::Authorization {
     }
 };
 
-/// Tasks that start real tools.
+/// Fixture for tasks that start real tools.
 class PrivilegedTask : public RunningProgram {
   protected:
     using Task = std::shared_ptr<KJPrivilegedTask>;
@@ -111,9 +111,8 @@ class PrivilegedTask : public RunningProgram {
     Task task(const std::string& path, std::vector<std::string> arguments = {}) const {
         return KJPrivilegedTask::initWithLaunchPathArguments(withTools, path, arguments);
     }
-    /// A shell that runs this command.
     Task shell(const std::string& command) const { return task("/bin/sh", {"-c", command}); }
-    /// A tool that runs until it is told a line, then ends with this status.
+    /// A tool that reads one line, then exits with `status`.
     Task waitingTool(int status = 0) const {
         return shell("read line; exit " + std::to_string(status));
     }
@@ -122,7 +121,7 @@ class PrivilegedTask : public RunningProgram {
         task->waitUntilExit();
         return task->outputFileHandle()->readDataToEndOfFile();
     }
-    /// Waits until the child has ended, and leaves it to the task to collect it.
+    /// Waits until the child has exited, without reaping it.
     static void waitForTheEnd(pid_t child) {
         siginfo_t info{};
         ASSERT_EQ(waitid(P_PID, static_cast<id_t>(child), &info, WEXITED | WNOWAIT), 0);

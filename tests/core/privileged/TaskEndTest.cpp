@@ -1,4 +1,4 @@
-// The end of a privileged task: noticed by the poll, or waited for.
+// The end of a privileged task: found by polling, or waited for.
 // SPDX-License-Identifier: MIT
 #include "tests/core/privileged/WatchedTask.h"
 

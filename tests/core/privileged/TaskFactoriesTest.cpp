@@ -1,4 +1,4 @@
-// Tasks made, launched and waited for by one call.
+// The factory methods that create, launch and wait in one call.
 // SPDX-License-Identifier: MIT
 #include "tests/core/privileged/WatchedTask.h"
 

@@ -1,4 +1,4 @@
-// What a privileged task knows of itself: its defaults, its initialisers, its description.
+// Defaults, initialisers and description of a privileged task.
 // SPDX-License-Identifier: MIT
 #include "tests/core/privileged/RealTools.h"
 

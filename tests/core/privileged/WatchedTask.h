@@ -1,4 +1,4 @@
-// A task whose notifications and handler calls are noted.
+// Fixture that records a task's notifications and handler calls.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,7 +9,6 @@
 
 namespace brisel::tests {
 
-/// Notes them in their order.
 class WatchedTask : public PrivilegedTask {
   protected:
     std::vector<std::string> heard;

@@ -1,4 +1,4 @@
-// Choosing and unchoosing a volume for automatic remounts, and dropping an unmounted one.
+// The automount menu actions, and dropping an unmounted volume.
 // SPDX-License-Identifier: MIT
 #include "tests/support/RunningProgram.h"
 #include "volumes/VolumeListHelper.h"

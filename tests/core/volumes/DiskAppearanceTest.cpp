@@ -1,4 +1,4 @@
-// What happens when a disk appears.
+// Handling of an appeared disk.
 // SPDX-License-Identifier: MIT
 #include "tests/support/RunningProgram.h"
 #include "volumes/DiskEvents.h"

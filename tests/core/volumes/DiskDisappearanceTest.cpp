@@ -1,4 +1,4 @@
-// What happens when a disk disappears, and to its mount point.
+// Handling of a disappeared disk and its mount point.
 // SPDX-License-Identifier: MIT
 #include "tests/support/RunningProgram.h"
 #include "volumes/DiskEvents.h"

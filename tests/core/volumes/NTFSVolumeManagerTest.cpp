@@ -1,4 +1,4 @@
-// The manager: its creation, its session and its delegate.
+// The volume manager: creation, session and delegate.
 // SPDX-License-Identifier: MIT
 #include "volumes/NTFSVolumeManager.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Notes the calls of the manager's initialiser in their order.
+/// Records the calls of the manager's initialiser.
 class NotingServices final : public platform::DiskArbitration,
                              public platform::UserNotificationCenter {
   public:

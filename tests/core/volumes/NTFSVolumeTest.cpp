@@ -1,4 +1,4 @@
-// The volume record: what it starts with and what its creator fills in.
+// The volume record: its initial values, and the ones set on appearance.
 // SPDX-License-Identifier: MIT
 #include "volumes/NTFSVolume.h"
 

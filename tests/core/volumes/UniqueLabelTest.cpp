@@ -1,4 +1,4 @@
-// Labels that are unique in the list, and stale records of the same disk.
+// Unique labels in the list, and stale records of a disk.
 // SPDX-License-Identifier: MIT
 #include "tests/support/RunningProgram.h"
 

@@ -1,4 +1,4 @@
-// The ordered list of records: finding and removing.
+// The ordered list of volume records: search and removal.
 // SPDX-License-Identifier: MIT
 #include "volumes/VolumeRecords.h"
 

@@ -1,2 +1,2 @@
-# A desktop for tests: a person, a session with a panel, disks, and the program among them.
+# A test desktop: a user account, a session with a panel, disks, and the program.
 # SPDX-License-Identifier: MIT

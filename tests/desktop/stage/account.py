@@ -1,4 +1,4 @@
-# The person before the screen: a user account of its own where that can be had.
+# The user account of the desktop: a temporary one if possible.
 # SPDX-License-Identifier: MIT
 import os
 import pwd
@@ -15,7 +15,7 @@ COMMENT = "Plays a person in tests of Brisel"
 
 @dataclass
 class Account:
-    """Whoever runs the desktop. `password` is None for one who was there before."""
+    """The owner of the desktop session. `password` is None for an existing account."""
 
     name: str
     uid: int
@@ -24,7 +24,7 @@ class Account:
     password: str | None = None
 
     def command(self, words):
-        """`words` as a command run by this person, which ends with whoever started it."""
+        """Prefixes `words` so that they run as this user and end with their parent process."""
         prefix = ["setpriv", "--pdeathsig", "KILL"]
         if os.geteuid() != self.uid:
             prefix += ["--reuid", str(self.uid), "--regid", str(self.gid), "--init-groups"]
@@ -36,7 +36,7 @@ class Account:
 
 
 def own_account(folder):
-    """Whoever runs the tests, with another home folder."""
+    """The current user, with another home folder."""
     home = os.path.join(folder, "home")
     os.mkdir(home, 0o700)
     entry = pwd.getpwuid(os.geteuid())
@@ -44,7 +44,7 @@ def own_account(folder):
 
 
 def make_account(folder, cleanup):
-    """A new ordinary user with a password, whom `cleanup` removes again."""
+    """Creates an ordinary user with a password; `cleanup` removes it."""
     remove_account()
     home = os.path.join(folder, "home")
     os.mkdir(home, 0o700)
@@ -60,7 +60,7 @@ def make_account(folder, cleanup):
 
 
 def remove_account():
-    """Removes the account, also one that an interrupted run has left."""
+    """Removes the account, including one left by an interrupted run."""
     try:
         entry = pwd.getpwnam(NAME)
     except KeyError:

@@ -1,4 +1,4 @@
-# Who answers polkit's question for a password.
+# Authentication agents that answer polkit's password prompt.
 # SPDX-License-Identifier: MIT
 import os
 import pty
@@ -12,7 +12,7 @@ CANCELLED = "org.freedesktop.PolicyKit1.Error.Cancelled"
 
 
 class PasswordPrompt:
-    """polkit's agent for terminals, asking for the person's password in a terminal of its own."""
+    """pkttyagent, asking for the user's password in a pseudoterminal."""
 
     def __init__(self, session, pid, cleanup):
         self._terminal, inside = pty.openpty()
@@ -27,14 +27,14 @@ class PasswordPrompt:
         os.close(writing)
         os.set_blocking(self._terminal, False)
         self._shown = ""
-        # The agent closes its end as soon as polkit has accepted it.
+        # The agent closes its end once it is registered with polkit.
         with open(reading, "rb") as ready:
             ready.read()
         if self._program.poll() is not None:
             raise RuntimeError(f"polkit's agent has ended: {self.shown()}")
 
     def shown(self):
-        """Everything that the terminal has shown."""
+        """The terminal's output so far."""
         try:
             while chunk := os.read(self._terminal, 4096):
                 self._shown += chunk.decode(errors="replace")
@@ -60,7 +60,7 @@ class PasswordPrompt:
 
 
 class SilentDialog(bus.Service):
-    """An agent whose dialog the person leaves standing, or closes."""
+    """An agent whose dialog stays open or is closed."""
 
     XML = """<node><interface name="org.freedesktop.PolicyKit1.AuthenticationAgent">
       <method name="BeginAuthentication">
@@ -79,7 +79,7 @@ class SilentDialog(bus.Service):
         bus.call(self.connection, name, path, f"{interface}.RegisterAuthenticationAgent",
                  "((sa{sv})ss)", subject(pid), "C", self.path)
 
-    # Named, and with parameters, as the bus has them. pylint: disable=invalid-name
+    # Names and parameters are those of the D-Bus method. pylint: disable=invalid-name
     # pylint: disable=too-many-arguments
     def BeginAuthentication(self, action, _message, _icon, _details, _cookie, _identities):
         self.actions.append(action)
@@ -93,7 +93,7 @@ class SilentDialog(bus.Service):
         wait_for(lambda: self._asked, "the password dialog is up")
 
     def close_dialog(self):
-        """What a click on the dialog's Cancel does."""
+        """Answers like a click on the dialog's Cancel."""
         self.wait_until_asked()
         self._asked.return_dbus_error(CANCELLED, "The dialog was closed.")
         self._asked = None

@@ -1,4 +1,4 @@
-# The program under test, as a person starts it and meets it.
+# The program under test, its preferences and its alerts.
 # SPDX-License-Identifier: MIT
 import configparser
 import os
@@ -12,7 +12,7 @@ SANITIZER_REPORTS = ("ERROR: AddressSanitizer", "ERROR: LeakSanitizer", "runtime
 
 
 class Brisel:
-    """One start of the program in a session."""
+    """One run of the program in a session."""
 
     def __init__(self, session, programs, cleanup):
         self._session = session
@@ -27,7 +27,7 @@ class Brisel:
         return self.program.pid
 
     def wait_for_log(self, text):
-        """Waits for a line of the system log with `text`, behind the one waited for before."""
+        """Waits for `text` in the system log, after the last match."""
         try:
             self._seen = self.program.wait_for_text(text, self._seen)
         except NeverHappened:
@@ -40,18 +40,18 @@ class Brisel:
         return text in self.program.text()
 
     def wait_until_ready(self):
-        """Waits for the icon in the panel."""
+        """Waits for the tray icon."""
         wait_for(lambda: bus.has_owner(self._session.connection, NAME) or
                  not self.program.runs(), "the program is on the bus")
         self.tray.wait_until_shown()
 
     def quit(self):
-        """Chooses the menu's last item; the exit status."""
+        """Chooses "Quit Brisel"; returns the exit status."""
         self.tray.choose("Quit Brisel")
         return self.program.wait_for_end()
 
     def has_complaints(self):
-        """Whether a sanitizer has found anything."""
+        """True if a sanitizer reported something."""
         text = self.program.text()
         return any(report in text for report in SANITIZER_REPORTS)
 
@@ -66,7 +66,7 @@ class Preferences:
         self.file = f"{account.home}/.config/brisel/preferences.conf"
 
     def write(self, **values):
-        """Leaves a file with these values alone."""
+        """Replaces the file by one with these values."""
         os.makedirs(os.path.dirname(self.file), exist_ok=True)
         self._account.owns(os.path.dirname(self.file))
         with open(self.file, "w", encoding="utf-8") as file:
@@ -75,12 +75,12 @@ class Preferences:
         self._account.owns(self.file)
 
     def forget(self):
-        """As on a machine where the program never ran."""
+        """Removes the file, as before the program's first run."""
         if os.path.exists(self.file):
             os.remove(self.file)
 
     def read(self, key):
-        """A value as text; None if there is none."""
+        """The value as text; None if it is absent."""
         parser = configparser.ConfigParser(interpolation=None)
         parser.optionxform = str
         parser.read(self.file)
@@ -88,7 +88,7 @@ class Preferences:
 
 
 class Alerts:
-    """The windows that the program puts before the person."""
+    """The alert windows of the program."""
 
     TITLE = "^Brisel$"
 
@@ -99,13 +99,13 @@ class Alerts:
         return self._session.windows("--name", self.TITLE)
 
     def wait_for(self, text):
-        """Waits for an alert that says `text`; its window."""
+        """Waits for an alert with `text`; returns its window."""
         return wait_for(lambda: next((window for window in self.windows()
                                       if text in self.text(window)), None),
                         f'an alert says "{text}"')
 
     def text(self, window):
-        """What the window was started to say."""
+        """The command line of the window's process, which holds its texts."""
         try:
             pid = self._session.run("xdotool", "getwindowpid", window)
             with open(f"/proc/{pid}/cmdline", encoding="utf-8") as file:

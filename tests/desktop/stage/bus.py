@@ -1,4 +1,4 @@
-# A message bus of the stage's own, calls on a bus, and objects that answer on one.
+# A private message bus, D-Bus calls, and D-Bus objects.
 # SPDX-License-Identifier: MIT
 import os
 import threading
@@ -28,7 +28,7 @@ CALL_TIMEOUT_MS = 20000
 
 
 class PrivateBus:
-    """A dbus-daemon in `folder`, which the person and the stage may use."""
+    """A dbus-daemon in `folder`, open to the user and to the stage."""
 
     def __init__(self, name, folder, account, environment):
         socket = os.path.join(folder, f"{name}.socket")
@@ -52,24 +52,24 @@ class PrivateBus:
             return False
 
     def offer(self, service_file):
-        """Lets the bus start a service that the machine has."""
+        """Makes a service of this machine activatable."""
         os.symlink(service_file, os.path.join(self.services, os.path.basename(service_file)))
 
 
 def connect(address):
-    """A connection of its own to the bus at `address`."""
+    """A new connection to the bus at `address`."""
     return Gio.DBusConnection.new_for_address_sync(
         address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT |
         Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
 
 
 def system_bus():
-    """A connection of its own to the machine's bus."""
+    """A new connection to the system bus."""
     return connect(Gio.dbus_address_get_for_bus_sync(Gio.BusType.SYSTEM, None))
 
 
 def call(connection, name, path, method, signature="()", *arguments):
-    """Calls INTERFACE.MEMBER; what it answers, as Python values."""
+    """Calls INTERFACE.MEMBER; returns the answer as Python values."""
     interface, member = method.rsplit(".", 1)
     answer = connection.call_sync(name, path, interface, member,
                                   GLib.Variant(signature, arguments), None,
@@ -78,7 +78,7 @@ def call(connection, name, path, method, signature="()", *arguments):
 
 
 def driver(connection, member, signature="()", *arguments):
-    """Calls the bus itself; its one answer."""
+    """Calls the bus driver; returns the first value of its answer."""
     answer = call(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus",
                   f"org.freedesktop.DBus.{member}", signature, *arguments)
     return answer[0] if answer else None
@@ -93,7 +93,7 @@ def owner_pid(connection, name):
 
 
 def own_name(connection, name):
-    """Takes a bus name, also from another who lets it go."""
+    """Takes a bus name, replacing an owner that allows it."""
     replace_existing = 2
     answer = driver(connection, "RequestName", "(su)", name, replace_existing)
     if answer not in (1, 4):
@@ -106,7 +106,7 @@ def properties(connection, name, path, interface):
 
 
 class Answers:
-    """The thread in which the stage's own services answer."""
+    """The thread whose main loop serves the fake services."""
 
     def __init__(self):
         self._loop = GLib.MainLoop()
@@ -119,10 +119,10 @@ class Answers:
 
 
 class Service:
-    """An object on a bus: methods named as the bus names them, from an introspection text.
+    """A D-Bus object whose Python methods have the names of its D-Bus methods.
 
-    A method gets the call's arguments and returns a tuple; `PENDING` says that it answers later,
-    through the invocation that it finds in `self.invocation`.
+    A method gets the call's arguments and returns a tuple, or PENDING to answer later through
+    `self.invocation`.
     """
 
     XML = ""
@@ -137,7 +137,7 @@ class Service:
             for interface in Gio.DBusNodeInfo.new_for_xml(self.XML).interfaces]
 
     def withdraw(self):
-        """Takes the object off the bus."""
+        """Unregisters the object."""
         for registration in self._registrations:
             self.connection.unregister_object(registration)
         self._registrations = []
@@ -147,7 +147,7 @@ class Service:
                                     GLib.Variant(signature, arguments))
 
     def read_property(self, interface, name):
-        """The value of a property, as a variant."""
+        """The value of a property as a GLib.Variant."""
         raise NotImplementedError
 
     def _on_get(self, _connection, _sender, _path, interface, name):
@@ -167,7 +167,7 @@ class Service:
 
 
 class BusError(Exception):
-    """An error answered to the caller."""
+    """A D-Bus error for the caller."""
 
     def __init__(self, name, message):
         super().__init__(message)

@@ -1,4 +1,4 @@
-# A disk service in memory, for machines where no real volume can be attached.
+# A fake UDisks2, for machines that cannot attach real volumes.
 # SPDX-License-Identifier: MIT
 import contextlib
 import itertools
@@ -16,18 +16,18 @@ OBJECTS = "org.freedesktop.DBus.ObjectManager"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 ERROR = "org.freedesktop.UDisks2.Error"
 
-# Folders of every Linux that are mount points: one to which all may write, one to which nobody may.
+# Mount points on every Linux system: one that every user can write to, and one that no user can.
 WRITABLE_MOUNT = "/dev/shm"
 UNWRITABLE_MOUNT = "/proc"
 
 
 def path_text(path):
-    """A path as UDisks2 has it: bytes with a null at the end."""
+    """A path as UDisks2 represents it: bytes with a terminating null."""
     return path.encode() + b"\0"
 
 
 class DiskService(bus.Service):
-    """The manager of all disks. Going away and coming back is a new one on the same sticks."""
+    """The object manager. A restart of UDisks2 is a new instance with the same sticks."""
 
     XML = """<node><interface name="org.freedesktop.DBus.ObjectManager">
       <method name="GetManagedObjects">
@@ -41,13 +41,13 @@ class DiskService(bus.Service):
         super().__init__(bus.connect(address), MANAGER_PATH)
 
     def open(self):
-        """Lets itself be found. The sticks that it has by then were there all the time."""
+        """Owns the bus name; the sticks added before exist from the start."""
         bus.own_name(self.connection, "org.freedesktop.UDisks2")
 
     def close(self):
         self.connection.close_sync()
 
-    # Named as the bus has it. pylint: disable=invalid-name
+    # The name is that of the D-Bus method. pylint: disable=invalid-name
     def GetManagedObjects(self):
         return ({stick.path: stick.interfaces() for stick in self.sticks},)
 
@@ -61,7 +61,7 @@ class DiskService(bus.Service):
 
 
 class FileSystem(bus.Service):
-    """The calls on one stick."""
+    """The Filesystem interface of one stick."""
 
     XML = """<node><interface name="org.freedesktop.UDisks2.Filesystem">
       <method name="Mount"><arg type="a{sv}" direction="in"/>
@@ -73,7 +73,7 @@ class FileSystem(bus.Service):
         super().__init__(connection, stick.path)
         self._stick = stick
 
-    # Named as the bus has them. pylint: disable=invalid-name
+    # The names are those of the D-Bus methods. pylint: disable=invalid-name
     def Mount(self, options):
         if self._stick.place:
             raise bus.BusError(f"{ERROR}.AlreadyMounted", "It is mounted already.")
@@ -91,7 +91,7 @@ class FileSystem(bus.Service):
 
 
 class MockedStick:
-    """A volume that is there only as far as the disk service tells of it."""
+    """A volume that exists only in the fake UDisks2."""
 
     numbers = itertools.count()
 
@@ -127,7 +127,7 @@ class MockedStick:
         self.serve()
 
     def serve(self):
-        """Shows the stick on the disk service that there is now."""
+        """Exports the stick on the current disk service."""
         service = self._machine.disk_service
         self._calls = FileSystem(service.connection, self)
         service.add(self)
@@ -159,7 +159,7 @@ class MockedStick:
 
     @contextlib.contextmanager
     def kept_busy(self):
-        """As long as the context lasts, the stick cannot be unmounted."""
+        """While in context, the stick cannot be unmounted."""
         self.busy = True
         yield
         self.busy = False

@@ -1,4 +1,4 @@
-# Notifications: a server that shows them to the stage, and the hand on the desktop's own.
+# Notifications: a fake server, and access to the desktop's own.
 # SPDX-License-Identifier: MIT
 import time
 from dataclasses import dataclass, field
@@ -16,7 +16,7 @@ CLOSED = 3
 
 @dataclass
 class Notification:
-    """What was asked to be shown."""
+    """The content of one notification."""
 
     id: int
     summary: str
@@ -28,7 +28,7 @@ class Notification:
 
 
 class NotificationServer(bus.Service):
-    """Takes what is posted; the stage presses the buttons."""
+    """A server that records notifications; a test presses their buttons."""
 
     XML = """<node><interface name="org.freedesktop.Notifications">
       <method name="Notify">
@@ -47,7 +47,7 @@ class NotificationServer(bus.Service):
     </interface></node>"""
 
     def __init__(self, address):
-        # A connection of its own, so that going away looks like the end of a server.
+        # A connection of its own, because closing it must look like the server's end.
         super().__init__(bus.connect(address), PATH)
         self.posted = []
         self._last_id = 0
@@ -56,7 +56,7 @@ class NotificationServer(bus.Service):
     def close(self):
         self.connection.close_sync()
 
-    # Named, and with parameters, as the bus has them. pylint: disable=invalid-name
+    # Names and parameters are those of the D-Bus method. pylint: disable=invalid-name
     # pylint: disable=too-many-arguments
     def Notify(self, _application, replaces, _icon, summary, body, actions, hints, _timeout):
         self._last_id = replaces or self._last_id + 1
@@ -78,7 +78,7 @@ class NotificationServer(bus.Service):
         self.emit(NOTIFICATIONS, "NotificationClosed", "(uu)", number, reason)
 
     def wait_for(self, summary, after=0):
-        """The notification with that summary, the first `after` posted ones not counting."""
+        """Waits for a notification with this summary, skipping the first `after` ones."""
         def find():
             return next((one for one in self.posted[after:] if one.summary == summary), None)
         try:
@@ -87,10 +87,10 @@ class NotificationServer(bus.Service):
             raise NeverHappened(f"{problem}; posted were {self.posted}") from None
 
     def press(self, notification, action):
-        """Presses the button with that action, upon which the notification goes."""
+        """Presses the button of `action`; the notification closes."""
         if action not in notification.actions:
             raise AssertionError(f"{notification} has no button for {action}")
-        # In the thread that answers, and so not before the number has been told.
+        # In the serving thread, and so after the reply to Notify.
         GLib.idle_add(self._invoke, notification.id, action)
 
     def _invoke(self, number, action):
@@ -109,7 +109,7 @@ class NotificationWindow:
         return self._session.windows("--class", "xfce4-notifyd")
 
     def wait_until_shown(self):
-        """Left, top, width and height of the pop-up."""
+        """Waits for the pop-up; returns its left, top, width and height."""
         return self._session.geometry(wait_for(self._windows, "a notification is shown")[-1])
 
     def wait_until_gone(self):

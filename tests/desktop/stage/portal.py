@@ -1,4 +1,4 @@
-# The Settings portal: the desktop's word on dark and light.
+# A fake Settings portal with the colour scheme.
 # SPDX-License-Identifier: MIT
 from gi.repository import GLib
 
@@ -11,7 +11,7 @@ NO_PREFERENCE, DARK, LIGHT = 0, 1, 2
 
 
 class SettingsPortal(bus.Service):
-    """Answers for one setting, which the stage changes."""
+    """Serves one setting, which tests change."""
 
     XML = """<node><interface name="org.freedesktop.portal.Settings">
       <method name="Read"><arg type="s" direction="in"/><arg type="s" direction="in"/>
@@ -30,7 +30,7 @@ class SettingsPortal(bus.Service):
         bus.own_name(connection, "org.freedesktop.portal.Desktop")
 
     def choose(self, scheme):
-        """What a person does in the desktop's settings."""
+        """Changes the setting, as the desktop's settings dialog does."""
         self._scheme = scheme
         self.emit(SETTINGS, "SettingChanged", "(ssv)", NAMESPACE, KEY,
                   GLib.Variant("u", scheme))
@@ -38,14 +38,14 @@ class SettingsPortal(bus.Service):
     def read_property(self, interface, name):
         return GLib.Variant("u", 2)
 
-    # Named as the bus has them. pylint: disable=invalid-name
+    # The names are those of the D-Bus methods. pylint: disable=invalid-name
     def ReadOne(self, namespace, key):
         if (namespace, key) != (NAMESPACE, KEY):
             raise bus.BusError("org.freedesktop.portal.Error.NotFound", "no such setting")
         return (GLib.Variant("u", self._scheme),)
 
     def Read(self, namespace, key):
-        # The older call wraps its answer twice.
+        # The older call wraps its answer in a second variant.
         return (GLib.Variant("v", self.ReadOne(namespace, key)[0]),)
 
     def ReadAll(self, namespaces):

@@ -1,4 +1,4 @@
-# Programs started for the stage, their output collected, none of them outliving it.
+# Child programs with collected output, ended with the stage.
 # SPDX-License-Identifier: MIT
 import os
 import signal
@@ -30,7 +30,7 @@ class Program:
             return file.read()
 
     def wait_for_text(self, wanted, start=0):
-        """Waits until `wanted` stands in the output behind `start`; its end is returned."""
+        """Waits for `wanted` in the output after `start`; returns the end of the match."""
         def end():
             found = self.text().find(wanted, start)
             return found + len(wanted) if found >= 0 else None
@@ -40,12 +40,12 @@ class Program:
             raise NeverHappened(f"{problem}; this was:\n{self.text()}") from None
 
     def wait_for_end(self, seconds=PATIENCE):
-        """The exit status, once the program has ended."""
+        """Waits for the program's end; returns the exit status."""
         wait_for(lambda: not self.runs(), "the program ends", seconds)
         return self.process.returncode
 
     def stop(self, first=signal.SIGTERM):
-        """Ends the program, gently at first."""
+        """Ends the program: first with the signal `first`, then by force."""
         if self.runs():
             os.kill(self.pid, first)
             try:
@@ -60,7 +60,7 @@ class Program:
 
 
 def run(*command, **options):
-    """Runs a command to its end; its output. What it complains about becomes the exception."""
+    """Runs a command and returns its output; raises RuntimeError with its stderr on failure."""
     result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
                             errors="replace", check=False, **options)
     if result.returncode != 0:
@@ -69,7 +69,7 @@ def run(*command, **options):
 
 
 def with_environment(entry):
-    """The processes that have `entry` in their environment, such as those a bus has started."""
+    """The processes with `entry` in their environment, such as those started by a bus."""
     for name in os.listdir("/proc"):
         if not name.isdigit() or int(name) == os.getpid():
             continue
@@ -82,7 +82,7 @@ def with_environment(entry):
 
 
 def kill_all_with_environment(entry):
-    """Ends what the stage has started, directly or not."""
+    """Kills the processes that the stage has started, directly or not."""
     for pid in with_environment(entry):
         try:
             os.kill(pid, signal.SIGKILL)

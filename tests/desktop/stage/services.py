@@ -1,4 +1,4 @@
-# What the machine itself must provide, and what it is told about the stage for a while.
+# Services of the machine, and temporary udev and polkit rules for the stage.
 # SPDX-License-Identifier: MIT
 import glob
 import os
@@ -22,8 +22,8 @@ SUBSYSTEM=="block", KERNEL=="loop*", ATTR{{loop/backing_file}}=="{folder}/*", \\
   ENV{{UDISKS_SYSTEM}}="0", ENV{{UDISKS_AUTO}}="1"
 """
 POLKIT_RULES = "/etc/polkit-1/rules.d/10-brisel-stage.rules"
-# What somebody who sits at the machine may do without a password, or has in hand as its owner.
-# Without a login manager there are no seats to tell apart.
+# UDisks2 actions that a user at the machine may do without a password, and those of its owner.
+# Without a login manager there are no seats, so the rule grants the actions of other seats too.
 ALLOWED = ("org.freedesktop.udisks2.filesystem-mount",
            "org.freedesktop.udisks2.filesystem-mount-other-seat",
            "org.freedesktop.udisks2.filesystem-unmount-others")
@@ -40,7 +40,7 @@ polkit.addAdminRule(function(action, subject) {{
 MOUNT_TOOL = "/usr/sbin/mount_ntfs"
 POLICY = "/usr/share/polkit-1/actions/org.brisel.policy"
 POLICY_SOURCE = os.path.join(ROOT, "resources", "linux", "org.brisel.policy")
-# Says that the tool and the policy are the stage's, and no package's.
+# Marks the installed tool and policy as the stage's, and not a package's.
 INSTALLED_MARK = "/run/brisel-stage.installed"
 TOOL_ACTION = "org.brisel.run-mount-tool"
 AUTHORITY = ("org.freedesktop.PolicyKit1", "/org/freedesktop/PolicyKit1/Authority",
@@ -48,7 +48,8 @@ AUTHORITY = ("org.freedesktop.PolicyKit1", "/org/freedesktop/PolicyKit1/Authorit
 
 
 def start_disk_services(cleanup):
-    """The system bus, udev and UDisks2; they are ended again only if they did not run before."""
+    """Starts the system bus, udev and UDisks2; `cleanup` stops them if they were not running
+    before."""
     if not disk_services_run():
         cleanup.callback(subprocess.run, [DISK_SERVICES, "stop"], check=False)
     run(DISK_SERVICES, "start")
@@ -63,12 +64,12 @@ def disk_services_run():
 
 
 def disk_service_is_ours():
-    """Whether UDisks2 was started for tests, so that they may also end it."""
+    """True if the tests started UDisks2 and so may stop it."""
     return bool(run(DISK_SERVICES, "udisks-process"))
 
 
 def write_for_a_while(path, text, cleanup):
-    """A file of the machine's that `cleanup` removes."""
+    """Writes a system file that `cleanup` removes."""
     cleanup.callback(remove, path)
     os.makedirs(os.path.dirname(path), exist_ok=True)
     with open(path, "w", encoding="utf-8") as file:
@@ -82,26 +83,26 @@ def remove(path):
 
 
 def announce_sticks(folder, cleanup):
-    """Lets udev take the images in `folder` for sticks."""
+    """Makes udev treat the images in `folder` as USB sticks."""
     cleanup.callback(run, "udevadm", "control", "--reload")
     write_for_a_while(UDEV_RULES, UDEV_TEXT.format(folder=folder), cleanup)
     run("udevadm", "control", "--reload")
 
 
 def start_time(pid):
-    """When a process began, in the kernel's clock ticks: polkit tells processes apart by it."""
+    """The start time of a process in clock ticks, which polkit uses to identify it."""
     with open(f"/proc/{pid}/stat", encoding="ascii", errors="replace") as file:
         return int(file.read().rpartition(")")[2].split()[19])
 
 
 def subject(pid):
-    """A process as polkit's calls want it."""
+    """A process as a polkit subject."""
     return ("unix-process", {"pid": GLib.Variant("u", pid),
                              "start-time": GLib.Variant("t", start_time(pid))})
 
 
 def is_allowed(connection, pid, action):
-    """Whether polkit lets the process do it without asking anybody."""
+    """True if polkit authorizes the process without a prompt."""
     name, path, interface = AUTHORITY
     answer = bus.call(connection, name, path, f"{interface}.CheckAuthorization",
                       "((sa{sv})sa{ss}us)", subject(pid), action, {}, 0, "")
@@ -115,7 +116,7 @@ def knows_action(connection, action):
 
 
 def grant_rights(pid, cleanup):
-    """Makes the person of process `pid` one who may use sticks, and an administrator."""
+    """Lets the user of process `pid` use sticks, and makes them an administrator."""
     text = POLKIT_TEXT.format(name=NAME, allowed=list(ALLOWED))
     write_for_a_while(POLKIT_RULES, text, cleanup)
     connection = bus.system_bus()
@@ -124,7 +125,7 @@ def grant_rights(pid, cleanup):
 
 
 def obstacle_to_mount_tool(built):
-    """Why the mount tool cannot be put in its place for a while; None if it can."""
+    """The reason why the mount tool cannot be installed; None if it can."""
     for source, place in ((built, MOUNT_TOOL), (POLICY_SOURCE, POLICY)):
         if not os.path.exists(source):
             return f"there is no {source}"
@@ -134,7 +135,7 @@ def obstacle_to_mount_tool(built):
 
 
 def install_mount_tool(built, cleanup):
-    """Puts the mount tool and its policy where a package would, for a while."""
+    """Installs the mount tool and its policy where a package would; `cleanup` removes them."""
     connection = bus.system_bus()
     cleanup.callback(remove, INSTALLED_MARK)
     with open(INSTALLED_MARK, "w", encoding="ascii"):
@@ -147,7 +148,7 @@ def install_mount_tool(built, cleanup):
 
 
 def remove_leftovers(folders):
-    """What a run has left that was killed; its folders began with `folders`."""
+    """Removes what a killed run left; its folders began with `folders`."""
     for file in glob.glob(f"{folders}*/images/*.img"):
         for device in attached_to(file):
             detach(device)

@@ -36,7 +36,7 @@ PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 </channel>
 """
 
-# The file manager: it notes what it is asked to show.
+# A file manager that records the URIs it is asked to show.
 FILE_MANAGER = """[Desktop Entry]
 Type=Application
 Name=The stage's file manager
@@ -49,14 +49,14 @@ inode/directory=stage-files.desktop
 
 
 def notification_server_program():
-    """Where this machine keeps xfce4-notifyd."""
+    """The path of xfce4-notifyd; None if it is not installed."""
     places = glob.glob("/usr/lib/*/xfce4/notifyd/xfce4-notifyd") + \
         glob.glob("/usr/lib*/xfce4/notifyd/xfce4-notifyd")
     return places[0] if places else None
 
 
 class Session:
-    """What a person who has logged in finds running."""
+    """The programs and files of a logged-in user."""
 
     def __init__(self, folder, account, path, cleanup, system_bus_address=None):
         self.folder = folder
@@ -87,7 +87,7 @@ class Session:
             "XDG_CONFIG_HOME": f"{home}/.config", "XDG_CACHE_HOME": f"{home}/.cache",
             "XDG_DATA_HOME": f"{home}/.local/share", "NO_AT_BRIDGE": "1",
             "GDK_BACKEND": "x11", "GSETTINGS_BACKEND": "memory"}
-        # How a build with sanitizers is to behave is for whoever runs the stories to say.
+        # Passes on the sanitizer options of the caller.
         environment |= {name: value for name, value in os.environ.items()
                         if name.endswith("SAN_OPTIONS")}
         if system_bus_address:
@@ -95,7 +95,7 @@ class Session:
         return environment
 
     def _make_person_folder(self, path):
-        """A folder below the home folder, with all above it."""
+        """Creates a folder below the home folder, with its parents."""
         folder = self.account.home
         for name in path.split("/"):
             folder = os.path.join(folder, name)
@@ -132,39 +132,39 @@ class Session:
                 text = opened.read()
             if any(f"Name={name}\n" in text for name in ACTIVATED):
                 self.bus.offer(file)
-        # The bus would see them by itself, but not at once.
+        # The bus would notice the new files by itself, but later.
         bus.driver(self.connection, "ReloadConfig")
 
     def start(self, command, name, **options):
-        """Starts a program in the session; its output goes to the file NAME.log."""
+        """Starts a program in the session; its output goes to NAME.log."""
         log = os.path.join(self.folder, f"{name}.log")
         return Program(command, self.account, self.environment, log, **options)
 
     def run(self, *command):
-        """Runs a command of the person's; its output."""
+        """Runs a command as the user; returns its output."""
         return run(*self.account.command(command), env=self.environment,
                    cwd=self.account.home)
 
     def start_panel(self):
-        """The panel, once it takes tray icons."""
+        """Starts the panel and waits for its tray."""
         self.panel = self.start(["xfce4-panel", "--disable-wm-check"], "panel")
         wait_for(lambda: bus.has_owner(self.connection, WATCHER), "the panel watches for icons")
 
     def stop_panel(self):
-        """Ends the panel as if it crashed."""
+        """Kills the panel, as in a crash."""
         if self.panel:
             self.panel.stop(signal.SIGKILL)
             wait_for(lambda: not bus.has_owner(self.connection, WATCHER), "the panel is gone")
         self.panel = None
 
     def start_notification_server(self):
-        """The desktop's own notification server, in a window of its own."""
+        """Starts the desktop's own notification server."""
         self.notification_server = self.start([notification_server_program()], "notifications")
         wait_for(lambda: bus.has_owner(self.connection, NOTIFICATIONS),
                  "the notification server is there")
 
     def stop_notification_server(self):
-        """Ends the notification server, also one that the bus has started."""
+        """Kills the notification server, including one activated by the bus."""
         if bus.has_owner(self.connection, NOTIFICATIONS):
             os.kill(bus.owner_pid(self.connection, NOTIFICATIONS), signal.SIGKILL)
             wait_for(lambda: not bus.has_owner(self.connection, NOTIFICATIONS),
@@ -174,7 +174,7 @@ class Session:
         self.notification_server = None
 
     def folders_shown(self):
-        """What the file manager was asked to show, as it was asked."""
+        """The URIs that the file manager was asked to show, in order."""
         try:
             with open(f"{self.account.home}/shown", encoding="utf-8") as file:
                 return file.read().splitlines()
@@ -186,19 +186,19 @@ class Session:
             os.remove(f"{self.account.home}/shown")
 
     def windows(self, *criteria):
-        """The visible windows that xdotool finds."""
+        """The visible windows that match xdotool's `criteria`."""
         result = subprocess.run(["xdotool", "search", "--onlyvisible", *criteria],
                                 env=self.environment, capture_output=True, text=True, check=False)
         return result.stdout.split()
 
     def geometry(self, window):
-        """Left, top, width and height of a window."""
+        """The left, top, width and height of a window."""
         text = self.run("xdotool", "getwindowgeometry", "--shell", window)
         values = dict(line.split("=") for line in text.splitlines())
         return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
     def open_menu(self):
-        """Where the open menu is; None if there is none."""
+        """The geometry of the open menu; None if there is none."""
         for window in self.windows("--class", ""):
             if "MENU" in self.run("xprop", "-id", window, "_NET_WM_WINDOW_TYPE"):
                 return self.geometry(window)
@@ -211,7 +211,7 @@ class Session:
         self.run("xdotool", "key", *keys)
 
     def screenshot(self, file, part=None):
-        """The whole screen, or the part (left, top, width, height) of it, as a PNG file."""
+        """Saves the screen, or a part (left, top, width, height), as PNG."""
         options = []
         if part:
             left, top, width, height = part
@@ -219,7 +219,8 @@ class Session:
         run("import", "-window", "root", "-display", self.environment["DISPLAY"], *options, file)
 
     def wait_until_still(self):
-        """Waits until everything is drawn: windows come first, and what is in them fades in."""
+        """Waits until the screen stops changing: window contents fade in after the window appears.
+        """
         before = None
 
         def is_still():

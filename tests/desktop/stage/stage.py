@@ -1,4 +1,4 @@
-# The whole stage: who plays, on what machine, with which program.
+# The stage: user account, session, disks and the program.
 # SPDX-License-Identifier: MIT
 import fcntl
 import os
@@ -26,7 +26,7 @@ DESKTOP_PROGRAMS = (
 
 
 def obstacle_to_desktop():
-    """What this machine lacks for any desktop; None if nothing."""
+    """The first requirement of a desktop that this machine lacks; None if there is none."""
     for program in DESKTOP_PROGRAMS:
         if not shutil.which(program, path=SYSTEM_PATH):
             return f"there is no {program}"
@@ -38,14 +38,14 @@ def obstacle_to_desktop():
 
 
 def obstacle_to_real_disks():
-    """Why no real volume can be used here; None if it can."""
+    """The reason why no real volume can be used; None if one can."""
     script = os.path.join(services.ROOT, "scripts", "real-volumes-possible")
     result = subprocess.run([script], capture_output=True, text=True, check=False)
     return result.stdout.strip() if result.returncode else None
 
 
 class Stage:
-    """Brings everything up, and takes it down by `close`."""
+    """Starts everything; `close` ends it."""
 
     def __init__(self, programs, mocked):
         self._built = os.path.realpath(programs)
@@ -82,7 +82,7 @@ class Stage:
         self._cleanup.close()
 
     def _wait_for_other_stages(self):
-        """One stage a machine: what root changes has fixed names."""
+        """One stage per machine: its system files have fixed names."""
         if os.geteuid() != 0:
             return
         lock = self._cleanup.enter_context(open(LOCK, "w", encoding="ascii"))
@@ -100,7 +100,7 @@ class Stage:
         return folder
 
     def _copy_programs(self):
-        """The programs and their icons where the person can reach them, whoever owns the build."""
+        """Copies the programs and their icons to a folder that the user can read."""
         programs = os.path.join(self.folder, "bin")
         os.mkdir(programs, 0o755)
         for name in PROGRAMS:
@@ -133,7 +133,7 @@ class Stage:
         return bus.address
 
     def start_disk_service(self):
-        """The mocked disk service, with the sticks that are attached."""
+        """Starts the fake UDisks2 with the attached sticks."""
         self.disk_service = DiskService(self._bus_of_disks)
         for stick in self.sticks:
             if stick.node:
@@ -144,7 +144,7 @@ class Stage:
         self.disk_service.close()
 
     def begin_story(self):
-        """A desktop at rest: light, nothing attached, the notice read, no notification."""
+        """Resets the desktop: light, no stick, notice accepted, no notification."""
         self.portal.choose(LIGHT)
         self.preferences.write(showDisclaimer="false")
         self.session.forget_folders_shown()
@@ -153,7 +153,7 @@ class Stage:
             self.session.start_panel()
 
     def end_story(self):
-        """Undoes what the story has left."""
+        """Undoes the changes of the story."""
         self.sticks = []
         self._story.close()
         self.session.stop_notification_server()
@@ -174,7 +174,7 @@ class Stage:
         return Brisel(self.session, self.programs, self._story)
 
     def new_stick(self, label):
-        """A stick with one NTFS volume, not attached yet."""
+        """A new stick with one NTFS volume, unattached."""
         if self.mocked:
             stick = MockedStick(self, label, self._story)
         else:
@@ -189,7 +189,7 @@ class Stage:
         return agents.SilentDialog(pid, self._story)
 
     def install_mount_tool(self):
-        """Puts the mount tool in its place for this story; None, or why that cannot be."""
+        """Installs the mount tool for this story; returns None, or the reason why it cannot."""
         built = os.path.join(self.programs, "mount_ntfs")
         obstacle = services.obstacle_to_mount_tool(built)
         if not obstacle:

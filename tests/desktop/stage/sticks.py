@@ -1,4 +1,4 @@
-# Sticks: NTFS volumes in image files, attached, mounted, pulled and looked into.
+# Sticks: NTFS volumes in image files, attached as loop devices.
 # SPDX-License-Identifier: MIT
 import os
 import secrets
@@ -8,12 +8,12 @@ from .programs import run
 from .waiting import wait_for
 
 PAGE = 4096
-# Where an NTFS volume has it.
+# Offset of the serial number in an NTFS boot sector.
 SERIAL_NUMBER = 0x48
 
 
 def mounts_of(device):
-    """Mount point and whether it is read-write, of each mount of a device, by the kernel."""
+    """The mount point of each mount of a device, and whether it is read-write, from mountinfo."""
     found = []
     with open("/proc/self/mountinfo", encoding="utf-8") as table:
         for line in table:
@@ -36,7 +36,7 @@ def attached_to(image):
 
 
 def detach(device):
-    """Takes a loop device away from under what is mounted of it."""
+    """Detaches a loop device although it is mounted."""
     run("losetup", "-d", device)
     while mounts_of(device):
         run("umount", "--lazy", mounts_of(device)[0][0])
@@ -56,7 +56,7 @@ class Stick:
         cleanup.callback(self._throw_away)
 
     def _become_one_of_a_kind(self):
-        """A serial number of its own: mkntfs gives the same one to all that it makes in a second."""
+        """Writes a random serial number: mkntfs derives it from the time in seconds."""
         with open(self.image, "r+b") as file:
             file.seek(SERIAL_NUMBER)
             file.write(secrets.token_bytes(8))
@@ -67,17 +67,17 @@ class Stick:
 
     @property
     def node(self):
-        """The device's name without its folder, as the program has it."""
+        """The device name without /dev/."""
         return os.path.basename(self.device)
 
     def attach(self):
         self.device = run("losetup", "--find", "--show", self.image)
-        # What happens next is for the tests to wait for; but a device that is pulled while udev
-        # still looks at it stays attached.
+        # Tests wait for what follows; but a device that is pulled while udev probes it stays
+        # attached.
         run("udevadm", "settle")
 
     def pull(self):
-        """Takes the stick out, without asking whether it is mounted."""
+        """Removes the stick, mounted or not."""
         if not self.device:
             return
         detach(self.device)
@@ -88,7 +88,7 @@ class Stick:
         return mounts_of(self.device)
 
     def wait_until_writable(self):
-        """The folder where the stick is mounted read-write."""
+        """Waits until the stick is mounted read-write; returns the folder."""
         def folder():
             return next((place for place, writable in self.mounts() if writable), None)
         return wait_for(folder, f"{self.label} is mounted read-write")
@@ -97,12 +97,12 @@ class Stick:
         wait_for(lambda: not self.mounts(), f"{self.label} is unmounted")
 
     def mount_read_only(self, session):
-        """Mounts the stick as a careful desktop does; the folder."""
+        """Mounts the stick read-only through UDisks2; returns the folder."""
         session.run("udisksctl", "mount", "--no-user-interaction", "-o", "ro", "-b", self.device)
         return self.mounts()[0][0]
 
     def hibernate(self):
-        """Leaves the stick as a Windows does that sleeps on it."""
+        """Writes a hibernation file, as Windows does."""
         file = self.image + ".page"
         with open(file, "wb") as page:
             page.write(b"hibr".ljust(PAGE, b"\0"))
@@ -110,7 +110,7 @@ class Stick:
         os.remove(file)
 
     def content(self, file, stream=None):
-        """What a file holds, read from the image; None if there is no such file or stream."""
+        """The content of a file or stream, read from the image; None if it is absent."""
         options = ["-a", "DATA", "-n", stream] if stream else []
         result = subprocess.run(["ntfscat", "-f", *options, self.image, file],
                                 capture_output=True, text=True, check=False)

@@ -1,4 +1,4 @@
-# Telling stories: each is announced by a sentence, with how it ended.
+# Prints the name and the result of each story.
 # SPDX-License-Identifier: MIT
 import sys
 import time
@@ -14,7 +14,7 @@ def sentence(story):
 
 
 def all_stories(suite):
-    """The single stories of nested suites."""
+    """The stories of nested suites."""
     for one in suite:
         if isinstance(one, unittest.TestSuite):
             yield from all_stories(one)
@@ -23,13 +23,13 @@ def all_stories(suite):
 
 
 def logged(story):
-    """The program's log, for one who wonders what went wrong."""
+    """The program's log, for a failure report."""
     text = story.log() if hasattr(story, "log") else ""
     return f"The program's log:\n{text}" if text else ""
 
 
 class Telling(unittest.TestResult):
-    """Prints a line a story, and what went wrong below it."""
+    """Prints a line for each story, and the errors below it."""
 
     def __init__(self):
         super().__init__()
@@ -60,8 +60,8 @@ class Telling(unittest.TestResult):
         self._print("skipped", test, f": {reason}")
 
     def summary(self):
-        """The last lines, and the exit status."""
-        # One story may go wrong twice, in its middle and in its end.
+        """Prints the totals; returns the exit status."""
+        # A story can fail twice: in its body and in its cleanup.
         wrong = len({story.id() for story, _ in self.errors + self.failures})
         print(f"{self.testsRun} stories: {self.testsRun - wrong - len(self.skipped)} ok, "
               f"{wrong} failed, {len(self.skipped)} skipped")

@@ -1,4 +1,4 @@
-# The program's tray icon and its menu, as the bus shows them.
+# The program's tray icon and menu, read over D-Bus.
 # SPDX-License-Identifier: MIT
 from dataclasses import dataclass
 
@@ -15,7 +15,7 @@ MENU = "com.canonical.dbusmenu"
 
 @dataclass
 class Entry:
-    """An item of the menu."""
+    """A menu item."""
 
     id: int
     label: str
@@ -25,7 +25,7 @@ class Entry:
 
 
 def entry_of(node):
-    """A node of GetLayout as an entry."""
+    """Converts a node of GetLayout."""
     number, properties, _children = node
     return Entry(number, properties.get("label", "").replace("__", "\0").replace("_", "").replace(
         "\0", "_"), properties.get("enabled", True), properties.get("toggle-state", 0) == 1,
@@ -33,7 +33,7 @@ def entry_of(node):
 
 
 class Tray:
-    """The icon of one process."""
+    """The tray icon of one process."""
 
     def __init__(self, connection, pid):
         self._connection = connection
@@ -43,7 +43,7 @@ class Tray:
         return bus.properties(self._connection, WATCHER, "/StatusNotifierWatcher", WATCHER)[name]
 
     def all_items(self):
-        """What the panel shows, by the names under which it was registered."""
+        """The bus names of the items registered with the panel."""
         return self._watcher("RegisteredStatusNotifierItems")
 
     def _registered(self):
@@ -59,7 +59,7 @@ class Tray:
             return False
 
     def wait_until_shown(self):
-        """Waits until the panel has taken the icon, and there is a menu to it."""
+        """Waits until the icon is registered and its menu is exported."""
         wait_for(self._registered, f"{self._name} is in the panel")
         wait_for(self._has_menu, f"{self._name} has a menu")
 
@@ -86,11 +86,11 @@ class Tray:
         return [entry_of(child) for child in children]
 
     def labels(self):
-        """The titles, a separator being None."""
+        """The labels; None for a separator."""
         return [None if entry.separator else entry.label for entry in self.menu()]
 
     def wait_for_entry(self, label):
-        """The entry with that title, once there is one."""
+        """Waits for an entry with this label; returns it."""
         def find():
             return next((entry for entry in self.menu() if entry.label == label), None)
         try:
@@ -105,7 +105,7 @@ class Tray:
             raise NeverHappened(f"{problem}; it has {self.labels()}") from None
 
     def choose(self, label, below=None):
-        """Chooses an entry; `below` is the title of one that stands above it."""
+        """Chooses an entry; `below` is the label of an earlier one."""
         self.wait_for_entry(below or label)
         entries = self.menu()
         titles = [entry.label for entry in entries]

@@ -1,4 +1,4 @@
-# Waiting for something to happen, without guessing how long it takes.
+# Waiting for conditions, with a timeout.
 # SPDX-License-Identifier: MIT
 import time
 
@@ -7,11 +7,11 @@ PAUSE = 0.02
 
 
 class NeverHappened(AssertionError):
-    """What was waited for did not happen in time."""
+    """A condition did not become true in time."""
 
 
 def wait_for(condition, what, seconds=PATIENCE):
-    """The first true value of `condition()`; `what` says, in words, what is waited for."""
+    """Waits for a true value of `condition()` and returns it; `what` describes it."""
     deadline = time.monotonic() + seconds
     while True:
         value = condition()
@@ -23,7 +23,7 @@ def wait_for(condition, what, seconds=PATIENCE):
 
 
 def stays(condition, what, seconds=0.5):
-    """Holds `condition()` to be true for a while: for what must not happen."""
+    """Fails if `condition()` becomes false within `seconds`: for events that must not happen."""
     deadline = time.monotonic() + seconds
     while time.monotonic() < deadline:
         if not condition():

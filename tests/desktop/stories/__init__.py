@@ -1,2 +1,2 @@
-# What a person does with Brisel, and what comes of it.
+# Stories: what a user does with Brisel, and the result.
 # SPDX-License-Identifier: MIT

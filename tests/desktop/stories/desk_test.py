@@ -1,4 +1,4 @@
-# Mouse and eyes: the desktop's own panel, notifications and colours.
+# Stories with mouse and screen: the desktop's own panel, notifications and colours.
 # SPDX-License-Identifier: MIT
 from stage import portal
 from stage.notifications import NotificationWindow
@@ -6,17 +6,17 @@ from stage.waiting import NeverHappened, wait_for
 
 from .story import Story
 
-# The middle of the panel's one icon.
+# The centre of the panel's only icon.
 ICON = (17, 16)
 READ_ONLY = "brisel-status-green-light"
-# From the upper edge of a menu to the middle of its first entry.
+# From the top of a menu to the centre of its first entry.
 FIRST_ENTRY = 15
-# From the right and lower edges of a notification to the middle of its first button of two.
+# From the right and bottom of a notification to the centre of the first of its two buttons.
 FIRST_BUTTON = (159, 30)
 
 
 class Desk(Story):
-    """What can be seen, and clicked."""
+    """Tests what a user sees and clicks."""
 
     def test_a_click_in_the_panels_menu_makes_a_stick_writable(self):
         self.start_brisel()
@@ -27,7 +27,8 @@ class Desk(Story):
         self.wait_for_writable(stick)
 
     def choose_first_entry(self):
-        """Clicks on the icon and in its menu. A person is slower, and needs one try only."""
+        """Clicks the icon, then the first entry of its menu; None if the icon does not change in
+        time."""
         session = self.stage.session
         try:
             if not session.open_menu():
@@ -53,7 +54,7 @@ class Desk(Story):
         self.window.wait_until_shown()
         self.stage.session.stop_notification_server()
         self.window.wait_until_gone()
-        # The bus starts the server anew for this one.
+        # This notification makes the bus start the server again.
         second = self.attach("StageSecond")
         self.click_yes()
         self.wait_for_writable(second)

@@ -1,4 +1,4 @@
-# What the user's guide shows: the parts of the screen that Brisel puts there.
+# Takes the screenshots of the user's guide.
 # SPDX-License-Identifier: MIT
 import os
 
@@ -7,15 +7,15 @@ from stage.waiting import NeverHappened, wait_for
 
 from .story import Story
 
-# The middle of the panel's one icon, and a place where the mouse points at nothing.
+# The centre of the panel's only icon, and a point without a tooltip.
 ICON = (17, 16)
 ASIDE = (900, 600)
-# What an entry of a menu has at least.
+# The minimum height of a menu entry.
 LEAST_HEIGHT = 20
 
 
 class Guide(Story):
-    """Told only when pictures are wanted."""
+    """Runs only if pictures are requested."""
 
     def setUp(self):
         if not self.pictures:
@@ -78,26 +78,26 @@ class Guide(Story):
         self.show(lambda: self.stage.session.geometry(window), "menu-window")
 
     def show_window(self, text, name):
-        """Keeps a picture of the alert that says `text`; the alert."""
+        """Saves a picture of the alert with `text`; returns the alert."""
         alert = self.stage.alerts.wait_for(text)
         self.show(lambda: self.stage.session.geometry(alert), name)
         return alert
 
     def show_menu(self, name):
-        """Opens the menu, keeps a picture of it and of the icon above it, and closes it."""
+        """Opens the menu, saves a picture of it and the icon, and closes it."""
         left, top, width, height = wait_for(self.open_whole_menu, "there is a whole menu")
         self.keep((left, 0, width, top + height), name)
         self.close_menu()
 
     def open_whole_menu(self):
-        """Clicks on the icon; where the menu is, if it has grown to all that is in it by now."""
+        """Clicks the icon; returns the geometry of the menu once it is complete, or None."""
         session = self.stage.session
         session.wait_until_still()
         session.click(*ICON)
         try:
             wait_for(session.open_menu, "there is a menu", seconds=1)
         except NeverHappened:
-            # The panel had not put the icon in its place yet.
+            # The panel has not yet placed the icon.
             return None
         session.run("xdotool", "mousemove", *map(str, ASIDE))
         session.wait_until_still()
@@ -114,7 +114,7 @@ class Guide(Story):
         wait_for(lambda: not session.open_menu(), "the menu closes")
 
     def show(self, place, name):
-        """Keeps a picture of what is at `place()` once it is there wholly."""
+        """Saves a picture of `place()` once the screen is still."""
         self.stage.session.wait_until_still()
         self.keep(place(), name)
 
@@ -122,4 +122,4 @@ class Guide(Story):
         self.stage.session.screenshot(os.path.join(self.pictures, f"{name}.png"), part)
 
     def take_picture(self, moment):
-        """None of those that are only for whoever wonders what went wrong."""
+        """Omits the pictures that only help to debug."""

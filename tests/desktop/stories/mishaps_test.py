@@ -1,4 +1,4 @@
-# What may go away in the middle: a stick, the disk service, the panel, the notification server.
+# What may disappear during a session: stick, disk service, panel, notification server.
 # SPDX-License-Identifier: MIT
 import os
 import signal
@@ -12,7 +12,7 @@ UDISKS = "org.freedesktop.UDisks2"
 
 
 class Mishaps(Story):
-    """Brisel outlives them all."""
+    """Checks that the program survives each loss."""
 
     def test_a_stick_pulled_while_writable_leaves_the_menu_and_comes_back(self):
         self.start_brisel()

@@ -1,4 +1,4 @@
-# From a stick that is put in to a writable volume, through the mount tool and a password.
+# From an attached stick to a writable volume, through the mount tool and a password.
 # SPDX-License-Identifier: MIT
 import os
 
@@ -8,7 +8,7 @@ REASON = "the mount tool takes a real volume, and root"
 
 
 class MountTool(Story):
-    """The password's stories."""
+    """Tests the password prompt of the mount tool."""
 
     def start_with_stick(self):
         self.use_mount_tool()

@@ -1,4 +1,4 @@
-# From a stick that is put in to a writable volume, through the disk service.
+# From an attached stick to a writable volume, through UDisks2.
 # SPDX-License-Identifier: MIT
 from urllib.parse import unquote, urlparse
 
@@ -11,7 +11,7 @@ UNMOUNTED_MENU = [
 
 
 class Mounting(Story):
-    """The main job, and its variations."""
+    """Tests the main job and its variations."""
 
     def test_a_yes_to_the_prompt_makes_a_stick_writable(self):
         self.start_brisel()
@@ -37,7 +37,7 @@ class Mounting(Story):
         self.assert_greeting_arrived(stick)
 
     def wait_until_shown(self, folder):
-        """Waits for the file manager to have been asked for the folder, and for no other."""
+        """Waits until the file manager was asked for this folder, and only for it."""
         def shown():
             return {unquote(urlparse(one).path).rstrip("/") for one in self.folders_shown()}
         wait_for(shown, "a folder is shown")

@@ -1,4 +1,4 @@
-# The first start, a second one, the start at login, and the end.
+# The first launch, a second one, the start at login, and the end.
 # SPDX-License-Identifier: MIT
 import os
 import re
@@ -11,10 +11,10 @@ NOTICE = "A Warning Notice - Please Read Carefully"
 
 
 class Start(Story):
-    """How the program comes and goes."""
+    """Tests launch and exit."""
 
     def meet_notice(self):
-        """The notice of a first start."""
+        """Starts the program without preferences; waits for the notice."""
         self.stage.preferences.forget()
         self.brisel = self.stage.start_brisel()
         notice = self.stage.alerts.wait_for(NOTICE)

@@ -1,4 +1,4 @@
-# A story: a fresh start of Brisel on the shared stage, and what a person does first.
+# Base class of the stories: a new run of Brisel on the shared stage.
 # SPDX-License-Identifier: MIT
 import functools
 import os
@@ -9,7 +9,7 @@ GREETING_FILE = "greeting.txt"
 
 
 def on_real_disks_only(reason):
-    """A story that the mocked disk service cannot tell, and why."""
+    """Skips a story, with a reason, on the mocked disk service."""
     def decorate(method):
         @functools.wraps(method)
         def story(self):
@@ -21,9 +21,9 @@ def on_real_disks_only(reason):
 
 
 class Story(unittest.TestCase):
-    """What the stories have in common."""
+    """What the stories share."""
 
-    # Set by whoever runs the stories.
+    # Set by the runner of the stories.
     stage = None
     pictures = None
 
@@ -43,11 +43,11 @@ class Story(unittest.TestCase):
             self.stage.end_story()
 
     def log(self):
-        """What the program has logged so far."""
+        """The program's log so far."""
         return self.brisel.program.text() if self.brisel else ""
 
     def take_picture(self, moment):
-        """Keeps the screen as it is for people to look at, if pictures are wanted."""
+        """Saves a picture of the screen if pictures are requested."""
         if self.pictures:
             name = f"{self._testMethodName.removeprefix('test_')}-{moment}.png"
             self.stage.session.screenshot(os.path.join(self.pictures, name))
@@ -61,31 +61,31 @@ class Story(unittest.TestCase):
         return self.stage.notifications
 
     def start_brisel(self):
-        """Starts the program; it is in the tray afterwards."""
+        """Starts the program and waits for its tray icon."""
         self.brisel = self.stage.start_brisel()
         self.brisel.wait_until_ready()
 
     def attach(self, label):
-        """A new stick, attached. Its label must be one that nobody's own disk has."""
+        """Attaches a new stick. Its label must differ from those of the machine's own disks."""
         stick = self.stage.new_stick(label)
         stick.attach()
         return stick
 
     def accept_prompt(self, stick, posted_before=0):
-        """Says yes to the question that a stick's coming brings up."""
+        """Accepts the prompt for the stick."""
         prompt = self.notifications.wait_for(f"{stick.label} detected", posted_before)
         self.notifications.press(prompt, "DO_MOUNT")
 
     def make_writable(self, stick):
-        """From an attached stick to the folder where it is mounted read-write."""
+        """Accepts the prompt; returns the folder where the stick is mounted read-write."""
         self.accept_prompt(stick)
         return self.wait_for_writable(stick)
 
     def wait_for_writable(self, stick):
-        """Waits for the menu, the icon and the mount; the folder."""
+        """Waits for menu, icon and mount; returns the folder."""
         self.tray.wait_for_entry(f"show {stick.label} in Finder")
         self.tray.wait_for_colour("blue")
-        # Last, for the mount tool prepares a volume elsewhere before it puts it in its place.
+        # Last: the mount tool mounts elsewhere first, then moves the mount.
         return stick.wait_until_writable()
 
     def unmount(self, stick):
@@ -94,25 +94,25 @@ class Story(unittest.TestCase):
         self.tray.wait_until_gone(f"show {stick.label} in Finder")
 
     def in_use(self, stick, folder):
-        """A stick that somebody holds as long as the context lasts."""
+        """While in context, the stick cannot be unmounted."""
         if self.stage.mocked:
             return stick.kept_busy()
         return open(f"{folder}/held", "w", encoding="ascii")
 
     def write_greeting(self, folder):
-        """Puts a file on the stick that is mounted there, as the person would."""
+        """Writes a file to the mounted stick, as the user."""
         if not self.stage.mocked:
             self.stage.session.run("sh", "-c", 'printf %s "$1" >"$2"', "sh", GREETING,
                                    f"{folder}/{GREETING_FILE}")
 
     def assert_greeting_arrived(self, stick):
-        """Looks into the image itself. The stick is detached afterwards."""
+        """Reads the file from the image; pulls the stick first."""
         stick.pull()
         if not self.stage.mocked:
             self.assertEqual(stick.content(GREETING_FILE), GREETING)
 
     def use_mount_tool(self):
-        """Has the mount tool in its place during this story."""
+        """Installs the mount tool for this story, or skips it."""
         obstacle = self.stage.install_mount_tool()
         if obstacle:
             self.skipTest(obstacle)

@@ -1,4 +1,4 @@
-// Alerts in windows of another program, whatever that does.
+// Alerts shown by a dialog program, including one that fails.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/Alert.h"
 
@@ -44,7 +44,7 @@ class AnAlert : public testing::Test {
     int ask(const AlertContent& content, const DialogScript& dialog) {
         return ask(content, dialog.path());
     }
-    /// Neither the log nor the desktop has got the text.
+    /// The text reached neither the log nor the notification server.
     void expectNothingTold() {
         EXPECT_THAT(log_.entries(), IsEmpty());
         EXPECT_THAT(desktop_.calls(), IsEmpty());
@@ -147,7 +147,7 @@ TEST_F(AnAlert, LeavesNeitherProcessesNorDescriptors) {
     const DialogScript closed("echo shown");
     const DialogScript broken("exit 3");
     const DialogScript silent("exec sleep 100");
-    // What is opened once for good is open then.
+    // Opens the descriptors that stay open, before they are counted.
     ask(Question, broken);
     const auto before = tests::openDescriptors();
     constexpr int Rounds = 5;
@@ -157,7 +157,7 @@ TEST_F(AnAlert, LeavesNeitherProcessesNorDescriptors) {
         ask(Question, "/nonexistent/dialog");
         ask(Question, silent.path(), Brief);
     }
-    // GLib's threads may just have one open.
+    // GLib's threads may have one open for a moment.
     EXPECT_LT(tests::openDescriptors(), before + Rounds);
     EXPECT_LE(waitpid(-1, nullptr, WNOHANG), 0);
     EXPECT_TRUE(pressed.isGone());

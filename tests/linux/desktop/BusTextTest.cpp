@@ -1,4 +1,4 @@
-// Outside text on its way to the bus, and the menu's numbers.
+// Sanitising text for D-Bus, and the menu's item numbers.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/BusText.h"
 

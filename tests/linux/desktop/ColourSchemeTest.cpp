@@ -1,4 +1,4 @@
-// Light or dark, as the Settings portal says it, in every form in which portals say it.
+// The colour scheme of the Settings portal, in each form that portals use.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/ColourScheme.h"
 
@@ -30,11 +30,11 @@ class TheColourScheme : public testing::Test {
     void startWith(FakePortal& portal) {
         portal.service.appear();
         start();
-        // Once when it starts, once when it finds the portal.
+        // Asked at the start, and when the portal appears.
         turnUntil([&] { return portal.timesAsked() == 2; });
         catchUp();
     }
-    /// All that was sent to the program has been looked at after this.
+    /// Waits until the program has handled all messages sent to it.
     void catchUp() { static_cast<void>(observer_.newSignals()); }
     void waitForChanges(std::size_t count) {
         turnUntil([&] { return changes_.size() >= count; });

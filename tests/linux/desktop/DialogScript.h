@@ -1,4 +1,4 @@
-// A dialog program as a test wants it, and what it leaves behind.
+// A dialog program as a shell script, and its traces.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -14,7 +14,7 @@
 
 namespace brisel::tests {
 
-/// A shell script in a folder of its own, where it runs.
+/// The script runs in a temporary folder.
 class DialogScript {
   public:
     explicit DialogScript(const std::string& lines) {
@@ -27,7 +27,7 @@ class DialogScript {
     [[nodiscard]] std::string file(const std::string& name) const {
         return folder_.path() + "/" + name;
     }
-    /// What the script has written to its file of this name.
+    /// Content of the file `name` written by the script.
     [[nodiscard]] std::string textIn(const std::string& name) const {
         std::ifstream stream(file(name));
         std::ostringstream text;
@@ -35,7 +35,7 @@ class DialogScript {
         return text.str();
     }
 
-    /// Whether it has run, and neither it nor its remains are there any more.
+    /// True if the script has run and its process is gone, also as a zombie.
     [[nodiscard]] bool isGone() const {
         const auto pid = std::atoi(textIn("pid").c_str());
         return pid > 0 && kill(pid, 0) != 0;
@@ -45,7 +45,7 @@ class DialogScript {
     TemporaryFolder folder_;
 };
 
-/// How many descriptors the process has open.
+/// Number of open descriptors of this process.
 inline std::ptrdiff_t openDescriptors() {
     return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
                          std::filesystem::directory_iterator());

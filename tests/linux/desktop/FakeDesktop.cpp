@@ -1,4 +1,4 @@
-// The services of a desktop: a tray, a notification server, the Settings portal.
+// Fake desktop services: a tray, a notification server, the Settings portal.
 // SPDX-License-Identifier: MIT
 #include "tests/linux/desktop/FakeDesktop.h"
 

@@ -1,4 +1,4 @@
-// The services of a desktop: a tray, a notification server, the Settings portal.
+// Fake desktop services: a tray, a notification server, the Settings portal.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -14,16 +14,16 @@
 
 namespace brisel::tests {
 
-/// What watches for status icons, with or without a host that shows them.
+/// org.kde.StatusNotifierWatcher, with or without a registered host.
 class FakeTray {
   public:
     enum class Host { None, There };
 
     explicit FakeTray(Host host);
 
-    /// A panel starts.
+    /// Registers a host, as a starting panel does.
     void registerHost();
-    /// The bus names of the icons, in the order of their calls, each call once.
+    /// The argument of each RegisterStatusNotifierItem call, in order.
     [[nodiscard]] const std::vector<std::string>& registered() const { return registered_; }
 
     FakeService service;
@@ -32,7 +32,7 @@ class FakeTray {
     std::vector<std::string> registered_;
 };
 
-/// What came in with one call of Notify.
+/// The arguments of one Notify call.
 struct NotifyCall {
     std::string program;
     std::uint32_t replaces = 0;
@@ -48,7 +48,7 @@ class FakeNotifications {
   public:
     explicit FakeNotifications(std::vector<std::string> capabilities);
 
-    /// Gives a new pop-up this number, and each later one the next.
+    /// Sets the ID of the next new notification; later ones count up from it.
     void numberFrom(std::uint32_t number) { next_ = number; }
     [[nodiscard]] const std::vector<NotifyCall>& calls() const { return calls_; }
     void invoke(std::uint32_t number, const char* action) const;
@@ -63,7 +63,7 @@ class FakeNotifications {
     std::vector<NotifyCall> calls_;
 };
 
-/// The same on a thread of its own.
+/// FakeNotifications on its own thread.
 class BusyNotifications {
   public:
     explicit BusyNotifications(std::vector<std::string> capabilities);
@@ -80,7 +80,7 @@ class BusyNotifications {
 
 class FakePortal {
   public:
-    /// Answers with this value, wrapped as portals do.
+    /// Answers Read with `scheme`, in two variants as portals do.
     explicit FakePortal(std::uint32_t scheme);
 
     void change(std::uint32_t scheme);
@@ -93,7 +93,7 @@ class FakePortal {
     int timesAsked_ = 0;
 };
 
-/// Keeps the entries, from any thread.
+/// Keeps the entries; thread-safe.
 class RecordedLog final : public platform::SystemLog {
   public:
     void write(const std::string& text) override {

@@ -1,4 +1,4 @@
-// UDisks2 with one NTFS volume, on the test's bus.
+// A fake UDisks2 with one NTFS volume.
 // SPDX-License-Identifier: MIT
 #include "tests/linux/desktop/FakeDisks.h"
 
@@ -79,8 +79,8 @@ std::string FakeDisks::resultOf(const MountCall& call) {
     return release_ == Release::V2_9 ? resultOn2_9(call) : resultOn2_10(call);
 }
 
-// One list of options for all drivers. A driver by name must be well-known, as `ntfs` is, or in
-// /proc/filesystems; `ntfs` stands for both, the kernel's first.
+// UDisks2 2.9 has one list of options for all drivers. A driver must be well-known, as `ntfs` is,
+// or listed in /proc/filesystems; `ntfs` tries the kernel's driver first.
 std::string FakeDisks::resultOn2_9(const MountCall& call) {
     if (call.driver == Ntfs3Driver) {
         return kernelDriverLoaded_ ? mountWith(Ntfs3Driver, call) : OptionNotPermitted;
@@ -88,8 +88,8 @@ std::string FakeDisks::resultOn2_9(const MountCall& call) {
     return mountWith(has(Ntfs3Driver) ? Ntfs3Driver : NtfsDriver, call);
 }
 
-// The drivers in their order, each with a list of its own. An option that is not on it ends the
-// call before anything is mounted.
+// UDisks2 2.10 tries the drivers in order, each with its own list of options. An option that is not
+// on the list ends the call before any mount.
 std::string FakeDisks::resultOn2_10(const MountCall& call) {
     const auto tries = call.driver.empty() ? std::vector<std::string>{Ntfs3Driver, NtfsDriver}
                                            : std::vector{call.driver};

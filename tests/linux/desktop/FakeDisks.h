@@ -1,4 +1,4 @@
-// UDisks2 with one NTFS volume, on the test's bus.
+// A fake UDisks2 with one NTFS volume.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,10 +13,10 @@
 
 namespace brisel::tests {
 
-/// The volume is /dev/sdz1. Lives on the loop of the thread that makes it.
+/// The volume is /dev/sdz1. Served by the main loop of the creating thread.
 class FakeDisks {
   public:
-    /// The releases hold mount options against different lists.
+    /// The releases check mount options against different lists.
     enum class Release { V2_9, V2_10 };
     enum class Drivers { Fuse, Kernel, Both, None };
 
@@ -25,16 +25,17 @@ class FakeDisks {
     FakeDisks& operator=(const FakeDisks&) = delete;
     ~FakeDisks();
 
-    /// Answers mounts as UDisks2 does from now on, and forgets the calls.
+    /// Answers mounts as this release with these drivers does; forgets the calls.
     void behaveAs(Release release, Drivers drivers);
-    /// What the next mounts lead to, whatever is asked: a mount point, or the name of an error.
+    /// Results of the next mounts, regardless of release and drivers: a mount point, or the name of
+    /// a D-Bus error. Forgets the calls.
     void script(const std::vector<std::string>& results);
-    /// The mount point of every mount that is not scripted.
+    /// Sets the mount point of unscripted mounts.
     void mountAt(const std::string& mountPoint) { mountPoint_ = mountPoint; }
 
-    /// `mount OPTIONS DRIVER` or `unmount`, in their order.
+    /// `mount OPTIONS DRIVER` or `unmount`, in call order.
     [[nodiscard]] const std::vector<std::string>& calls() const { return calls_; }
-    /// The driver of the last mount that succeeded.
+    /// The driver of the last unscripted mount that succeeded.
     [[nodiscard]] const std::string& mountedBy() const { return mountedBy_; }
 
   private:
@@ -55,7 +56,7 @@ class FakeDisks {
 
     Release release_ = Release::V2_10;
     Drivers drivers_ = Drivers::Fuse;
-    /// The kernel lists its driver only once a mount has loaded it.
+    /// /proc/filesystems lists the kernel's driver only after a mount has loaded it.
     bool kernelDriverLoaded_ = false;
     std::string mountPoint_ = "/dev/shm";
     std::deque<std::string> scripted_;

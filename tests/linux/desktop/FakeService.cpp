@@ -1,4 +1,4 @@
-// A service on the bus that answers as a test tells it to.
+// A fake D-Bus service with scripted answers.
 // SPDX-License-Identifier: MIT
 #include "tests/linux/desktop/FakeService.h"
 

@@ -1,4 +1,4 @@
-// A service on the bus that answers as a test tells it to.
+// A fake D-Bus service with scripted answers.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -14,7 +14,7 @@
 
 namespace brisel::tests {
 
-/// A method call that waits for its answer, which may come at any time, or never.
+/// A pending method call; it may be answered at any time, or never.
 class BusCall {
   public:
     explicit BusCall(GDBusMethodInvocation* invocation) : invocation_(invocation) {}
@@ -22,18 +22,19 @@ class BusCall {
     [[nodiscard]] GVariant* arguments() const {
         return g_dbus_method_invocation_get_parameters(invocation_);
     }
-    /// Answers with this tuple, floating or null for none, whatever the interface has it to be.
+    /// Replies with `tuple`, floating, or null for an empty one; it need not match the
+    /// introspection.
     void answer(GVariant* tuple) const;
     void refuse(const std::string& errorName) const;
-    /// Never answers.
+    /// Releases the call without an answer.
     void drop() const { g_object_unref(invocation_); }
 
   private:
     GDBusMethodInvocation* invocation_;
 };
 
-/// One object of one interface, on the loop of the thread that makes it. It takes its name when it
-/// appears.
+/// One object with one interface, served by the main loop of the creating thread. Owns its bus name
+/// from appear() to vanish().
 class FakeService {
   public:
     using Method = std::function<void(const BusCall& call)>;
@@ -54,7 +55,7 @@ class FakeService {
     void vanish();
     [[nodiscard]] GDBusConnection* bus() const { return bus_.get(); }
 
-    /// Lets `method` do what it is; a method that does nothing leaves the caller waiting.
+    /// Handles calls of `name` with `method`; one that does not answer leaves the caller waiting.
     void on(const std::string& name, Method method) { methods_[name] = std::move(method); }
     void setProperty(const std::string& name, GVariant* value);
     void emit(const char* signal, GVariant* arguments) const;

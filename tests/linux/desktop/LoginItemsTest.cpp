@@ -1,4 +1,4 @@
-// The entry that lets the desktop start the program at login.
+// The XDG autostart entry.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/LoginItems.h"
 
@@ -29,7 +29,7 @@ class TheLoginItem : public testing::Test {
         return LoginItems(log_, {.file = file_, .program = program})
             .setEnabled(Identifier, enabled);
     }
-    /// The key as the desktop reads it, its first layer of escapes undone.
+    /// The value as GKeyFile reads it, with the first level of escapes resolved.
     [[nodiscard]] std::string value(const char* key) const {
         auto* const file = g_key_file_new();
         g_key_file_load_from_file(file, file_.c_str(), G_KEY_FILE_NONE, nullptr);
@@ -68,7 +68,7 @@ TEST_F(TheLoginItem, IsValidForProgramsInOddFolders) {
     }
 }
 
-// GLib starts programs by the same rules as desktops do.
+// GLib splits command lines as desktops do.
 TEST_F(TheLoginItem, StartsTheProgramInWhateverFolder) {
     for (const char* const name :
          {"My Programs", "a\"b", "50%f", "$HOME`id`", "back\\slash", "it's"}) {
@@ -79,7 +79,7 @@ TEST_F(TheLoginItem, StartsTheProgramInWhateverFolder) {
         ASSERT_TRUE(set(program, true));
         headless::OwnedText command(g_strdup(value("Exec").c_str()));
         std::string line;
-        // Field codes are undone before words are parted.
+        // Desktops expand field codes before they split words.
         for (const char* at = command.get(); *at != '\0'; ++at) {
             line += *at;
             if (at[0] == '%' && at[1] == '%') ++at;
@@ -105,7 +105,7 @@ TEST_F(TheLoginItem, IsRemovedOnceAndForAll) {
 }
 
 TEST_F(TheLoginItem, IsRefusedWhereItCannotBeWritten) {
-    // Not by permissions: root may write anywhere.
+    // A file in place of the folder: root ignores permissions.
     std::ofstream(folder_.path() + "/config") << "no folder";
     EXPECT_FALSE(set("/usr/bin/brisel", true));
     EXPECT_THAT(log_.entries(), testing::ElementsAre(HasSubstr("cannot be written")));

@@ -1,4 +1,4 @@
-// Work for the main thread and for the desk's thread.
+// The work queues of the main thread and of the desk thread.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// A panel that shows the status menu.
+// A panel that reads the status menu over D-Bus and clicks its items.
 // SPDX-License-Identifier: MIT
 #include "tests/linux/desktop/MenuHost.h"
 

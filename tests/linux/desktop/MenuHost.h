@@ -1,4 +1,4 @@
-// A panel that shows the status menu: what it reads of it, what it hears, what is clicked in it.
+// A panel that reads the status menu over D-Bus and clicks its items.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -22,20 +22,20 @@ struct ShownMenu {
     std::uint32_t revision = 0;
     std::vector<ShownItem> items;
 
-    /// `LABEL | LABEL | ---`, with [x] after what is checked, in brackets what cannot be chosen.
+    /// `LABEL | LABEL | ---`; checked items end in [x], disabled ones are in parentheses.
     [[nodiscard]] std::string text() const;
     [[nodiscard]] std::vector<int> ids() const;
-    /// Of the first item with this label; 0 if there is none.
+    /// ID of the first item with this label; 0 if there is none.
     [[nodiscard]] int idOf(const std::string& label) const;
 };
 
 class MenuHost {
   public:
-    /// Waits until the menu is on the bus.
+    /// Waits until the menu is exported.
     void waitUntilThere();
-    /// The menu as it is; the calling thread does nothing else until it has the answer.
+    /// Reads the current menu; blocks the calling thread.
     [[nodiscard]] ShownMenu read();
-    /// Clicks, and waits until the click has been taken.
+    /// Clicks the item, and waits until the program has received the click.
     void click(int id);
     [[nodiscard]] std::vector<std::string> newSignals();
 

@@ -1,4 +1,4 @@
-// Mounts through UDisks2: with which options and driver, and what comes of refusals.
+// Mounts through UDisks2: options, drivers and errors.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ using testing::IsEmpty;
 using tests::FakeDisks;
 using tests::turnUntil;
 
-// Mounts of every machine: one that takes a file, and one that says so and does not.
+// Mount points on every Linux system; /proc is mounted read-write but takes no file.
 constexpr const char* Writable = "/dev/shm";
 constexpr const char* Unwritable = "/proc";
 constexpr const char* Refused = "org.freedesktop.UDisks2.Error.OptionNotPermitted";
@@ -60,7 +60,7 @@ class AMount : public testing::Test {
     tests::TestLoop loop_;
     tests::RecordedLog log_;
     tests::TemporaryFolder folder_;
-    /// The objects are fetched while this thread does nothing else.
+    /// Served by another thread, because this one blocks while it fetches the objects.
     tests::OtherProgram machine_;
     std::unique_ptr<FakeDisks> disks_;
     DiskArbitration arbitration_{log_};
@@ -129,7 +129,7 @@ TEST_F(AMount, IsRefusedWhereThereIsNoDriver) {
 }
 
 TEST_F(AMount, IsRefusedWhereTheServiceGivesUpOnIt) {
-    // What a service made with GIO answers when its own work was cancelled.
+    // The error of a GIO service whose own operation was cancelled.
     EXPECT_TRUE(mountScripted({"org.gtk.GDBus.UnmappedGError.Quark._g_2dio_2derror_2dquark.Code19"})
                     .has_value());
 }

@@ -1,4 +1,4 @@
-// Pop-ups on the bus: what is sent of them, and what servers make of them.
+// Notifications on the bus: the arguments of Notify, and the server's answers.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
@@ -46,7 +46,7 @@ TEST_F(Notifications, HaveTheirButtonsInOrder) {
                 ElementsAre("DO", "Yes, sure!", "NOT", "No,^Jthanks."));
 }
 
-// The very first ones included, and those of a server that takes the place of another.
+// This includes the first notifications, and those of a server that replaces another.
 TEST_F(Notifications, AskForASoundOnlyOfAServerThatCanSound) {
     auto notification = popUp("Found");
     notification.soundName = "device-added";
@@ -121,7 +121,7 @@ TEST_F(Notifications, FailWithTheServersError) {
 
 TEST_F(Notifications, FailWhenTheServerGivesUpOnThem) {
     FakeNotifications desktop({});
-    // What a server made with GIO answers when its own work was cancelled.
+    // The error of a GIO server whose own operation was cancelled.
     desktop.service.on("Notify", [](const auto& call) {
         call.refuse("org.gtk.GDBus.UnmappedGError.Quark._g_2dio_2derror_2dquark.Code19");
     });

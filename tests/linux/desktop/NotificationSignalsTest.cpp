@@ -1,4 +1,4 @@
-// What a notification server says of its own accord: buttons pressed, pop-ups closed.
+// Signals of a notification server: ActionInvoked and NotificationClosed.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 

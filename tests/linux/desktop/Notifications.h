@@ -1,4 +1,4 @@
-// Notifications sent to whatever server there is, for several files of tests.
+// Fixture of the notification tests.
 // SPDX-License-Identifier: MIT
 #pragma once
 

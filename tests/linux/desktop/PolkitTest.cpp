@@ -1,4 +1,4 @@
-// The question for an administrator's password, to an authority that answers as it is told.
+// The administrator's password prompt, against a fake polkit authority.
 // SPDX-License-Identifier: MIT
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -30,7 +30,7 @@ const tests::FakeService::Interface Authority{.busName = "org.freedesktop.Policy
   <method name='CancelCheckAuthorization'><arg type='s' direction='in'/></method>
 </interface></node>)"};
 
-/// Root is not asked: whoever runs the tests is nobody for a while.
+/// Drops the effective user to nobody: polkit does not prompt root.
 class Nobody {
   public:
     Nobody() { EXPECT_TRUE(before_ != 0 || seteuid(NobodysNumber) == 0); }
@@ -71,7 +71,7 @@ class ThePasswordQuestion : public testing::Test {
             [result](const auto& call) { call.answer(g_variant_new_parsed(result.c_str())); });
     }
     OSStatus ask() {
-        // The connection is there before nobody asks for it.
+        // Connects to the bus before the user changes.
         static_cast<void>(tests::SessionBus::shared());
         const Nobody nobody;
         return Authorization(log_, terminationSignals_[0]).copyRights(nullptr, {}, 0);
@@ -126,8 +126,8 @@ TEST_F(ThePasswordQuestion, IsTakenBackWhenTheProgramIsToEnd) {
         waiting_ = call;
         EXPECT_EQ(write(terminationSignals_[1], "x", 1), 1);
     });
-    // After a question that was taken back polkit's library (122) hears of the authority's end with
-    // an object that it has freed. The program ends then; the test does not.
+    // After a cancelled check, polkit's library (122) uses a freed object when the authority
+    // vanishes. The program exits before that; this test keeps the authority alive.
     static const tests::OwnedObject<PolkitAuthority> kept(
         polkit_authority_get_sync(nullptr, nullptr));
     EXPECT_EQ(ask(), errAuthorizationDenied);

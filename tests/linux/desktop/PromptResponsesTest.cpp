@@ -1,4 +1,4 @@
-// Responses to prompts: one to each, and none to those of others.
+// Responses to prompts: one for each, and none for other programs' notifications.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
@@ -46,7 +46,7 @@ TEST_F(ShownPrompts, TellOfADismissal) {
                 ElementsAre(std::string("mount ") + NotificationDismissActionIdentifier + " Data"));
 }
 
-// Some desktops keep what has expired in a list, where it can still be answered.
+// Some desktops keep expired notifications in a list where they can still be answered.
 TEST_F(ShownPrompts, SayNothingWhenTheyExpireButCanStillBeAnswered) {
     prompt("mount", "Data");
     desktop_.close(1, Expired);
@@ -62,7 +62,7 @@ TEST_F(ShownPrompts, AreForgottenWithTheirServer) {
     prompt("mount", "Data");
     FakeNotifications other({});
     restartServer(other);
-    // The new server's first pop-up is another program's.
+    // The new server's first notification belongs to another program.
     other.invoke(1, "DO");
     catchUp();
     EXPECT_THAT(responses_, IsEmpty());

@@ -1,4 +1,4 @@
-// Prompts: one pop-up for one identifier, whenever they are asked for.
+// Prompts: one notification for each identifier.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
@@ -61,7 +61,7 @@ TEST_F(ShownPrompts, ThatComeTogetherReplaceEachOtherInOrder) {
     EXPECT_THAT(responses_, ElementsAre("mount DO Third"));
 }
 
-// As two sticks at once bring it about: each new one has the menu rebuilt, which asks for both.
+// Two sticks at once cause this: each rebuilds the menu, which prompts for both.
 TEST_F(ShownPrompts, AskedForAgainBeforeTheyAreThereAreShownOnce) {
     for (const char* const volume : {"First", "First", "Second", "First", "Second"})
         add(request("mount", volume));

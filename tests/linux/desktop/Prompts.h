@@ -1,4 +1,4 @@
-// Prompts, with a server that shows them or without one, for several files of tests.
+// Fixtures of the prompt tests, with and without a notification server.
 // SPDX-License-Identifier: MIT
 #pragma once
 

@@ -1,4 +1,4 @@
-// A message bus that only this test program is on.
+// A private message bus for this test program.
 // SPDX-License-Identifier: MIT
 #include "tests/linux/desktop/SessionBus.h"
 
@@ -29,7 +29,7 @@ using std::chrono::milliseconds;
 
 constexpr std::chrono::seconds Patience{20};
 
-// No service files: the bus must start nothing of this machine's.
+// No service files: the bus must not activate the machine's services.
 constexpr const char* Configuration = R"(<busconfig>
   <type>session</type>
   <listen>unix:dir=%@</listen>
@@ -53,13 +53,13 @@ SessionBus& SessionBus::shared() {
 }
 
 SessionBus::SessionBus() : address_(start()) {
-    // What GLib takes for a mistake of its caller's is one.
+    // GLib's criticals are programming errors; abort on them.
     g_log_set_always_fatal(static_cast<GLogLevelFlags>(G_LOG_FATAL_MASK | G_LOG_LEVEL_CRITICAL));
     g_setenv("DBUS_SESSION_BUS_ADDRESS", address_.c_str(), TRUE);
     g_setenv("DBUS_SYSTEM_BUS_ADDRESS", address_.c_str(), TRUE);
     CallError error;
     program_.reset(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, error.receive()));
-    // Libraries get the same one as long as it is there.
+    // Libraries share this connection while it exists.
     system_.reset(g_bus_get_sync(G_BUS_TYPE_SYSTEM, nullptr, nullptr));
     if (!program_) std::cerr << "There is no message bus: " << error.message() << '\n';
     g_dbus_connection_set_exit_on_close(program_.get(), FALSE);
@@ -70,7 +70,7 @@ SessionBus::~SessionBus() {
     waitpid(daemon_, nullptr, 0);
 }
 
-// Starts the bus and returns its address.
+// Starts dbus-daemon and returns its address.
 std::string SessionBus::start() {
     const auto file = folder_.path() + "/bus.conf";
     std::ofstream(file) << platform::stringWithFormat(Configuration, folder_.path());
@@ -81,7 +81,7 @@ std::string SessionBus::start() {
     if (daemon_ == 0) {
         prctl(PR_SET_PDEATHSIG, SIGTERM);
         dup2(ends[1], STDOUT_FILENO);
-        // Where it complains of limits that do not matter here.
+        // dbus-daemon complains about resource limits that do not matter here.
         dup2(open("/dev/null", O_WRONLY), STDERR_FILENO);
         execlp("dbus-daemon", "dbus-daemon", "--nofork", "--print-address", option.c_str(),
                nullptr);
@@ -104,7 +104,7 @@ OwnedObject<GDBusConnection> SessionBus::connect() const {
 }
 
 bool turnUntil(const std::function<bool()>& reached) {
-    // What another thread does wakes nobody up here.
+    // Wakes the loop to check `reached`, which another thread may change.
     const auto tick = platform::headless::RunLoop().scheduledTimer(milliseconds(2), [] {});
     const auto end = std::chrono::steady_clock::now() + Patience;
     while (!reached()) {
@@ -118,7 +118,7 @@ bool turnUntil(const std::function<bool()>& reached) {
 }
 
 TestLoop::~TestLoop() {
-    // What was under way to the program arrives before the answer to a question asked now.
+    // Pings the program's connection; earlier messages to it arrive before the reply.
     BusCaller("org.freedesktop.DBus", "/", "org.freedesktop.DBus");
     turn();
 }
@@ -141,7 +141,7 @@ void waitForDesk() {
 }
 
 OtherProgram::OtherProgram() {
-    // The bus would end with the thread that starts it.
+    // PR_SET_PDEATHSIG ends the bus with the thread that starts it.
     static_cast<void>(SessionBus::shared());
     std::promise<GMainContext*> started;
     thread_ = std::thread([this, &started] {
@@ -230,7 +230,7 @@ std::string BusCaller::text(const char* property) {
 }
 
 std::vector<std::string> BusCaller::newSignals() {
-    // The program's answer comes after all that it sent before.
+    // The reply to a ping arrives after all earlier signals.
     const auto* const program = g_dbus_connection_get_unique_name(SessionBus::shared().program());
     EXPECT_TRUE(ask({.name = program,
                      .interface = "org.freedesktop.DBus.Peer",

@@ -1,4 +1,4 @@
-// A message bus that only this test program is on.
+// A private message bus for this test program.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -20,8 +20,7 @@ using platform::headless::CallError;
 using platform::headless::OwnedObject;
 using platform::headless::OwnedVariant;
 
-/// Started with the first use, ended with the process. It is the session's bus to whoever asks, and
-/// the system's.
+/// Started on first use, stopped at exit. Serves as session bus and as system bus.
 class SessionBus {
   public:
     static SessionBus& shared();
@@ -29,9 +28,9 @@ class SessionBus {
     SessionBus& operator=(const SessionBus&) = delete;
     ~SessionBus();
 
-    /// The connection of the program under test, and of the libraries it uses.
+    /// The connection of the program under test and its libraries.
     [[nodiscard]] GDBusConnection* program() const { return program_.get(); }
-    /// Another program's.
+    /// A new connection, as of another program.
     [[nodiscard]] OwnedObject<GDBusConnection> connect() const;
 
   private:
@@ -46,12 +45,12 @@ class SessionBus {
     OwnedObject<GDBusConnection> system_;
 };
 
-/// Turns the calling thread's loop until that is so. False, and a failure of the test, when it does
-/// not come to that.
+/// Turns the calling thread's main loop until `reached`; on timeout, fails the test and returns
+/// false.
 bool turnUntil(const std::function<bool()>& reached);
 
-/// The loop of a test's thread. Whatever still waits there at the test's end is done, so that GLib
-/// can give up all that belonged to it.
+/// The main loop of the test's thread. The destructor dispatches pending work, so that GLib
+/// releases its memory.
 class TestLoop {
   public:
     TestLoop() = default;
@@ -59,7 +58,7 @@ class TestLoop {
     TestLoop& operator=(const TestLoop&) = delete;
     ~TestLoop();
 
-    /// Does all that waits now.
+    /// Dispatches all ready sources.
     void turn() const;
     [[nodiscard]] GMainContext* context() const { return loop_.context(); }
 
@@ -67,10 +66,10 @@ class TestLoop {
     platform::headless::OwnMainLoop loop_;
 };
 
-/// Waits until the default context, on whatever thread it turns, has done all that waits there.
+/// Waits until the thread of the default context has dispatched its pending work.
 void waitForDesk();
 
-/// A thread with a loop of its own, for services that answer while the test's thread waits.
+/// A thread with its own main loop, for services that answer while the test's thread blocks.
 class OtherProgram {
   public:
     OtherProgram();
@@ -78,7 +77,7 @@ class OtherProgram {
     OtherProgram& operator=(const OtherProgram&) = delete;
     ~OtherProgram();
 
-    /// Runs it on the thread and waits for its end.
+    /// Runs `work` on the thread and waits for it.
     void run(const std::function<void()>& work) const;
 
   private:
@@ -87,7 +86,7 @@ class OtherProgram {
     std::thread thread_;
 };
 
-/// A program that asks others on the bus.
+/// A D-Bus client with its own connection.
 class BusCaller {
   public:
     BusCaller(std::string name, std::string path, std::string interface);
@@ -95,15 +94,15 @@ class BusCaller {
     BusCaller& operator=(const BusCaller&) = delete;
     ~BusCaller();
 
-    /// The answer; null for an error. The calling thread's loop turns meanwhile.
+    /// Calls a method and returns its answer; null on error. Turns the calling thread's loop.
     [[nodiscard]] OwnedVariant call(const char* method, GVariant* arguments);
-    /// The same while the calling thread does nothing else.
+    /// Calls a method and blocks the calling thread; fails the test on error.
     [[nodiscard]] OwnedVariant callBlocking(const char* method, GVariant* arguments);
-    /// The value of a property of the interface, null if it has none.
+    /// Value of a property; null if it is absent.
     [[nodiscard]] OwnedVariant property(const char* name);
     [[nodiscard]] std::string text(const char* property);
 
-    /// The names of the interface's signals since this was asked last, in order.
+    /// The names of the interface's signals since the last call, in order.
     [[nodiscard]] std::vector<std::string> newSignals();
 
   private:

@@ -1,4 +1,4 @@
-// One program a session: who is first, and what a second start does.
+// Single instance per session: the first launch, and the effect of a second one.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/SingleInstance.h"
 
@@ -26,7 +26,7 @@ class AStart : public testing::Test {
     }
 
     tests::TestLoop loop_;
-    /// Of two programs.
+    /// The connections of two instances.
     tests::OwnedObject<GDBusConnection> first_ = SessionBus::shared().connect();
     tests::OwnedObject<GDBusConnection> second_ = SessionBus::shared().connect();
 };

@@ -1,4 +1,4 @@
-// The fixture of the status item, with a menu to fill.
+// Fixture of the status item tests.
 // SPDX-License-Identifier: MIT
 #pragma once
 

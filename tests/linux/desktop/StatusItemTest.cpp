@@ -1,4 +1,4 @@
-// The status item: its image, the words with it, its appearance, on a desktop's bus.
+// The status item on the bus: image, description and appearance.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -65,7 +65,7 @@ TEST_F(TheStatusItem, RegistersWithTheTray) {
     tray.service.appear();
     item_->setImage("brisel-status-blue-light");
     turnUntil([&tray] { return !tray.registered().empty(); });
-    // The name belongs to the program, where the menu is too.
+    // The bus name belongs to the program's connection, which also exports the menu.
     tests::BusCaller named(tray.registered().front(), "/StatusNotifierItem",
                            "org.kde.StatusNotifierItem");
     EXPECT_EQ(named.text("Id"), "brisel");
@@ -107,7 +107,7 @@ TEST_F(TheAppearance, IsNotToldToWhoHasStoppedListening) {
     EXPECT_THAT(seen_, IsEmpty());
 }
 
-// The queue may outlive the item, with the change still in it.
+// The queue may outlive the item and still hold the change.
 TEST_F(TheAppearance, ThatChangesAtTheEndIsToldToNobody) {
     item_->setImage("brisel-status-blue-light");
     portal_.change(PreferDark);

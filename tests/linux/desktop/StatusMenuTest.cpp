@@ -1,4 +1,4 @@
-// The status menu on the bus: what panels read and hear of it, and what a click does.
+// The status menu on the bus: layout, signals and clicks.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -44,7 +44,7 @@ class TheStatusMenu : public tests::StatusItemOnBus {
         };
         return item;
     }
-    /// Puts items of these titles on top, for things of their own.
+    /// Inserts volume items at the top, each with its own represented object.
     void insertVolumes(const std::vector<std::string>& titles) {
         for (const auto& title : titles) {
             auto volume = item(title, "mount:");
@@ -54,7 +54,7 @@ class TheStatusMenu : public tests::StatusItemOnBus {
         }
     }
     void removeVolumes() { menu_.removeItemsWithTags(std::array{VolumeTag}); }
-    /// Lets the menu's changes out.
+    /// Exports pending changes of the menu.
     void turn() const { loop_.turn(); }
     tests::ShownMenu read() {
         turn();
@@ -189,7 +189,7 @@ TEST_F(TheStatusMenu, DoesWhatIsClickedOnTheMainThread) {
 TEST_F(TheStatusMenu, DoesNothingForAClickOnWhatHasGone) {
     insertVolumes({"Data"});
     const auto shown = read();
-    // The click comes first, but the item has gone before the main thread hears of it.
+    // The click arrives first, but the main thread handles it after the removal.
     host_.click(shown.idOf("Data"));
     removeVolumes();
     turn();

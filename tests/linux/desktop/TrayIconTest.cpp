@@ -1,4 +1,4 @@
-// The icon on the bus: where it registers, what it tells of itself, what it says without a tray.
+// The tray icon on the bus: registration, properties, and the notice without a tray.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/TrayIcon.h"
 
@@ -29,7 +29,7 @@ class TheTrayIcon : public testing::Test {
     void waitForRegistrations(const FakeTray& tray, std::size_t count) {
         turnUntil([&] { return tray.registered().size() >= count; });
     }
-    /// Turns the loop a good while longer than any time that is waited for here.
+    /// Turns the loop much longer than the timeouts used here.
     void waitLongEnough() {
         int ticks = 0;
         const auto ticking = headless::RunLoop().scheduledTimer(Brief, [&ticks] { ++ticks; });

@@ -1,4 +1,4 @@
-// Windows that nobody waits for: the About panel, and the menu where there is no tray.
+// Modeless windows: the About panel, and the menu without a tray.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// What the tests of all adapters share: a simulated Mac behind the stand-in frameworks.
+// Fixture of the adapter tests: a simulated Mac behind the stand-in frameworks.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -15,7 +15,7 @@
 
 namespace brisel::tests::macos {
 
-/// Sees to it after each test that no framework was misused and that no object was lost.
+/// Fails a test that misused a framework or leaked an object.
 class AdapterTest : public testing::Test {
   protected:
     AdapterTest();
@@ -25,9 +25,9 @@ class AdapterTest : public testing::Test {
     platform::simulated::Mac mac{person};
 
     [[nodiscard]] const std::vector<std::string>& lines() const { return mac.transcript.lines(); }
-    /// Those of them that begin with `log: `, without it.
+    /// The transcript lines that begin with `log: `, without this prefix.
     [[nodiscard]] std::vector<std::string> logLines() const;
-    /// Lets the main loop turn in this mode for this time, or until `done`.
+    /// Runs the main run loop in `mode` for `seconds`, or until `*done`.
     static void turn(NSString* mode, NSTimeInterval seconds, const bool* done = nullptr);
 
   private:

@@ -1,4 +1,4 @@
-// What the tests of all adapters share.
+// Fixture of the adapter tests.
 // SPDX-License-Identifier: MIT
 #import "tests/macos/adapters/AdapterTest.h"
 
@@ -32,7 +32,7 @@ void AdapterTest::turn(NSString* mode, NSTimeInterval seconds, const bool* done)
     while ([end timeIntervalSinceNow] > 0 && (done == nullptr || !*done)) {
         NSDate* const next = [NSDate dateWithTimeIntervalSinceNow:Step];
         [[NSRunLoop currentRunLoop] runMode:mode beforeDate:next];
-        // A mode without anything in it returns at once.
+        // A run loop without sources in this mode returns at once.
         [NSThread sleepUntilDate:next];
     }
 }

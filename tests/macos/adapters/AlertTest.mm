@@ -1,4 +1,4 @@
-// Modal alerts.
+// The alert adapter: modal alerts.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/Alert.h"
 

@@ -1,4 +1,4 @@
-// The running application.
+// The application adapter.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/Application.h"
 
@@ -6,7 +6,7 @@
 
 #import "tests/macos/adapters/AdapterTest.h"
 
-/// Tells on standard error of the application's end.
+/// Prints applicationWillTerminate: to standard error.
 @interface EndTeller : NSObject
 @end
 
@@ -28,7 +28,7 @@ class ApplicationAdapter : public AdapterTest {
   protected:
     ApplicationAdapter() {
         [StageApplication sharedApplication];
-        // What it does while it is launched is not the program's doing.
+        // Skips the lines of GNUstep's own launch.
         static const bool launched = ([NSApp finishLaunching], true);
         linesBefore = launched ? lines().size() : 0;
     }

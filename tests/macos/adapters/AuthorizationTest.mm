@@ -1,4 +1,4 @@
-// Authorization Services, and tools started through them.
+// The adapter of Authorization Services, and the tools that it starts.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/Authorization.h"
 
@@ -33,7 +33,7 @@ class AuthorizationAdapter : public AdapterTest {
         return adapter.executeWithPrivileges(created(), path, flags,
                                              const_cast<char* const*>(words.data() + 1));
     }
-    /// The exit status of the child that ends next; -1 where there is none.
+    /// The exit status of the next child to exit; -1 if there is no child.
     static int nextExitStatus() {
         int status = 0;
         return waitpid(0, &status, 0) > 0 ? WEXITSTATUS(status) : -1;
@@ -107,7 +107,7 @@ TEST_F(AuthorizationAdapter, LetsAToolEndThatNobodyReads) {
     orders().startsRealTools = true;
     const auto tool =
         started({"/bin/sh", "-c", "head -c 1000000 /dev/zero | tr '\\0' x; printf end; exit 6"});
-    // Nothing has been read yet.
+    // The tool ends although its output is unread.
     EXPECT_EQ(nextExitStatus(), 6);
     const auto output = FileHandle(dup(fileno(tool.communicationsPipe))).readDataToEndOfFile();
     std::fclose(tool.communicationsPipe);

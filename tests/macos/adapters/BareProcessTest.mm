@@ -1,4 +1,4 @@
-// The adapters in a process that is no application in a bundle, on an older and poorer system.
+// The adapters outside an application bundle, and on an older system.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/Authorization.h"
 #include "platform/macos/SystemVersion.h"

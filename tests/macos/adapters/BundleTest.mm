@@ -1,4 +1,4 @@
-// The main bundle's texts and images.
+// The adapter of the main bundle: texts and images.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/Bundle.h"
 

@@ -1,4 +1,4 @@
-// The Disk Arbitration adapter on the stand-in, for several files of tests.
+// Fixture of the Disk Arbitration adapter.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,17 +13,17 @@ class DiskArbitrationAdapter : public AdapterTest {
     ~DiskArbitrationAdapter() override {
         appeared.reset();
         disappeared.reset();
-        // The real session stays scheduled until the process ends.
+        // The real session stays scheduled until the process exits.
         resetDiskArbitration();
     }
 
     platform::macos::DiskArbitration adapter;
     platform::Subscription appeared;
     platform::Subscription disappeared;
-    /// `+ DEVICE` and `- DEVICE` for each report.
+    /// `+ DEVICE` or `- DEVICE` for each report.
     std::vector<std::string> reports;
     platform::DiskDescription lastDescription;
-    /// What each completion was given.
+    /// The disk and the status of each completion.
     std::vector<std::string> completed;
     std::vector<std::optional<std::uint32_t>> statuses;
 
@@ -62,7 +62,7 @@ class DiskArbitrationAdapter : public AdapterTest {
     }
 
     void attach(const std::string& device) { mac.diskArbitration.attach(device, ntfsDisk("Data")); }
-    /// A disk that is there and not mounted.
+    /// Attaches an unmounted disk.
     void attachUnmounted(const std::string& device) {
         auto disk = ntfsDisk("Data");
         disk.description.volumePath.reset();

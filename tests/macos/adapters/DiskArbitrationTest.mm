@@ -1,4 +1,4 @@
-// Disk Arbitration's session and its reports of disks.
+// The Disk Arbitration adapter: sessions and disk reports.
 // SPDX-License-Identifier: MIT
 #import "tests/macos/adapters/DiskArbitrationAdapter.h"
 

@@ -1,4 +1,4 @@
-// What Disk Arbitration says of a disk, and the disks that it makes.
+// The Disk Arbitration adapter: descriptions and disk objects.
 // SPDX-License-Identifier: MIT
 #include <climits>
 

@@ -1,4 +1,4 @@
-// Disk Arbitration's requests: unmounting, and mounting with arguments.
+// The Disk Arbitration adapter: unmount and mount requests.
 // SPDX-License-Identifier: MIT
 #include <sched.h>
 #include <sys/mount.h>
@@ -57,7 +57,7 @@ TEST_F(DiskRequests, MayCompleteBeforeTheCallReturns) {
 }
 
 TEST_F(DiskRequests, HandOnEveryStatusToTheBit) {
-    // The second is that of a volume that is in use: an error of the system below, wrapped.
+    // The second is EBUSY as a Mach error, the status of a volume in use.
     const std::vector<std::uint32_t> values{DAReturn::Busy, 0x0000C010, DAReturn::Unsupported,
                                             0xFFFFFFFF,     0x80000000, 1};
     attach("disk4s1");
@@ -121,8 +121,8 @@ bool isReadOnly(const std::string& path) {
     return statvfs(path.c_str(), &fileSystem) == 0 && (fileSystem.f_flag & ST_RDONLY) != 0;
 }
 
-/// A folder on which something is mounted read-only: one of the machine's own, or one made in a
-/// view of the mounts that is this process's alone. Empty where neither can be had.
+/// A folder with a read-only mount: an existing one, or `spare` in a new mount namespace; empty if
+/// neither is possible.
 std::string readOnlyFolder(const std::string& spare) {
     std::ifstream mounts("/proc/self/mounts");
     for (std::string device, path, rest; mounts >> device >> path && std::getline(mounts, rest);) {

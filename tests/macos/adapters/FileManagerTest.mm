@@ -1,4 +1,4 @@
-// The file system.
+// The file manager adapter.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/FileManager.h"
 

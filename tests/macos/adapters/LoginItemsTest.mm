@@ -1,4 +1,4 @@
-// Login items.
+// The adapter of login items.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/LoginItems.h"
 

@@ -1,4 +1,4 @@
-// The status menu.
+// The status menu adapter.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/Menu.h"
 
@@ -41,7 +41,7 @@ class MenuAdapter : public AdapterTest {
             found.push_back(item.separator ? "---" : item.title);
         return found;
     }
-    /// An item that notes its being chosen.
+    /// An item that records that it is chosen.
     MenuItem item(const std::string& title, int tag = 1) {
         MenuItem made;
         made.tag = tag;
@@ -184,7 +184,7 @@ TEST_F(MenuAdapter, MayBeRebuiltByTheItemThatIsChosen) {
     @autoreleasepool {
         adapter->insertItem(std::move(made), 0);
     }
-    // Only the menu keeps the item alive, and it lets go of it meanwhile.
+    // The menu holds the only reference to the item, and releases it meanwhile.
     const id chosen = [menu itemAtIndex:0];
     [[chosen target] performSelector:[chosen action] withObject:chosen];
     choose(0);
@@ -219,7 +219,7 @@ TEST_F(MenuAdapter, KeepsTheTargetsOfItsItemsAlive) {
     id const inserted = [menu itemAtIndex:0];
     [menu update];
     EXPECT_TRUE([inserted isEnabled]);
-    // The menu's own reference is the only one: items have none.
+    // Only the adapter retains the target; menu items do not.
     EXPECT_EQ([[inserted target] retainCount], 1U);
     choose(0);
     EXPECT_THAT(performed, ElementsAre("a"));

@@ -1,4 +1,4 @@
-// Responses to notifications, and the thread on which they come.
+// The adapter of User Notifications: responses, and their thread.
 // SPDX-License-Identifier: MIT
 #include <memory>
 #include <string>

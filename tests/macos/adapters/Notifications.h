@@ -1,4 +1,4 @@
-// The notification center as its tests share it: one request, and what was answered to it.
+// Fixture of the notification tests: one request and the answers to it.
 // SPDX-License-Identifier: MIT
 #pragma once
 

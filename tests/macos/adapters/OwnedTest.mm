@@ -1,4 +1,4 @@
-// The owner of one reference.
+// The owner of a Core Foundation reference.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/Owned.h"
 

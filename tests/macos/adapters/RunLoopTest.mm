@@ -1,4 +1,4 @@
-// Timers on the main run loop.
+// The run loop adapter: timers.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/RunLoop.h"
 

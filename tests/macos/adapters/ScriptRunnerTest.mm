@@ -1,4 +1,4 @@
-// AppleScript.
+// The script runner adapter: AppleScript.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/ScriptRunner.h"
 

@@ -1,4 +1,4 @@
-// The item in the menu bar.
+// The status item adapter.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/StatusItem.h"
 

@@ -1,4 +1,4 @@
-// The system log.
+// The system log adapter.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/SystemLog.h"
 

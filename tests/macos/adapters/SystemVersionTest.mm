@@ -1,4 +1,4 @@
-// The version of macOS.
+// The adapter of the system version.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/SystemVersion.h"
 

@@ -1,4 +1,4 @@
-// Text between the program and the frameworks.
+// Conversion of strings between the program and the frameworks.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/Text.h"
 

@@ -1,4 +1,4 @@
-// A tool's output that waits for its reader, and never lets the tool wait.
+// The relay of a tool's output, which never blocks the tool.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/ToolOutput.h"
 
@@ -22,7 +22,7 @@ namespace {
 
 using platform::macos::neverFull;
 
-/// More than any socket holds.
+/// More than a socket's buffer holds.
 std::string muchText() {
     std::string text;
     for (int number = 0; text.size() < 1000000; ++number)
@@ -38,7 +38,7 @@ void sayAll(std::string_view text) {
     }
 }
 
-/// A child that says this and ends so; its output through the function under test.
+/// The relayed output of a child that writes `text` and exits with `status`.
 std::FILE* toolThatSays(const std::string& text, int status = 0) {
     return neverFull(platform::common::startToolProcess([&] {
                          sayAll(text);
@@ -60,7 +60,7 @@ std::string readAll(std::FILE* stream) {
 class ToolOutput : public testing::Test {
   protected:
     ToolOutput() {
-        // What the system does by itself; GNUstep changes it.
+        // The default, which GNUstep changes.
         std::signal(SIGPIPE, SIG_DFL);
     }
 };
@@ -86,7 +86,7 @@ TEST_F(ToolOutput, IsReadToTheByteThoughSignalsComeIn) {
     const auto text = muchText();
     auto* const stream = toolThatSays(text);
     EXPECT_EQ(exitStatusOfChild(), 0);
-    // From here on they come to the thread that carries the output over.
+    // From here on, the relaying thread receives the signals.
     sigset_t signals;
     sigemptyset(&signals);
     sigaddset(&signals, SIGUSR1);
@@ -113,7 +113,7 @@ TEST_F(ToolOutput, LetsItsReaderGoEarly) {
     auto* const stream = toolThatSays(muchText(), 4);
     std::fclose(stream);
     EXPECT_EQ(exitStatusOfChild(), 4);
-    // The output is carried over in another thread, which may find its reader gone only now.
+    // Another thread relays the output, and may notice only now that the reader has closed it.
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
 }
 
@@ -137,7 +137,7 @@ TEST_F(ToolOutput, DoesNotChangeHowTheProcessTakesABrokenPipe) {
     EXPECT_EQ(std::signal(SIGPIPE, SIG_DFL), SIG_DFL);
 }
 
-/// The descriptors that a program started from here would have.
+/// The descriptors that a child process would inherit.
 std::set<std::string> inheritedDescriptors() {
     std::set<std::string> found;
     for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
@@ -150,7 +150,7 @@ std::set<std::string> inheritedDescriptors() {
 
 TEST_F(ToolOutput, IsKeptFromToolsThatAreStartedLater) {
     const auto before = inheritedDescriptors();
-    // Runs while the descriptors are looked at.
+    // Runs while the descriptors are counted.
     auto* const stream = neverFull(platform::common::startToolProcess([] {
                                        usleep(200000);
                                        _exit(0);

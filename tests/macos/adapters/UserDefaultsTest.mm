@@ -1,4 +1,4 @@
-// The user's preferences.
+// The user defaults adapter.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/UserDefaults.h"
 

@@ -1,4 +1,4 @@
-// Notifications with buttons, and the permission to show them.
+// The adapter of User Notifications: requests, categories and permission.
 // SPDX-License-Identifier: MIT
 #import "tests/macos/adapters/Notifications.h"
 

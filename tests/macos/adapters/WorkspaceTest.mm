@@ -1,4 +1,4 @@
-// Finder.
+// The workspace adapter.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/Workspace.h"
 

@@ -1,4 +1,4 @@
-// Runs the tests of adapters, in a home and on a display of their own.
+// Runs the adapter tests with a home folder and a display of their own.
 // SPDX-License-Identifier: MIT
 #include <unistd.h>
 
@@ -10,7 +10,7 @@
 #include "tests/linux/TemporaryFolder.h"
 #import "tests/macos/adapters/AdapterTest.h"
 
-// GNUstep's libraries drop a little memory at the end; what the adapters lose is counted.
+// GNUstep's libraries leak a little memory at exit; the stand-ins count the adapters' objects.
 extern "C" const char* __asan_default_options();
 extern "C" const char* __asan_default_options() {
     return "detect_leaks=0";
@@ -18,7 +18,7 @@ extern "C" const char* __asan_default_options() {
 
 namespace {
 
-// A file with the display's number in it.
+// `file` contains the display number.
 void useDisplay(const char* file) {
     std::string number;
     if (file != nullptr && std::ifstream(file) >> number) {
@@ -26,7 +26,7 @@ void useDisplay(const char* file) {
     }
 }
 
-// What GNUstep takes for its command line: the user is a German.
+// Sets the command line that GNUstep sees: the user's first language is German.
 void setArguments() {
     std::string program = std::filesystem::read_symlink("/proc/self/exe");
     std::string name = "-NSLanguages";

@@ -1,9 +1,9 @@
-# Checks what the build makes of Brisel.app, on a Mac of stand-ins: its files and its seals.
+# Checks the files and signatures of the Brisel.app that the build makes with stand-in tools.
 # SPDX-License-Identifier: MIT
 #
 # usage: build_test.py ROOT [-v]
 #
-# The compiler is a stand-in, too: nothing is said of the code.
+# The compiler is a stand-in too: the code is not compiled.
 import pathlib
 import plistlib
 import re
@@ -34,7 +34,7 @@ set(CMAKE_INSTALL_NAME_TOOL "{tools}/install_name_tool")
 
 
 def preset():
-    """The settings of the preset for a Mac, without where it puts the programs."""
+    """The cache variables of the macOS preset, without its output folders."""
     text = (ROOT / "CMakePresets.json").read_text(encoding="utf-8")
     found = re.search(r'"name": "macos".*?"cacheVariables": \{(.*?)\}', text, re.DOTALL).group(1)
     pairs = re.findall(r'"(\w+)": "([^"]*)"', found)
@@ -42,7 +42,7 @@ def preset():
 
 
 def copy_sources(folder):
-    """A tree that a test may change."""
+    """Copies the sources, so that a test may change them."""
     folder.mkdir()
     for name in ("cmake", "helper", "packaging", "resources", "scripts", "simulator", "src"):
         shutil.copytree(ROOT / name, folder / name)
@@ -50,7 +50,7 @@ def copy_sources(folder):
 
 
 class Build(unittest.TestCase):
-    """One tree is built once; what a test changes it changes back or builds."""
+    """Builds one tree for all tests; a test undoes or builds its changes."""
 
     @classmethod
     def setUpClass(cls):
@@ -83,12 +83,12 @@ class Build(unittest.TestCase):
         return cls.mac.run("cmake", "--build", cls.folder / "build", "--target", target)
 
     def seals(self):
-        """Which bundle is signed or verified, in which order."""
+        """The bundles signed or verified, in order."""
         return [("verify " if "--verify" in call else "sign ") + pathlib.Path(call).name
                 for call in self.mac.calls("codesign")]
 
     def change(self, name):
-        """Makes the source newer than the seal, which may take a tick of the clock."""
+        """Makes the source newer than the seal, which may take a clock tick."""
         source = self.sources / name
         sealed = (self.folder / "build/packaging/Brisel.sealed").stat().st_mtime_ns
         while True:

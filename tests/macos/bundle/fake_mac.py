@@ -1,4 +1,4 @@
-# Stand-ins for a Mac's tools, which write down how they are called and leave something behind.
+# Stand-ins for the tools of a Mac, which log their calls and leave a result.
 # SPDX-License-Identifier: MIT
 import os
 import pathlib
@@ -9,7 +9,7 @@ COMMON = """\
 #!/bin/sh
 echo "{name} $*" >>"{log}"
 """
-# What each does beside. A compiler makes what -o names, and tells that it read nothing.
+# What each does after logging. The compiler creates its output and an empty list of dependencies.
 TOOLS = {
     "clang++": """\
 while [ $# -gt 0 ]; do
@@ -30,7 +30,7 @@ chmod +x "$out"
     "sw_vers": "echo 11.6\n",
     "xcode-select": "",
     "uname": "echo Darwin\n",
-    # The one before the last word is the nib to be made.
+    # The last argument but one is the nib to create.
     "ibtool": """\
 while [ $# -gt 2 ]; do shift; done
 echo nib >"$1"
@@ -51,7 +51,7 @@ case "$1" in
 *) cp -R "$1" "$2" ;;
 esac
 """,
-    # An image is its folder's listing.
+    # The image contains the listing of its folder.
     "hdiutil": """\
 while [ $# -gt 1 ]; do
     [ "$1" = -srcfolder ] && folder=$2
@@ -74,7 +74,7 @@ class FakeMac:
             file.chmod(file.stat().st_mode | stat.S_IXUSR)
 
     def run(self, *command, **environment):
-        """Runs it with the Mac's tools before all others; forgets what was called before."""
+        """Runs a command with the stand-ins first in PATH; clears the log of calls."""
         self.log.write_text("")
         path = f"{self.tools}:{os.environ['PATH']}"
         return subprocess.run([str(word) for word in command], text=True, timeout=100,
@@ -82,7 +82,7 @@ class FakeMac:
                               env={**os.environ, "PATH": path, **environment})
 
     def calls(self, tool):
-        """The words after the tool's name, a text for each call in their order."""
+        """The arguments of each call of `tool`, in order."""
         start = tool + " "
         return [line[len(start):] for line in self.log.read_text().splitlines()
                 if line.startswith(start)]

@@ -1,4 +1,4 @@
-# Checks how Brisel.app is signed, notarised and put into its disk image, on a Mac of stand-ins.
+# Checks the signing, notarisation and disk image of Brisel.app, with stand-in tools.
 # SPDX-License-Identifier: MIT
 #
 # usage: release_test.py ROOT [-v]
@@ -39,7 +39,7 @@ class Release(unittest.TestCase):
         self.assertFalse(self.image.exists())
 
     def seals(self):
-        """What is signed, in which order."""
+        """The files signed, in order."""
         signed = [call for call in self.mac.calls("codesign") if "--sign" in call]
         return [pathlib.Path(call).name for call in signed]
 

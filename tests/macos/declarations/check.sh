@@ -1,12 +1,11 @@
 #!/bin/sh
-# Checks the macOS sources against the declarations of Apple's interfaces, for one kind of Mac.
+# Type-checks the macOS sources against declarations of Apple's interfaces, for one processor.
 # SPDX-License-Identifier: MIT
 #
 # usage: check.sh ROOT x86_64|arm64 [SOURCE...]
 #
-# Compiles for macOS 11 and stops short of the code: what it shows is that the sources, and the facts
-# in facts.mm, agree with the interfaces as they are declared here. The C++ library is this system's, and so are the C
-# headers that include/ does not have, with their numbers of errors and signals.
+# Compiles the sources and facts.mm for macOS 11 without generating code. The C++ library is the
+# host's, and so are the C headers that include/ lacks, with the host's error and signal numbers.
 cd "$1" || exit 2
 processor=$2
 shift 2
@@ -14,23 +13,23 @@ compiler=${BRISEL_CLANG:-clang++}
 macos=tests/macos
 settings='-std=c++20 -fblocks -fno-objc-arc -I src -I .'
 
-# The project's own warnings, without the word that lets them pass.
+# The warnings of cmake/BuildOptions.cmake and those for Apple's interfaces, as errors.
 warnings="$(sed -n '/brisel_options INTERFACE$/,/)/s/[^-]*\(-W[^)]*\).*/\1/p' cmake/BuildOptions.cmake)
     -Werror -Wdeprecated-declarations -Wunguarded-availability -Wundeclared-selector
     -Wstrict-selector-match -Wsuper-class-method-mismatch -Wobjc-missing-super-calls
     -Wobjc-signed-char-bool -Wnullable-to-nonnull-conversion -Wnullability-completeness"
 
-# This system's headers take the processor for its own.
+# The host's headers require the host's processor.
 pretend() {
     echo "-D__$(uname -m)__"
     if [ "$(uname -m) $processor" = "x86_64 arm64" ]; then
         echo "-D__builtin_ia32_pause()=__builtin_arm_yield()"
     fi
-    # Words of Apple's compilers, which this system's C library uses for its own ends.
+    # glibc has other uses for these keywords of Apple's compiler.
     echo "-U__nonnull -U__nullable -U__null_unspecified -D_GNU_SOURCE"
 }
 
-# The folders where this system's compiler looks, but for the compiler's own.
+# The host's include folders except the compiler's own.
 system_folders() {
     "$compiler" -x c++ -E -v /dev/null 2>&1 >/dev/null |
         sed -n '/^#include <\.\.\.>/,/^End of/s/^ \//-isystem \//p' | grep -v /clang/
@@ -46,7 +45,7 @@ if ! command -v "$compiler" >/dev/null; then
     exit 1
 fi
 if [ $# -eq 0 ]; then
-    # What the application is built of, and what of the simulator asks for more than the standard library.
+    # The application, and the sources of the simulated Mac that use more than the standard library.
     set -- $(find src/platform/macos src/entry/macos helper src/platform/common src/privileged \
         -name '*.mm' -o -name '*.cpp' | sort) $(grep -l '#include <.*\.h>' src/platform/simulated/*.cpp)
     if [ $# -eq 0 ]; then

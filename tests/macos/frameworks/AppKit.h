@@ -1,4 +1,4 @@
-// Stand-ins for what GNUstep's AppKit lacks.
+// Stand-ins for AppKit classes that GNUstep lacks or implements differently.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -17,7 +17,7 @@
 - (NSString*)name;
 @end
 
-/// The button of a status item; its appearance can be observed by key.
+/// The button of a status item; effectiveAppearance is key-value observable.
 @interface StageStatusBarButton : NSObject {
   @private
     NSString* accessibilityLabel_;
@@ -50,26 +50,26 @@
 - (BOOL)openURL:(NSURL*)url;
 @end
 
-/// GNUstep's own drops the attributes of a title.
+/// Keeps the attributes of the title, which GNUstep drops.
 @interface StageMenuItem : NSMenuItem {
   @private
     NSAttributedString* stageTitle_;
 }
 @end
 
-/// Runs the main loop in the modal mode while the scenario is asked for an answer.
+/// Answered by the simulated Mac's alert, with the main loop in the modal mode meanwhile.
 @interface StageAlert : NSAlert
 @end
 
-/// Tells of what the application does on its own behalf, and does it.
+/// Records activation, About panel and termination in the transcript, and performs them.
 @interface StageApplication : NSApplication
 @end
 
 namespace brisel::tests::macos {
 
-/// The items of a menu as values, from the top.
+/// The items of a menu as values, in order.
 std::vector<platform::MenuItem> itemsOf(NSMenu* menu);
-/// The status item that is in the menu bar; nil as long as there is none.
+/// The status item in the menu bar, or nil.
 StageStatusItem* statusItem();
 
 }  // namespace brisel::tests::macos

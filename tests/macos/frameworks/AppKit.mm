@@ -1,4 +1,4 @@
-// Stand-ins for what GNUstep's AppKit lacks.
+// Stand-ins for AppKit classes that GNUstep lacks or implements differently.
 // SPDX-License-Identifier: MIT
 #import "tests/macos/frameworks/AppKit.h"
 
@@ -78,7 +78,7 @@ namespace platform = brisel::platform;
 
 namespace {
 
-// GNUstep brings the application to the front at the start, by itself.
+// GNUstep activates the application during launch; only later calls come from the program.
 bool launched = false;
 
 }  // namespace
@@ -106,7 +106,8 @@ bool launched = false;
     (void)sender;
     raiseIfTold();
     world().transcript.write("terminate");
-    // GNUstep's own does nothing before the main loop runs; the Mac's always ends the process.
+    // GNUstep's terminate: does nothing before the main loop runs; AppKit's always ends the
+    // process.
     [[NSNotificationCenter defaultCenter]
         postNotificationName:NSApplicationWillTerminateNotification
                       object:self];

@@ -1,4 +1,4 @@
-// The stand-in for Foundation's scripts.
+// The stand-in for NSAppleScript.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/Text.h"
 #import "tests/macos/frameworks/Foundation.h"
@@ -11,7 +11,7 @@ using brisel::tests::macos::complain;
 using brisel::tests::macos::raiseIfTold;
 using brisel::tests::macos::world;
 
-/// A dictionary that lists its keys in the order in which they came.
+/// A dictionary that enumerates its keys in insertion order.
 @interface StageOrderedDictionary : NSDictionary {
   @private
     NSArray* keys_;

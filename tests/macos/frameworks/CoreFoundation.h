@@ -1,4 +1,4 @@
-// The stand-in Core Foundation: its objects are Foundation's, or these.
+// The stand-in Core Foundation, on Foundation's objects and its own.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,7 +6,7 @@
 
 #include "tests/macos/frameworks/Counted.h"
 
-/// A CFUUID, as the text that CFUUIDCreateString makes of it.
+/// A CFUUID, stored as the text that CFUUIDCreateString returns.
 @interface StageUUID : NSObject {
   @private
     NSString* text_;
@@ -15,7 +15,7 @@
 - (NSString*)text;
 @end
 
-/// A dictionary that a Copy function has handed out.
+/// A dictionary returned by a Copy function.
 @interface StageDictionary : StageCounted {
   @private
     NSDictionary* values_;
@@ -24,7 +24,7 @@
 - (NSDictionary*)values;
 @end
 
-/// A string that a Create function has handed out.
+/// A string returned by a Create function.
 @interface StageString : NSString {
   @private
     NSString* text_;

@@ -87,7 +87,7 @@ const CFAllocatorRef kCFAllocatorDefault = nullptr;
 const CFRunLoopMode kCFRunLoopDefaultMode = (__bridge CFStringRef)NSDefaultRunLoopMode;
 const CFRunLoopMode kCFRunLoopCommonModes = (__bridge CFStringRef)NSRunLoopCommonModes;
 
-// Null crashes here, as it does in the real one.
+// Crashes on null, as Core Foundation does.
 
 CFTypeRef CFRetain(CFTypeRef reference) {
     if (reference == nullptr) std::abort();
@@ -101,7 +101,7 @@ void CFRelease(CFTypeRef reference) {
 }
 
 CFTypeID CFGetTypeID(CFTypeRef reference) {
-    // Other numbers are of a type of their own.
+    // GNUstep's Boolean numbers have their own class.
     const Class boolean = [[NSNumber numberWithBool:YES] class];
     if ([object(reference) isKindOfClass:boolean]) return Boolean_;
     if ([object(reference) isKindOfClass:[NSString class]]) return String;

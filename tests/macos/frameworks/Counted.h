@@ -1,4 +1,4 @@
-// Counted objects of the stand-in frameworks: a lost reference shows.
+// Counts the objects of the stand-in frameworks, to find leaked references.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,14 +7,14 @@
 #include <map>
 #include <string>
 
-/// What a Create or Copy function hands out derives from this. A reference released too often ends
-/// in a message to freed memory, which the address sanitizer reports.
+/// Base class of the objects that Create and Copy functions return. An over-release sends a message
+/// to freed memory, which the address sanitizer reports.
 @interface StageCounted : NSObject
 @end
 
 namespace brisel::tests::macos {
 
-/// How many objects there are, by kind.
+/// Number of live objects by kind.
 std::map<std::string, int> liveObjects();
 void countIn(const std::string& kind);
 void countOut(const std::string& kind);

@@ -1,4 +1,4 @@
-// Objects of the stand-in frameworks that are counted.
+// Counts the objects of the stand-in frameworks.
 // SPDX-License-Identifier: MIT
 #import "tests/macos/frameworks/Counted.h"
 

@@ -7,13 +7,13 @@
 
 namespace brisel::tests::macos {
 
-/// Lets what waits reach the program, as the main run loop does that turns in this mode; true when
-/// there was anything. Nothing comes but through a session that is scheduled for the mode.
+/// Turns the simulated main loop once, as the main run loop does in `mode`; true if there was work.
+/// Does nothing unless a session is scheduled in `mode` or in the common modes.
 bool deliverDiskEvents(NSString* mode);
 
-/// Lets every description have this value for this key, of whatever type.
+/// Sets the value of `key` in every disk description, of any type.
 void describeWith(CFStringRef key, id value);
-/// Everything as at the start of a process: no session is scheduled, nothing was told above.
+/// Restores the state at process start: no scheduled session, no describeWith() values.
 void resetDiskArbitration();
 
 }  // namespace brisel::tests::macos

@@ -27,9 +27,9 @@ struct Registration {
     platform::Subscription subscription;
 };
 
-/// The session that is scheduled, and the mode: the program has one.
+/// The run loop mode of the scheduled session, or nil; the program has one session.
 NSString* scheduledMode = nil;
-/// What takes the place of values in descriptions.
+/// The values set by describeWith().
 NSMutableDictionary* toldValues = nil;
 
 }  // namespace
@@ -53,7 +53,7 @@ namespace {
 
 using DiskCallback = void (*)(DADiskRef, void*);
 
-// The disk belongs to the call: whoever wants to keep it must retain it.
+// The disk lives until the callback returns; a callback that keeps it must retain it.
 platform::DiskArbitration::DiskCallback reporter(DiskCallback callback, void* context) {
     return [callback, context](const Disk& disk) {
         @autoreleasepool {

@@ -1,4 +1,4 @@
-// The values of the stand-in Disk Arbitration: disks, their descriptions and refusals.
+// The values of the stand-in Disk Arbitration: disks, descriptions and dissenters.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,14 +11,14 @@
 
 namespace brisel::tests::macos {
 
-/// A reference that the caller owns.
+/// The caller owns the result.
 DADiskRef createDisk(const platform::Disk& disk);
 const platform::Disk& diskOf(DADiskRef disk);
 
-/// A reference that the caller owns.
+/// The caller owns the result.
 DADissenterRef createDissenter(std::uint32_t status);
 
-/// What a description says, by the system's keys.
+/// `description` with Disk Arbitration's keys.
 NSMutableDictionary* dictionaryFrom(const platform::DiskDescription& description);
 
 }  // namespace brisel::tests::macos

@@ -48,7 +48,7 @@ NSString* text(const std::string& value) {
     return nsString(value);
 }
 
-// A volume that is on no device has no such name.
+// Nil for an empty name: such a volume is on no device.
 NSString* deviceName(const std::string& value) {
     return value.empty() ? nil : nsString(value);
 }

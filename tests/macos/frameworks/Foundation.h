@@ -1,4 +1,4 @@
-// Stand-ins for what Foundation lacks here, or what would touch the user's own files.
+// Stand-ins for Foundation classes that GNUstep lacks or that would touch the user's files.
 // SPDX-License-Identifier: MIT
 #pragma once
 

@@ -21,7 +21,7 @@ namespace platform = brisel::platform;
 
 namespace {
 
-// GNUstep's own NSError has no place for a reason, but hands out what is in this dictionary.
+// GNUstep's NSError takes the failure reason from the user info.
 NSError* errorFrom(const platform::Error& error) {
     NSMutableDictionary* const userInfo = [NSMutableDictionary dictionary];
     [userInfo setObject:nsString(error.localizedDescription) forKey:NSLocalizedDescriptionKey];
@@ -32,8 +32,8 @@ NSError* errorFrom(const platform::Error& error) {
     return [NSError errorWithDomain:NSCocoaErrorDomain code:512 userInfo:userInfo];
 }
 
-// What GNUstep's own does not: asks the delegate for each item, from the top, and leaves out what
-// must stay. The delegate sees paths as they are on disk.
+// Deletes `path` recursively and asks the delegate for each item, which GNUstep does not. The
+// delegate receives decomposed paths, as they are on disk.
 std::optional<platform::Error> deleteReally(NSFileManager* manager, const std::string& path) {
     const id delegate = [manager delegate];
     NSString* const item = [nsString(path) decomposedStringWithCanonicalMapping];

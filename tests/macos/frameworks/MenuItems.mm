@@ -22,7 +22,7 @@ platform::MenuItem valueOf(NSMenuItem* menuItem) {
     if (item.separator) return item;
     item.title = platform::macos::stdString([menuItem title]);
     item.alignment = alignmentOf([menuItem attributedTitle]);
-    // A selector's name lives as long as the process.
+    // The name of a selector is never freed.
     if ([menuItem action] != nullptr) item.action = sel_getName([menuItem action]);
     item.checked = [menuItem state] == NSControlStateValueOn;
     if (const auto* const inserted = platform::macos::insertedItem(menuItem)) {

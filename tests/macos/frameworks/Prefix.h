@@ -1,4 +1,4 @@
-// What every source of the program sees first where it is built on the stand-in frameworks.
+// Prefix header of the program's sources when they are built on the stand-in frameworks.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,7 +6,7 @@
 #include "tests/macos/frameworks/Foundation.h"
 #include "tests/macos/frameworks/Security.h"
 
-// The program names Apple's classes and functions; these are what it gets.
+// Replaces the names of Apple's classes and functions in the program.
 #define NSAlert StageAlert
 #define NSAppearance StageAppearance
 #define NSAppleScript StageAppleScript

@@ -1,4 +1,4 @@
-// Keeps GNUstep's helper processes away, and its files out of anybody's home.
+// Keeps GNUstep from starting helper processes and from using the account's home directory.
 // SPDX-License-Identifier: MIT
 #import <AppKit/AppKit.h>
 #include <pwd.h>
@@ -8,10 +8,10 @@
 #include <cstdlib>
 #include <string_view>
 
-// The categories replace methods of the classes they are for.
+// These categories replace methods of their classes.
 #pragma clang diagnostic ignored "-Wobjc-protocol-method-implementation"
 
-/// Applications telling each other things, by a process of their own.
+/// Distributed notifications, which need a daemon.
 @implementation NSDistributedNotificationCenter (Quiet)
 
 - (void)addObserver:(id)observer
@@ -51,7 +51,7 @@
 @interface GSServicesManager : NSObject
 @end
 
-/// Services that applications offer each other; two of one name would ask the user what to do.
+/// The Services menu; two applications of one name would ask the user which to use.
 @implementation GSServicesManager (Quiet)
 
 - (void)registerAsServiceProvider {
@@ -65,8 +65,8 @@
 
 @end
 
-// Its own lines; the program's go elsewhere. Without a window manager it cannot look at the frames
-// of windows, and says so fifteen times.
+// Writes GNUstep's own log lines to standard error; the program's lines go to the simulated Mac.
+// Drops the warnings that GNUstep prints without a window manager.
 static void logOfGNUstep(NSString* line) {
     const std::string_view text = [line UTF8String];
     if (text.find("Failed to determine offsets for style") != std::string_view::npos) return;
@@ -77,8 +77,8 @@ __attribute__((constructor)) static void quietenLog() {
     _NSLog_printf_handler = &logOfGNUstep;
 }
 
-// GNUstep looks for the home in the list of accounts, not in the environment; this program's own
-// definition comes before the system's.
+// GNUstep reads the home directory from the account database, not from HOME. These definitions take
+// precedence over the C library's.
 extern "C" {
 
 static int accountAtHome(uid_t user, struct passwd* account, char* buffer, struct passwd** found) {

@@ -1,4 +1,4 @@
-// Exceptions that the frameworks raise for what they take as mistakes of the program.
+// Exceptions that the frameworks raise for misuse.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,7 +6,8 @@
 
 namespace brisel::tests::macos {
 
-/// For the calls that can raise one: does so where that was ordered.
+/// Raises an exception if orders().nextCallRaises is set; each stand-in that can raise one calls
+/// it.
 void raiseIfTold();
 
 }  // namespace brisel::tests::macos

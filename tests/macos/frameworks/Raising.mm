@@ -1,4 +1,4 @@
-// Exceptions that the frameworks raise.
+// Exceptions that the frameworks raise for misuse.
 // SPDX-License-Identifier: MIT
 #import "tests/macos/frameworks/Raising.h"
 

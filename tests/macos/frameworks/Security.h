@@ -1,4 +1,4 @@
-// The stand-in Authorization Services: the look-up by name, which it can leave without an answer.
+// The stand-in dlsym, which can hide AuthorizationExecuteWithPrivileges.
 // SPDX-License-Identifier: MIT
 #pragma once
 

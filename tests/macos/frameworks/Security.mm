@@ -67,7 +67,7 @@ OSStatus AuthorizationExecuteWithPrivileges(AuthorizationRef authorization, cons
                              ? startReally(pathToTool, arguments)
                              : world().authorization.executeWithPrivileges(
                                    worldReference(authorization), pathToTool, options, arguments);
-    // The real one sets no owner of the descriptor.
+    // The real call sets no owner of the descriptor.
     if (started.communicationsPipe != nullptr) {
         fcntl(fileno(started.communicationsPipe), F_SETOWN, 0);
     }

@@ -1,4 +1,4 @@
-// The stand-in menu bar and the one item in it.
+// The stand-in menu bar and its one item.
 // SPDX-License-Identifier: MIT
 #include <optional>
 #include <utility>
@@ -17,7 +17,7 @@ namespace {
 
 StageStatusItem* itemInMenuBar = nil;
 
-// The simulated Mac's own menu follows the real one, so that it tells of it in its own words.
+// Mirrors the AppKit menu in the simulated Mac, which writes it to the transcript.
 void copyToWorld(NSMenu* menu) {
     auto& copy = world().statusMenu;
     std::vector<int> tags;
@@ -58,7 +58,7 @@ StageStatusItem* statusItem() {
 @end
 
 @interface StageStatusItem (Menu)
-/// Tells of the menu where it has changed since.
+/// Mirrors the menu if it has changed since the last call.
 - (void)tellMenu;
 @end
 

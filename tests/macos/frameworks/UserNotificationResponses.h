@@ -1,4 +1,4 @@
-// A response to a notification, as the stand-in User Notifications hand it out.
+// Notification responses of the stand-in User Notifications.
 // SPDX-License-Identifier: MIT
 #pragma once
 

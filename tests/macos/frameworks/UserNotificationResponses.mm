@@ -1,4 +1,4 @@
-// A response of the stand-in User Notifications.
+// Notification responses of the stand-in User Notifications.
 // SPDX-License-Identifier: MIT
 #import "tests/macos/frameworks/UserNotificationResponses.h"
 

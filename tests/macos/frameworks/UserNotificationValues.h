@@ -1,4 +1,4 @@
-// The values of the stand-in User Notifications, each made by the class that the program names.
+// The values of the stand-in User Notifications, as subclasses of Apple's classes.
 // SPDX-License-Identifier: MIT
 #pragma once
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #import "tests/macos/frameworks/UserNotificationValues.h"
 
-// The classes that the program names declare no storage; these hand out the ones that have it.
+// Apple's classes declare no storage; their factory methods return the Stage subclasses.
 
 @implementation UNNotificationSound
 

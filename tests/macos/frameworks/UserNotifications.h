@@ -10,14 +10,14 @@
 
 namespace brisel::tests::macos {
 
-/// Gives the answers that were told to wait, on a thread of the framework's own.
+/// Calls the handlers delayed by orders().answersWait, on another thread.
 void deliverAnswers();
 
-/// Delivers the user's response to the center's delegate, on a thread of the framework's own, and
-/// calls `delivered` there.
+/// Delivers a response to the center's delegate on another thread, then calls `delivered` there.
+/// Returns when both are done.
 void deliverResponse(const platform::NotificationResponse& response,
                      const std::function<void()>& delivered);
-/// The same on this thread, with user information of any kind.
+/// Delivers a response to the center's delegate on this thread, with user information of any kind.
 void deliverResponseHere(const platform::NotificationResponse& response, NSDictionary* userInfo);
 
 }  // namespace brisel::tests::macos

@@ -1,4 +1,4 @@
-// The stand-in notification center, which calls back on threads of its own.
+// The stand-in notification center, which calls back on other threads.
 // SPDX-License-Identifier: MIT
 #import "tests/macos/frameworks/UserNotifications.h"
 
@@ -29,10 +29,10 @@ NSString* const UNErrorDomain = @"UNErrorDomain";
 
 namespace {
 
-/// The delegate: not kept alive, and one for all, as the center is.
+/// Not retained, and one for the process, as the real center's.
 id<UNUserNotificationCenterDelegate> centerDelegate = nil;
 
-// The world goes on only when `work` is done, so that what happens has one order.
+// Waits for the thread, so that events have a fixed order.
 void runOnAnotherThread(const std::function<void()>& work) {
     std::thread([&work] {
         GSRegisterCurrentThread();
@@ -43,7 +43,7 @@ void runOnAnotherThread(const std::function<void()>& work) {
     }).join();
 }
 
-/// Answers that were told to wait.
+/// Handler calls delayed by orders().answersWait.
 std::vector<std::function<void()>> waitingAnswers;
 
 void answer(std::function<void()> work) {
@@ -54,7 +54,7 @@ void answer(std::function<void()> work) {
     }
 }
 
-/// A copy of a block, which outlives the call that it came with.
+/// Copies a block, so that it outlives the call that received it.
 template <typename Block>
 std::function<Block()> kept(Block block) {
     const std::shared_ptr<void> copy(reinterpret_cast<void*>(Block_copy(block)),
@@ -195,7 +195,8 @@ void deliverResponse(const platform::NotificationResponse& response,
 }
 
 void deliverResponseHere(const platform::NotificationResponse& response, NSDictionary* userInfo) {
-    // A value of its own, so that a block that was not copied shows.
+    // The block captures this string: under the address sanitizer, a delegate that keeps the block
+    // without copying it fails.
     const std::string action = response.actionIdentifier;
     [centerDelegate userNotificationCenter:[UNUserNotificationCenter currentNotificationCenter]
             didReceiveNotificationResponse:responseFrom(response, userInfo)

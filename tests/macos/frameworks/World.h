@@ -1,4 +1,4 @@
-// The simulated Mac that the stand-in frameworks act on, and what they have to complain about.
+// The simulated Mac that the stand-in frameworks act on, their orders and their complaints.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,34 +9,34 @@
 
 namespace brisel::tests::macos {
 
-/// There must be one.
+/// Aborts if setWorld() was not called.
 platform::simulated::Mac& world();
-/// `mac` must outlive all that acts on it. Orders given before are forgotten.
+/// `mac` must outlive its use. Resets the orders.
 void setWorld(platform::simulated::Mac& mac);
 
-/// What the stand-ins do otherwise than they would by themselves.
+/// How the stand-ins deviate from their default behaviour.
 struct Orders {
-    /// File managers delete what is on the real file system, not in the simulated Mac's.
+    /// File managers delete from the real file system, not the simulated one.
     bool deletesRealFiles = false;
-    /// File managers say that they have deleted what they leave there.
+    /// File managers report a deletion without performing it.
     bool onlySaysItDeletes = false;
-    /// The tools that are started are the system's own, not the simulated Mac's.
+    /// Starts the system's own tools, not the simulated Mac's.
     bool startsRealTools = false;
-    /// The next call of those that can raise an exception does so.
+    /// The next call that can raise an exception does.
     bool nextCallRaises = false;
-    /// No session with Disk Arbitration comes about.
+    /// DASessionCreate returns null.
     bool noSession = false;
-    /// Requests are refused before the call returns, as those are that cannot even be handed to the
-    /// system.
+    /// Mounts and unmounts are refused before the call returns, as Disk Arbitration does for a
+    /// request that it cannot send.
     bool refusesAtOnce = false;
-    /// The notification center answers when it is told to, not within the call.
+    /// Handlers of the notification center wait for deliverAnswers().
     bool answersWait = false;
 };
 Orders& orders();
 
-/// Notes a use of a framework that the real one punishes in a way that nobody would see at once.
+/// Records a misuse of a framework that the real one would not report at once.
 void complain(const std::string& complaint);
-/// What was noted since this was asked last.
+/// The complaints since the last call.
 std::vector<std::string> takeComplaints();
 
 }  // namespace brisel::tests::macos

@@ -1,4 +1,4 @@
-// The login item on the stand-in frameworks: prints what it asks of its surroundings.
+// The login item on the stand-in frameworks: prints its calls.
 // SPDX-License-Identifier: MIT
 #import <Foundation/Foundation.h>
 
@@ -7,12 +7,12 @@
 
 #include "tests/macos/frameworks/World.h"
 
-/// The login item's own `main`.
+/// main() of the login item.
 int loginItemMain();
 
 namespace {
 
-/// Nothing of the login item asks anybody anything.
+/// The login item shows no alert and no prompt.
 class Nobody final : public brisel::platform::simulated::Person {
   public:
     int answerAlert(const brisel::platform::AlertContent& /*alert*/) override { std::abort(); }

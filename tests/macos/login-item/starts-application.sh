@@ -1,12 +1,12 @@
 #!/bin/sh
-# Sees that the login item starts the application that it lies in, and no other: starts-application.sh PROGRAM
+# Checks that the login item starts the application around it: starts-application.sh PROGRAM
 # SPDX-License-Identifier: MIT
 set -eu
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# expect FOLDER WORDS: put into FOLDER, the login item says these words and ends well.
+# expect FOLDER TEXT: the login item in FOLDER prints TEXT and exits with 0.
 expect() {
     bundle="$work/$1/BriselHelper.app"
     mkdir -p "$bundle" "$work/home"

@@ -1,4 +1,4 @@
-# Checks the pictures of Brisel.app: there, made from the drawings, and seen on a menu bar.
+# Checks the images of Brisel.app: complete, equal to the drawings, visible on a menu bar.
 # SPDX-License-Identifier: MIT
 #
 # usage: images_test.py ROOT [-v]
@@ -16,10 +16,10 @@ from status_icon_checks import BARS, StatusIconChecks
 ROOT = pathlib.Path(sys.argv.pop(1))
 PICTURES = ROOT / "resources/macos"
 IMAGES = PICTURES / "images"
-# Of a status image, in a menu bar that is 22 points high.
+# Height and width of a status image, for a menu bar of 22 points.
 POINTS = 18
-# Renderers round differently; more is another drawing. Releases of librsvg blend the icon's edges
-# differently, by up to 16.
+# Renderers round differently; a larger distance is another drawing. Releases of librsvg blend the
+# icon's edges differently, by up to 16.
 MOST_APART = 4
 MOST_APART_AT_EDGES = 24
 PNG = b"\x89PNG\r\n\x1a\n"
@@ -38,7 +38,7 @@ def premultiplied(pixel):
 
 
 def apart(one, other):
-    """The most by which a channel of a pixel differs; pictures of two sizes are all apart."""
+    """The largest difference of a channel, 0 to 255; 255 if the sizes differ."""
     if size(one) != size(other):
         return 255
     return max(abs(a - b) for rows in zip(one, other) for pixels in zip(*rows)
@@ -46,7 +46,7 @@ def apart(one, other):
 
 
 def elements(icns):
-    """The kinds of an icon file's elements, with their data."""
+    """The type and data of each element of an icon file."""
     name, length = struct.unpack_from(">4sI", icns)
     if (name, length) != (b"icns", len(icns)):
         raise ValueError("no icon file, or not all of it")
@@ -58,7 +58,7 @@ def elements(icns):
 
 
 def names_asked_for():
-    """All that the program makes up of a colour's word and that for the bar."""
+    """The image names that the program composes from colour and bar."""
     source = (ROOT / "src/app/StatusIcon.cpp").read_text(encoding="utf-8")
     prefix = re.search(r'std::string name = "([^"]+)"', source).group(1)
     colours = re.findall(r'return "(\w+-)"', source)
@@ -86,7 +86,7 @@ class StatusImages(StatusIconChecks, unittest.TestCase):
 
 
 class Icon(unittest.TestCase):
-    # The pixels of each kind of element; kinds for screens with twice the pixels included.
+    # Pixels of each element type, Retina types included.
     SIZES = {"ic11": 32, "ic12": 64, "ic07": 128, "ic13": 256,
              "ic08": 256, "ic14": 512, "ic09": 512, "ic10": 1024}
 
@@ -120,7 +120,7 @@ class Exports(unittest.TestCase):
         made = dict(elements((self.folder / "Brisel.icns").read_bytes()))
         kept = dict(elements((PICTURES / "Brisel.icns").read_bytes()))
         self.assertEqual(set(made), set(kept))
-        # The larger ones are the same drawing, and slow to look at.
+        # Larger ones have the same drawing, but are slow to compare.
         for kind in ("ic11", "ic12", "ic07"):
             with self.subTest(kind=kind):
                 self.assertLessEqual(apart(decode(made[kind]), decode(kept[kind])),

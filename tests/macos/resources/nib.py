@@ -1,12 +1,12 @@
-# Reads a nib's source and the Objective-C classes that it connects.
+# Reads the source of a nib and the Objective-C classes that it connects.
 # SPDX-License-Identifier: MIT
 import re
 import xml.etree.ElementTree
 
-# The classes of the system that the nib uses, with the outlets and actions of theirs.
+# The system classes that the nib uses, with their outlets and actions.
 SYSTEM = {"NSApplication": ({"delegate": "id"}, {"terminate:"}),
           "FirstResponder": ({}, set()), "NSObject": ({}, set())}
-# The classes of what is no customObject.
+# The classes of elements other than customObject.
 ELEMENTS = {"menu": "NSMenu", "menuItem": "NSMenuItem"}
 COMMENT = re.compile(r"//[^\n]*|/\*.*?\*/", re.DOTALL)
 ACTION = re.compile(r"-\s*\(\s*IBAction\s*\)\s*(\w+:)\s*\([^)]*\)\s*\w+\s*;")
@@ -14,7 +14,7 @@ OUTLET = re.compile(r"\bIBOutlet\s+(\w+)\s*\*?\s*(\w+)\s*;")
 
 
 def members(header, name):
-    """The outlets (name to type) and actions that a class declares; None where it is not there."""
+    """The outlets (name to type) and actions of a class; None if it is not declared."""
     text = COMMENT.sub("", header)
     interface = re.search(rf"@interface\s+{name}\b(?!\s*\()(.*?)@end", text, re.DOTALL)
     if interface is None:
@@ -36,7 +36,7 @@ class Nib:
         return element.get("customClass") or ELEMENTS[element.tag]
 
     def name(self, identifier):
-        """What a person would call the object: its title, else its class or label."""
+        """The object's title, or else its class or label."""
         element = self.objects[identifier]
         return element.get("title") or element.get("customClass") or element.get("userLabel")
 
@@ -60,7 +60,7 @@ class Nib:
 
 
 def faults(xib, headers):
-    """What does not fit between the nib and the classes; `headers` maps a class to its header."""
+    """The mismatches between nib and classes; `headers` maps a class to its header."""
     nib = Nib(xib)
     classes = dict(SYSTEM)
     for name, header in headers.items():

@@ -1,4 +1,4 @@
-# Checks that the nib makes the menu that the program relies on, and fits the delegate's class.
+# Checks that the nib makes the program's menu and matches the delegate's class.
 # SPDX-License-Identifier: MIT
 #
 # usage: nib_test.py ROOT [-v]
@@ -11,7 +11,7 @@ from nib import Nib, faults, members
 ROOT = pathlib.Path(sys.argv.pop(1))
 HEADER = (ROOT / "src/entry/macos/AppDelegate.h").read_text(encoding="utf-8")
 XIB = (ROOT / "resources/macos/MainMenu.xib").read_text(encoding="utf-8")
-# From the top: title, action and what it is sent to.
+# Title, action and target, from the top.
 MENU = [("Start at Login", "toggleStartAtLogin:", "AppDelegate"),
         ("About Brisel", "bringToFront:", "AppDelegate"),
         "separator",
@@ -25,7 +25,7 @@ class MainMenu(unittest.TestCase):
         self.assertEqual(self.nib.menu_items(), MENU)
 
     def test_gives_no_item_a_tag_or_a_key(self):
-        # The tags 101 and 102 are those of items that come and go.
+        # Tags 101 and 102 belong to the generated items.
         for item in self.nib.root.iter("menuItem"):
             with self.subTest(item=item.get("title")):
                 self.assertIsNone(item.get("tag"))
@@ -54,7 +54,7 @@ class Delegate(unittest.TestCase):
 
 
 class BrokenNibs(unittest.TestCase):
-    """Each of these would be found out at the program's start on a Mac, or never."""
+    """On a Mac, these faults appear at the program's start or never."""
 
     def assert_found(self, fault, xib=XIB, header=HEADER):
         found = faults(xib, {"AppDelegate": header})

@@ -1,9 +1,9 @@
-# Checks the property lists of Brisel.app and of its helper, and that what they name is there.
+# Checks the property lists of Brisel.app and its helper, and the files that they name.
 # SPDX-License-Identifier: MIT
 #
 # usage: property_lists_test.py ROOT FOLDER [-v]
 #
-# FOLDER holds the property lists as the build makes them, and the list of the bundle's files.
+# FOLDER holds the property lists from the build, and the list of the bundle's files.
 import pathlib
 import plistlib
 import re
@@ -21,7 +21,7 @@ def read(name):
 
 
 def source(pattern, file):
-    """What the one group of the pattern stands for in a file of the project."""
+    """The pattern's one group, found in a file of the project."""
     found = re.search(pattern, (ROOT / file).read_text(encoding="utf-8"))
     if found is None:
         raise AssertionError(f"{file} has no {pattern}")
@@ -29,7 +29,7 @@ def source(pattern, file):
 
 
 def missing_files(plist, contents, bundle):
-    """The files that the property list's keys name and that the bundle lacks."""
+    """The files that the property list names and the bundle lacks."""
     wanted = [f"Contents/MacOS/{plist['CFBundleExecutable']}"]
     if "NSMainNibFile" in plist:
         wanted.append(f"Contents/Resources/{plist['NSMainNibFile']}.nib")
@@ -111,7 +111,7 @@ class Entitlements(unittest.TestCase):
 
 
 class Bundles(unittest.TestCase):
-    """A bundle that lacks what its property list names is found."""
+    """Checks that missing_files() finds what a bundle lacks."""
 
     def test_lack_a_nib_an_icon_a_program_or_a_language(self):
         for file in ("Contents/Resources/MainMenu.nib", "Contents/Resources/Brisel.icns",

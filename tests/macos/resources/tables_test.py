@@ -1,4 +1,4 @@
-# Checks that the localised tables are well-formed and have the same keys in all languages.
+# Checks that the localised tables are well-formed and have equal keys in all languages.
 # SPDX-License-Identifier: MIT
 #
 # usage: tables_test.py ROOT [-v]
@@ -17,7 +17,7 @@ PAIR = re.compile(rf"{TEXT} = {TEXT};")
 
 
 def parse(text):
-    """The table's pairs; raises ValueError where it is no table, or has a key twice."""
+    """The table's pairs; raises ValueError if it is malformed or has a duplicate key."""
     table = {}
     position = SKIPPED.match(text).end()
     while position < len(text):

@@ -1,4 +1,4 @@
-// The Mac application, from its own sources, on the stand-in frameworks.
+// The macOS application, built from its own sources on the stand-in frameworks.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,12 +7,12 @@
 
 namespace brisel::tests::macos {
 
-/// Runs in the real main loop, which asks the scenario for commands when there is nothing else to
-/// do in its default mode. Its end is the process's end; one that has misused a framework or lost
-/// an object says so on standard error, and has an exit status of its own.
+/// Runs the real main loop. When it is idle in its default mode, it asks the scenario for the next
+/// command. The end of the program ends the process; after a framework misuse or a leaked object,
+/// it prints them to standard error and exits with 3.
 class StagedProgram final : public simulator::Program {
   public:
-    /// Asks `scenario` for commands; its simulated Mac becomes the world of the frameworks.
+    /// Takes commands from `scenario`; its simulated Mac becomes the frameworks' world.
     explicit StagedProgram(simulator::Scenario& scenario);
 
     /// Never returns.
@@ -30,9 +30,9 @@ class StagedProgram final : public simulator::Program {
 
     [[noreturn]] void end() override;
 
-    /// What the main loop does when it turns in its default mode.
+    /// Called when the main loop turns in its default mode.
     void turn();
-    /// The main loop has done what a response to a notification left to it.
+    /// Called after the main loop has done the work of a notification response.
     void responseWasHandled() { awaitsResponse_ = false; }
 
   private:

@@ -1,4 +1,4 @@
-// The Mac application on the stand-in frameworks.
+// The macOS application on the stand-in frameworks.
 // SPDX-License-Identifier: MIT
 #import "tests/macos/stage/StagedProgram.h"
 
@@ -16,12 +16,12 @@
 #include "tests/macos/frameworks/UserNotifications.h"
 #include "tests/macos/frameworks/World.h"
 
-/// The program's own `main`.
+/// main() of the application.
 int briselMain(int argumentCount, char** arguments);
 
 using brisel::tests::macos::StagedProgram;
 
-/// Turns with the main loop.
+/// Turns the program in the main loop.
 @interface StageTurner : NSObject {
   @public
     StagedProgram* program;
@@ -63,8 +63,8 @@ constexpr int Misused = 3;
 
 StageTurner* turner = nil;
 
-// What GNUstep takes for its command line: the user's language, and no icon of its own. A file on
-// the real one it would take for a document to open.
+// Sets the command line that GNUstep sees: the user's language, and no application icon. GNUstep
+// takes a file on the real command line for a document to open.
 void setArguments(std::string language) {
     std::string program = std::filesystem::read_symlink("/proc/self/exe");
     std::string languagesName = "-NSLanguages";
@@ -88,7 +88,7 @@ bool misusedFrameworks() {
 bool lostObjects() {
     bool lost = false;
     for (const auto& [kind, count] : liveObjects()) {
-        // The session is kept as long as the process.
+        // The session lives until the process exits.
         const int expected = kind == "StageSession" ? 1 : 0;
         if (count == expected) continue;
         std::cerr << "lost: " << count << " of " << kind << ", not " << expected << '\n';
@@ -98,7 +98,7 @@ bool lostObjects() {
 }
 
 void judgeAtExit() {
-    // Whatever ended the process, what the program wrote must have come out first.
+    // The program's output comes before the complaints.
     std::cout.flush();
     const bool misused = misusedFrameworks();
     if (lostObjects() || misused) std::_Exit(Misused);
@@ -114,7 +114,7 @@ void StagedProgram::start() {
     started_ = true;
     @autoreleasepool {
         setArguments(scenario_.mac().bundle.language());
-        // The application object that NSApplicationMain finds.
+        // Creates the application object that NSApplicationMain uses.
         [StageApplication sharedApplication];
         turner = [[StageTurner alloc] init];
         turner->program = this;
@@ -141,15 +141,14 @@ std::vector<platform::MenuItem> StagedProgram::menuItems() const {
 
 void StagedProgram::choose(std::size_t index) {
     NSMenu* const menu = [statusItem() menu];
-    // Menu items are enabled by whether their targets have the methods.
+    // Enables the items whose targets implement their actions.
     [menu update];
     [menu performActionForItemAtIndex:static_cast<NSInteger>(index)];
 }
 
 void StagedProgram::respond(const platform::NotificationResponse& response) {
     awaitsResponse_ = true;
-    // What is sent from one thread arrives in order: this after whatever the response left to the
-    // main loop.
+    // Calls from one thread arrive in order, so this one follows the work of the response.
     deliverResponse(response, [] {
         [turner performSelectorOnMainThread:@selector(responseWasHandled)
                                  withObject:nil
@@ -176,7 +175,7 @@ void StagedProgram::turn() {
 
 void StagedProgram::end() {
     std::cout.flush();
-    // In the middle of something the program has every right to hold on to objects.
+    // The program may hold objects here, since it has not terminated.
     if (misusedFrameworks()) std::_Exit(Misused);
     std::_Exit(scenario_.stopped() ? BadUse : EXIT_SUCCESS);
 }

@@ -1,8 +1,8 @@
 #!/bin/sh
-# Opens an X display in memory, and closes it: display.sh open|close FILE
+# Starts and stops an Xvfb server: display.sh open|close FILE
 # SPDX-License-Identifier: MIT
 #
-# FILE holds the display's number and the server's process.
+# FILE holds the display number and the server's process ID.
 set -eu
 file=$2
 

@@ -1,4 +1,4 @@
-// brisel-macos-stage: the Mac application on stand-in frameworks, driven by a scenario.
+// brisel-macos-stage: runs the macOS application on stand-in frameworks with a scenario.
 // SPDX-License-Identifier: MIT
 #include <memory>
 
@@ -14,6 +14,6 @@ int main(int argumentCount, char** arguments) {
         .makeProgram = [](brisel::simulator::Scenario& scenario) {
             return std::make_unique<brisel::tests::macos::StagedProgram>(scenario);
         }};
-    // Comes back only from a scenario that has not started the program.
+    // Returns only if the scenario has not started the program.
     return run(commandLine, argumentCount, arguments);
 }

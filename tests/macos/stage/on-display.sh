@@ -1,5 +1,5 @@
 #!/bin/sh
-# Runs a command on the display that display.sh has opened: on-display.sh FILE COMMAND...
+# Runs a command on the display opened by display.sh: on-display.sh FILE COMMAND...
 # SPDX-License-Identifier: MIT
 set -eu
 read -r number server <"$1"

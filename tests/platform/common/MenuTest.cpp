@@ -1,4 +1,4 @@
-// The status menu that is a list of items.
+// The status menu as a list of items.
 // SPDX-License-Identifier: MIT
 #include "platform/common/Menu.h"
 

@@ -1,4 +1,4 @@
-// A list of callbacks, and named notifications made of it.
+// Signals, and the notification center built on them.
 // SPDX-License-Identifier: MIT
 #include "platform/common/Signal.h"
 

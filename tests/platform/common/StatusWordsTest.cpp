@@ -1,4 +1,4 @@
-// The states in words, and the end of the application.
+// Status descriptions, and the termination of the application.
 // SPDX-License-Identifier: MIT
 #include "platform/common/StatusWords.h"
 

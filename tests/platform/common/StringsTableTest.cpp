@@ -1,4 +1,4 @@
-// Tables of localised texts, well-formed and malformed, and the bundle that holds them.
+// Parsing of .strings tables, and the bundle that embeds them.
 // SPDX-License-Identifier: MIT
 #include "platform/common/StringsTable.h"
 
@@ -72,7 +72,7 @@ TEST(StringsTable, SurvivesATextCutAnywhere) {
     EXPECT_EQ(parsed(text).texts().size(), 2U);
 }
 
-/// A language other than English with a table of its own, or an empty text.
+/// `wanted` if a table of this language is embedded, else empty.
 std::string someLanguage(const char* wanted) {
     const auto& tables = embeddedTables();
     const auto found = std::find_if(tables.begin(), tables.end(), [wanted](const auto& table) {

@@ -1,4 +1,4 @@
-// A child process with its standard output on a socket.
+// A child process with its standard input and output on a socket.
 // SPDX-License-Identifier: MIT
 #include "platform/common/ToolProcess.h"
 

@@ -1,4 +1,4 @@
-// The disks of the simulated Mac: what is reported, and where they are mounted.
+// Simulated disks: reports and mount points.
 // SPDX-License-Identifier: MIT
 #include "tests/platform/simulated/Disks.h"
 

@@ -1,4 +1,4 @@
-// Unmounts and mounts on the simulated Mac: effects, refusals, completions.
+// Unmount and mount requests on the simulated Mac: effects, refusals, completions.
 // SPDX-License-Identifier: MIT
 #include "tests/platform/simulated/Disks.h"
 

@@ -1,4 +1,4 @@
-// The disks of the simulated Mac, without the program.
+// Fixture for the simulated disks, without the program.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -30,7 +30,7 @@ class Disks : public testing::Test, public SimulatedProgram {
         disks.scheduleWithRunLoop();
     }
     platform::Disk disk(const std::string& name) { return disks.diskFromBSDName(name).value(); }
-    /// The status of a request; 0 when it was granted, -1 as long as nothing came.
+    /// Status of the request: 0 if granted, -1 if it has not completed.
     long long unmount(const std::string& name) {
         long long status = -1;
         disks.unmount(disk(name), [&](const auto&, const auto& dissenter) {

@@ -1,4 +1,4 @@
-// The folders of the simulated Mac, and the file manager in front of them.
+// Simulated folders, and the file manager on top of them.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The simulated main loop, and the calls that can be made to fail.
+// The simulated main loop, and injected faults.
 // SPDX-License-Identifier: MIT
 #include "platform/simulated/MainLoop.h"
 

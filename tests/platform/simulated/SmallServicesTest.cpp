@@ -1,4 +1,4 @@
-// The services of the simulated Mac beside its disks and folders.
+// The simulated services other than disks and folders.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

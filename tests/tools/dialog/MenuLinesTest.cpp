@@ -1,4 +1,4 @@
-// The lines of a menu, and what is told about its window.
+// Lines of a menu window: the entries that it reads and the replies that it prints.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/MenuLines.h"
 

@@ -1,4 +1,4 @@
-// The command line of `brisel-dialog`.
+// Parsing of brisel-dialog's command line.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/Request.h"
 

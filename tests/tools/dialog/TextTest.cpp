@@ -1,4 +1,4 @@
-// Texts of others, made fit to be shown.
+// Sanitising untrusted texts for display.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/Text.h"
 

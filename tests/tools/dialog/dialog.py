@@ -1,4 +1,4 @@
-# A running brisel-dialog, and the display on which it shows its windows.
+# A running brisel-dialog, and the X display of its windows.
 # SPDX-License-Identifier: MIT
 import os
 import re
@@ -7,13 +7,13 @@ import subprocess
 
 PATIENCE = 30
 SCREEN_WIDTH, SCREEN_HEIGHT = 800, 600
-# Leaks are reported here too, but for those named there.
+# The leak sanitizer reports here too, with these suppressions.
 LEAK_OPTIONS = (f"suppressions={os.path.dirname(os.path.abspath(__file__))}/leaks.supp:"
                 "print_suppressions=0")
 
 
 class Display:
-    """An X server of its own, on a display that was free."""
+    """An Xvfb server on a free display."""
 
     def __init__(self):
         reading, writing = os.pipe()
@@ -37,7 +37,6 @@ class Display:
 
 
 class Dialog:
-    """A running brisel-dialog."""
 
     def __init__(self, program, *arguments, environment, entries=b""):
         self.environment = environment
@@ -70,7 +69,7 @@ class Dialog:
             raise AssertionError((line, self.process.stderr.read()))
         self.window = self.xdotool("search", "--all", "--onlyvisible", "--pid", self.process.pid,
                                    "--name", "").split()[-1]
-        # There is no window manager to give it the keyboard.
+        # Without a window manager, the window gets no keyboard focus by itself.
         self.xdotool("windowfocus", "--sync", self.window)
 
     def geometry(self):
@@ -92,7 +91,7 @@ class Dialog:
         self.process.stderr.close()
 
     def end(self):
-        """The rest of what it said, the status it ended with, and its complaints."""
+        """Waits for the exit; returns the rest of stdout, the exit status and stderr."""
         try:
             said, complaints = self.process.communicate(timeout=PATIENCE)
         except subprocess.TimeoutExpired:

@@ -1,8 +1,8 @@
 #!/usr/bin/python3
-# Prints what assistive technology is told about the window of a program that it starts.
+# Starts a program and prints the accessibility tree of its window.
 # SPDX-License-Identifier: MIT
 #
-# usage: dbus-run-session -- read_aloud.py PROGRAM ARGUMENT..., which gets the standard input
+# usage: dbus-run-session -- read_aloud.py PROGRAM ARGUMENT...; PROGRAM gets the standard input
 import subprocess
 import sys
 
@@ -13,7 +13,7 @@ from gi.repository import Atspi  # noqa: E402
 
 
 def print_tree(node):
-    """A line ROLE|NAME|STATES for the node, and for each below it."""
+    """Prints ROLE|NAME|STATES for the node and, below it, for its descendants."""
     states = sorted(state.value_nick for state in node.get_state_set().get_states())
     print(node.get_role_name(), node.get_name(), " ".join(states), sep="|")
     for index in range(node.get_child_count()):

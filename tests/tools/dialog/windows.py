@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-# Tests the windows of brisel-dialog on a display of their own: windows.py PROGRAM
+# Tests the windows of brisel-dialog on a private X display: windows.py PROGRAM
 # SPDX-License-Identifier: MIT
 import os
 import shutil
@@ -50,7 +50,7 @@ class Alert(Windows):
         self.assert_answers(dialog, "pressed 0")
 
     def test_second_button_stands_before_it(self):
-        # Whatever the font, the place is within the wide button.
+        # Within the wide button, in every font.
         dialog = self.shown("alert", "Message", "", "A", "B" * 40)
         dialog.click(from_right=180, from_bottom=40)
         self.assert_answers(dialog, "pressed 1")

@@ -1,4 +1,4 @@
-// What the mount tool's command line may be.
+// Parsing of the mount tool's command line.
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/CommandLine.h"
 

@@ -1,4 +1,4 @@
-// A kernel that does not know move_mount, as a program sees it.
+// Simulates a kernel without move_mount.
 // SPDX-License-Identifier: MIT
 #include "tests/tools/mount-tool/OldKernel.h"
 

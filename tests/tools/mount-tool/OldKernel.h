@@ -1,4 +1,4 @@
-// A kernel that does not know move_mount, as a program sees it.
+// Simulates a kernel without move_mount.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,11 +6,11 @@
 
 namespace brisel::tests {
 
-/// The argument by which the test program becomes such a start.
+/// As first argument, makes the test program call startOnOldKernel() with the rest.
 inline constexpr std::string_view OldKernelMode = "--on-old-kernel";
 
-/// Becomes the program with these arguments, which gets ENOSYS for move_mount; returns an exit
-/// status only if it cannot.
+/// Executes `arguments` under a filter that fails move_mount with ENOSYS; returns an exit status on
+/// failure.
 int startOnOldKernel(char** arguments);
 
 }  // namespace brisel::tests

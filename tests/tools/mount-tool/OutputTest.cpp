@@ -1,4 +1,4 @@
-// What of a program's output is fit for a log.
+// Sanitising a program's output for the log.
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// Who asked the mount tool.
+// The user on whose behalf the mount tool runs.
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/Person.h"
 

@@ -1,4 +1,4 @@
-// Requests that the mount tool must refuse, with root's rights in hand.
+// Requests that the mount tool refuses although it runs as root.
 // SPDX-License-Identifier: MIT
 #include <sys/stat.h>
 #include <unistd.h>
@@ -24,7 +24,7 @@ class RefusedRequest : public MountToolStage {
     void giveAway(const std::string& path) const { ASSERT_EQ(chown(path.c_str(), 1, 1), 0); }
 };
 
-/// A node in /dev that goes with the object.
+/// A device node in /dev, removed with the object.
 class DeviceNode {
   public:
     DeviceNode() = default;

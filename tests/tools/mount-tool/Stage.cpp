@@ -1,4 +1,4 @@
-// What a test of the mount tool as root needs.
+// Fixture for tests of the mount tool as root.
 // SPDX-License-Identifier: MIT
 #include "tests/tools/mount-tool/Stage.h"
 
@@ -65,7 +65,7 @@ Outcome MountToolStage::runTool(const std::string& before) const {
 }
 
 Outcome MountToolStage::runToolAfter(const std::string& commands) const {
-    // Mounts made there are seen there alone.
+    // These mounts are visible only in this namespace.
     const auto leftovers =
         "grep -e ' " + image_->device() + " ' -e /run/brisel- /proc/self/mountinfo";
     const auto script = commands + "; \"$@\"; status=$?; " + leftovers + " | sed 's/^/" +
@@ -81,7 +81,7 @@ std::string MountToolStage::replace(const std::string& program, const std::strin
 }
 
 bool MountToolStage::stagingIsGone() {
-    // Somebody else may just be mounting a volume.
+    // Another mount may be in progress.
     return succeeds(
         "for i in $(seq 100); do ls -d /run/brisel-?????? || exit 0; sleep 0.1; done; exit 1");
 }
@@ -103,7 +103,7 @@ void MountToolStage::expectNothingMounted(const Outcome& run, int status,
     EXPECT_EQ(run.output.find(LeftMounted), std::string::npos) << run.output;
     EXPECT_EQ(mounted(), "");
     EXPECT_TRUE(stagingIsGone());
-    // Its command line ends in the folder it first mounted on.
+    // The driver's command line ends in its staging folder.
     const auto driver = "^[^ ]*(ntfs-3g|real-driver) .*" + image_->device() + " /run/brisel-";
     EXPECT_TRUE(succeeds("for i in $(seq 100); do pgrep --full '" + driver +
                          "' || exit 0; sleep 0.1; done; exit 1"))

@@ -1,4 +1,4 @@
-// What a test of the mount tool as root needs: a user with a home, an NTFS volume, the tool's runs.
+// Fixture for tests of the mount tool as root: a user, an NTFS volume, and runs of the tool.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,10 +12,10 @@
 
 namespace brisel::tests {
 
-/// Words for a shell that stands for exactly this text.
+/// Quotes `text` for the shell.
 std::string quoted(const std::string& text);
 
-/// A user of this machine, for as long as the object lives.
+/// A user account, deleted with the object.
 class TestUser {
   public:
     TestUser();
@@ -25,7 +25,7 @@ class TestUser {
 
     [[nodiscard]] const std::string& home() const { return home_; }
     [[nodiscard]] const std::string& uid() const { return uid_; }
-    /// Prefix of a command that this user is to run.
+    /// Command prefix that runs a command as this user.
     [[nodiscard]] std::string runs() const;
 
   private:
@@ -35,7 +35,7 @@ class TestUser {
     std::string uid_;
 };
 
-/// How a run of the tool ended.
+/// Exit status and output of the tool.
 struct Outcome {
     int status = 0;
     std::string output;
@@ -43,7 +43,7 @@ struct Outcome {
 
 class MountToolStage : public testing::Test {
   public:
-    /// The user of all tests; made by the program's `main`.
+    /// Shared by all tests; created in main().
     static const TestUser* user;
 
   protected:
@@ -52,27 +52,27 @@ class MountToolStage : public testing::Test {
     void SetUp() override;
     void TearDown() override;
 
-    /// Runs the tool as if the user had asked by pkexec. `before` goes before the command: more of
-    /// the environment, or a program that starts the tool.
+    /// Runs the tool as if the user had called pkexec. `before` precedes the command: more
+    /// environment variables, or a program that starts the tool.
     Outcome runTool(const std::string& before = "") const;
-    /// The same in mounts of its own, which shell commands change first. What is still mounted
-    /// there when the tool has ended follows its output, `LeftMounted` before each line.
+    /// Runs `commands`, then runTool(), in a new mount namespace. Appends to the output each mount
+    /// left there, prefixed with LeftMounted.
     Outcome runToolAfter(const std::string& commands) const;
-    /// Bind-mounts a shell script over a program; a command for `runToolAfter`.
+    /// Command for runToolAfter() that bind-mounts a shell script over `program`.
     [[nodiscard]] std::string replace(const std::string& program, const std::string& script) const;
 
-    /// Makes a folder in ~/.brisel the mount point, the user's own.
+    /// Creates ~/.brisel/LABEL, owned by the user, as the mount point.
     void useLabel(const std::string& label);
     [[nodiscard]] std::string brisel() const { return user->home() + "/.brisel"; }
     [[nodiscard]] const std::string& mountPoint() const { return mountPoint_; }
     [[nodiscard]] const std::string& folder() const { return folder_.path(); }
     NTFSImage& image() { return *image_; }
-    /// The field of the machine's table of mounts for the volume; empty when it is not mounted.
+    /// A findmnt column of the volume; empty if it is not mounted.
     [[nodiscard]] std::string mounted(const std::string& field = "TARGET") const;
 
-    /// Refused for the request's own sake: by this sentence, and nothing is left of it.
+    /// Expects exit status 1, one line of output with `sentence`, and no mount.
     void expectRefusal(const Outcome& run, const std::string& sentence) const;
-    /// Whether no folder that the tool mounts on first is left.
+    /// True once the tool's staging folders are gone; waits up to 10 seconds.
     [[nodiscard]] static bool stagingIsGone();
     void expectNothingMounted(const Outcome& run, int status, const std::string& sentence) const;
 

@@ -1,4 +1,4 @@
-// Drivers whose word the mount tool must not take, and users who move folders under its feet.
+// Untrustworthy drivers, and users who move folders during a mount.
 // SPDX-License-Identifier: MIT
 #include <fcntl.h>
 #include <unistd.h>
@@ -25,7 +25,7 @@ class UntrustedDriver : public MountToolStage {
 
     [[nodiscard]] std::string realDriver() const { return folder() + "/real-driver"; }
 
-    /// The tool with a driver that is this script; its device is $3, its folder $4.
+    /// Runs the tool with `script` as driver; $3 is the device, $4 the folder.
     [[nodiscard]] Outcome runWithDriver(const std::string& script) const {
         return runToolAfter(replace("/usr/bin/ntfs-3g", script));
     }
@@ -119,7 +119,7 @@ TEST_F(UntrustedDriver, IsWaitedForWhateverSignalsAreSentMeanwhile) {
     EXPECT_NE(run.output.find(mountPoint()), std::string::npos) << run.output;
 }
 
-// Swaps the mount point with a link for as long as it lives.
+// Swaps the mount point with a link again and again while in scope.
 class Swapper {
   public:
     Swapper(std::string one, std::string other)
@@ -146,7 +146,7 @@ TEST_F(UntrustedDriver, NeverMountsElsewhereHoweverOftenTheFolderIsSwapped) {
     const Swapper swapper(mountPoint(), link);
     for (int round = 0; round < Rounds; ++round) {
         const auto run = runTool();
-        // A rename that is under way while the folder becomes a mount point may end after it.
+        // A rename that begins before the mount may complete after it.
         const auto at = mounted();
         EXPECT_TRUE(run.status == 0 ? at == mountPoint() || at == link : at.empty())
             << run.status << ' ' << at << ' ' << run.output;

@@ -1,4 +1,4 @@
-// Volumes that the mount tool mounts, and volumes that it must leave alone.
+// Volumes that the mount tool mounts, and volumes that it refuses.
 // SPDX-License-Identifier: MIT
 #include <filesystem>
 #include <fstream>
@@ -20,7 +20,7 @@ class Volume : public MountToolStage {
         EXPECT_TRUE(stagingIsGone());
     }
 
-    /// The volume mounted by its driver, past the tool, while the commands run in its root.
+    /// Mounts the volume with its driver directly and runs `commands` in its root.
     void withVolume(const std::string& commands) const {
         const auto at = folder() + "/aside";
         fs::create_directory(at);
@@ -36,7 +36,7 @@ class Volume : public MountToolStage {
         return shell("ntfscat --force --inode 2 " + device_ + " | sha256sum");
     }
 
-    /// A restart page as Windows leaves it while it has the volume mounted.
+    /// Writes a restart page as Windows leaves it on a mounted volume.
     void makeJournalUnclean() const {
         ASSERT_TRUE(succeeds("ntfscat --force --inode 2 " + device_ + " >" + folder() +
                              "/journal && " BRISEL_UNCLEAN_JOURNAL " " + folder() +
@@ -78,7 +78,7 @@ TEST_F(Volume, CanBeUnmountedAndTakenAwayAfterwards) {
     expectMounted(runTool());
     std::ofstream(mountPoint() + "/greeting.txt") << "hello";
     ASSERT_TRUE(succeeds("umount " + mountPoint()));
-    // A device that somebody holds keeps its file.
+    // A device that is still in use keeps its backing file.
     ASSERT_TRUE(succeeds("losetup --detach " + device_));
     EXPECT_TRUE(succeeds("for i in $(seq 100); do losetup " + device_ + " | grep -F " + folder() +
                          " || exit 0; sleep 0.1; done; exit 1"));

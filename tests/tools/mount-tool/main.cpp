@@ -1,4 +1,4 @@
-// The mount tool's tests on real volumes; says in one line why it can test nothing.
+// The mount tool's tests on real volumes; prints why it skips them.
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// The command line of `xattr`.
+// Parsing of xattr's command line.
 // SPDX-License-Identifier: MIT
 #include "tools/xattr/Arguments.h"
 

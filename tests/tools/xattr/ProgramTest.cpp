@@ -1,4 +1,4 @@
-// The program `xattr` as a process of an ordinary user.
+// The xattr program as a process of an ordinary user.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,17 +20,17 @@ class Program : public testing::Test {
         if (setAttribute(folder_.path(), "user.probe") != 0) {
             GTEST_SKIP() << folder_.path() << " holds no user attributes";
         }
-        // Where another user can start it.
+        // Where other users can execute it.
         fs::copy_file(BRISEL_XATTR, program_);
         fs::permissions(folder_.path(), fs::perms(0755));
     }
 
-    /// What it prints, and the status that it ends with.
+    /// Output and exit status of the program.
     [[nodiscard]] std::string run(const std::string& arguments) const {
         return shell("cd " + folder_.path() + " && " + program_ + " " + arguments + "; echo $?");
     }
 
-    /// The same as somebody without privileges, who owns the folder from now on.
+    /// run() as an unprivileged user, who becomes the owner of the folder.
     [[nodiscard]] std::string runAsUser(const std::string& arguments) const {
         const bool isRoot = geteuid() == 0;
         if (isRoot) shell("chown -R 65534:65534 " + folder_.path());
@@ -100,7 +100,7 @@ TEST_F(Program, EntersNoOtherFileSystem) {
     makeTaggedFolder(at("tree"));
     makeTaggedFolder(at("tree/mounted"));
     const auto inside = at("tree/mounted/file");
-    // The mount goes with the namespace.
+    // The mount ends with the namespace.
     const auto said = shell("unshare --mount sh -c 'mount -t tmpfs none " + at("tree/mounted") +
                             " && touch " + inside + " && setfattr -n user.tag -v x " + inside +
                             " " + at("tree/mounted") + " && " + program_ + " -cr " + at("tree") +

@@ -1,4 +1,4 @@
-// The program `xattr` on an NTFS volume's alternate data streams.
+// The xattr program on an NTFS volume's alternate data streams.
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A volume as an ordinary user has it: his own, mounted by somebody else.
+/// A volume that belongs to an ordinary user but is mounted by root.
 class AVolume : public testing::Test {
   protected:
     void SetUp() override {
@@ -35,20 +35,20 @@ class AVolume : public testing::Test {
                                 "/volume.img " + mountPoint_);
         ASSERT_TRUE(succeeds("mountpoint -q " + mountPoint_)) << said;
     }
-    /// Everything is in the image only when the driver has ended.
+    /// Waits for the driver's exit, which completes the image.
     void unmount() const {
         shell("umount " + mountPoint_ + "; while pgrep -f '^ntfs-3g.*" + mountPoint_ +
               "' >/dev/null; do sleep 0.05; done");
     }
 
-    /// Runs a command in the volume's folder as the user; what it prints, and its status.
+    /// Runs a shell command in the volume as the user; returns its output and exit status.
     [[nodiscard]] std::string asUser(const std::string& command) const {
         return shell("cd " + mountPoint_ +
                      " && setpriv --reuid 65534 --regid 65534 --clear-groups sh -c '" + command +
                      "'; echo $?");
     }
 
-    /// The content of a file's stream as it stands in the image of the unmounted volume.
+    /// Content of a file's stream, read from the image of the unmounted volume.
     [[nodiscard]] std::string stream(const std::string& file, const std::string& name) const {
         return shell("ntfscat -f -n '" + name + "' " + folder_.path() + "/volume.img '" + file +
                      "' 2>/dev/null");

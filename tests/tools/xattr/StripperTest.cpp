@@ -1,4 +1,4 @@
-// Stripping files and trees of their attributes, on the file systems at hand.
+// Removing the attributes of files and trees, on several file systems.
 // SPDX-License-Identifier: MIT
 #include "tools/xattr/Stripper.h"
 
@@ -25,7 +25,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace tests;
 
-/// A folder on the file system that holds temporary files, or on one in memory.
+/// A folder on the file system of temporary files, or on tmpfs.
 class Stripping : public testing::TestWithParam<std::string> {
   protected:
     void SetUp() override {
@@ -80,7 +80,7 @@ TEST_P(Stripping, ReachesEverythingBelow) {
 
 TEST_P(Stripping, LeavesAttributesOfTheSystemAlone) {
     const auto file = makeTaggedFile(at("file"));
-    // Version 2; the owner, user 1 and the group may read, the mask allows it, others may not.
+    // ACL version 2: owner, user 1, group and mask may read; others may not.
     constexpr std::array<unsigned, 11> List{2,   0x40001, ~0U, 0x40002, 1,  0x40004,
                                             ~0U, 0x40010, ~0U, 0x20,    ~0U};
     const auto* name = "system.posix_acl_access";
@@ -129,7 +129,7 @@ TEST_P(Stripping, ComplainsOfAPathThatIsNotThereAndGoesOn) {
     EXPECT_FALSE(isTagged(file));
 }
 
-/// Sets attributes with long names until no more can be set, or `limit` are; returns how many.
+/// Sets attributes with long names until one fails or `limit` is reached; returns their number.
 int setManyAttributes(const std::string& path, int limit) {
     int count = 0;
     while (count < limit &&
@@ -173,7 +173,7 @@ TEST_P(Stripping, TakesAnAttributeThatVanishesMeanwhileForRemoved) {
     }
 }
 
-/// The current folder, while there are paths too long to be given in one piece.
+/// Changes the current folder while in scope, for trees deeper than PATH_MAX.
 class Visiting {
   public:
     explicit Visiting(const std::string& folder) : before_(fs::current_path()) {

@@ -1,4 +1,4 @@
-// The walk through a tree that changes under it.
+// Walking a tree that changes meanwhile.
 // SPDX-License-Identifier: MIT
 #include "tools/xattr/TreeWalk.h"
 
@@ -30,7 +30,7 @@ class AWalk : public testing::Test {
         std::ofstream(elsewhere_ + "/file") << "not to be touched";
     }
 
-    /// Walks, and calls `meddle` when it is at the path `where` below the tree.
+    /// Walks the tree; calls `meddle` on the visit of `where`, a path below the tree.
     void walk(const std::string& where, const std::function<void()>& meddle) {
         const auto visit = [&](const Descriptor& /*file*/, const std::string& path) {
             visited_.push_back(path.substr(tree_.size()));
@@ -73,7 +73,7 @@ TEST_F(AWalk, LeavesOutAFolderThatIsGone) {
 TEST_F(AWalk, LeavesOutAFileThatIsGone) {
     const auto file = [this](const char* name) { return tree_ + "/above/folder/below/" + name; };
     std::ofstream(file("other")) << "content";
-    // Whichever is visited first, the other is gone by then.
+    // The order of visits is not defined; one of the two walks removes a file before its visit.
     walk("/above/folder/below/file", [&] { fs::remove(file("other")); });
     fs::remove(file("other"));
     std::ofstream(file("other")) << "content";

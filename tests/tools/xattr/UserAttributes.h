@@ -1,4 +1,4 @@
-// Setting and asking for extended attributes in tests.
+// Sets and queries extended attributes.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -20,14 +20,14 @@ inline bool hasAttribute(const std::string& path, const std::string& name) {
     return lgetxattr(path.c_str(), name.c_str(), nullptr, 0) >= 0;
 }
 
-/// Makes a file that holds its own path and has the attribute user.tag.
+/// Creates a file with its path as content and the attribute user.tag.
 inline std::string makeTaggedFile(const std::string& path) {
     std::ofstream(path) << path;
     setAttribute(path, "user.tag");
     return path;
 }
 
-/// The same for a folder.
+/// Creates a folder with the attribute user.tag.
 inline std::string makeTaggedFolder(const std::string& path) {
     std::filesystem::create_directory(path);
     setAttribute(path, "user.tag");

@@ -1,7 +1,7 @@
-// Short words that Foundation brings along as macros: no function may have such a name.
+// Declares the assertion macros of Foundation, which reserve names such as check and verify.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #define BRISEL_LOOKED_AT(value) \

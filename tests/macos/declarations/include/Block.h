@@ -1,7 +1,7 @@
-// Keeping blocks.
+// Declares Block_copy and Block_release.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #ifdef __cplusplus
@@ -15,6 +15,6 @@ void _Block_release(const void* block);
 }
 #endif
 
-// The type of the result is the block's own.
+// The result has the block's type.
 #define Block_copy(...) ((__typeof(__VA_ARGS__))_Block_copy((const void*)(__VA_ARGS__)))
 #define Block_release(...) _Block_release((const void*)(__VA_ARGS__))

@@ -1,7 +1,7 @@
-// Looking up symbols in what is loaded.
+// Declares dlopen, dlsym and their constants.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <stdbool.h>

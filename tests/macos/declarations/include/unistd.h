@@ -1,7 +1,7 @@
-// The part of POSIX that every program needs.
+// Declares the part of POSIX that the program needs.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <stddef.h>
@@ -11,7 +11,7 @@
 #define NULL __null
 #endif
 
-// What the thread headers of the C++ library ask for.
+// The thread headers of the C++ library require it.
 #define _POSIX_TIMEOUTS 200112L
 
 #define STDIN_FILENO 0
@@ -52,7 +52,7 @@ unsigned int sleep(unsigned int seconds);
 int unlink(const char* path);
 int usleep(useconds_t microseconds);
 ssize_t write(int descriptor, const void* buffer, size_t count);
-// The C++ library at hand calls it; on the Mac it has been deprecated since 10.12.
+// The C++ library calls it; deprecated since macOS 10.12.
 long syscall(long number, ...)
     __attribute__((availability(macos, introduced = 10.0, deprecated = 10.12)));
 

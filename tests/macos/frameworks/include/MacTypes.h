@@ -1,8 +1,7 @@
-// The old number types of the Mac, on 64 bits.
+// Declares the integer types of classic Mac OS, for 64 bits.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 typedef unsigned char UInt8;

@@ -1,7 +1,7 @@
-// Alerts.
+// Declares NSAlert.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <AppKit/NSApplication.h>
@@ -30,7 +30,7 @@ static const NSModalResponse NSAlertThirdButtonReturn = 1002;
 @property NSAlertStyle alertStyle;
 @property BOOL showsSuppressionButton;
 @property(nullable, strong) NSView* accessoryView;
-// Turns the run loop in NSModalPanelRunLoopMode.
+// Runs the run loop in NSModalPanelRunLoopMode.
 - (NSModalResponse)runModal;
 @property(readonly, strong) NSWindow* window;
 @end

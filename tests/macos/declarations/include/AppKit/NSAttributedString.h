@@ -1,7 +1,7 @@
-// Attributes of text on the screen.
+// Declares the AppKit attributes of NSAttributedString.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <AppKit/NSText.h>

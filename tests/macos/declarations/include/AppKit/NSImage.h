@@ -1,7 +1,7 @@
-// Images.
+// Declares NSImage.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -11,7 +11,7 @@ NS_ASSUME_NONNULL_BEGIN
 typedef NSString* NSImageName;
 
 @interface NSImage : NSObject <NSCopying, NSSecureCoding>
-// The object is shared by all who ask for the name.
+// Returns a shared object.
 + (nullable NSImage*)imageNamed:(NSImageName)name;
 + (nullable instancetype)imageWithSystemSymbolName:(NSString*)name
                           accessibilityDescription:(nullable NSString*)description

@@ -1,7 +1,7 @@
-// Menus.
+// Declares NSMenu.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <AppKit/NSMenuItem.h>
@@ -15,7 +15,7 @@ NS_ASSUME_NONNULL_BEGIN
 - (instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property(copy) NSString* title;
 @property(nullable, assign) NSMenu* supermenu;
-// These raise exceptions for an index outside, for another menu's item and for nil.
+// These raise an exception for an index out of range, an item of another menu, or nil.
 - (void)insertItem:(NSMenuItem*)item atIndex:(NSInteger)index;
 - (void)addItem:(NSMenuItem*)item;
 - (NSMenuItem*)insertItemWithTitle:(NSString*)title

@@ -1,14 +1,14 @@
-// What the nib editor looks for, and what comes from a nib.
+// Declares what Interface Builder looks for, and awakeFromNib.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/Foundation.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
-// IBOutlet and IBAction are words of the compiler itself.
+// clang defines IBOutlet and IBAction.
 
 @interface NSObject (NSNibAwaking)
 - (void)awakeFromNib;

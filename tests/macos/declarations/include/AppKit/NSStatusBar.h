@@ -1,7 +1,7 @@
-// The right end of the menu bar.
+// Declares NSStatusBar.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -15,7 +15,7 @@ static const CGFloat NSSquareStatusItemLength = -2.0;
 
 @interface NSStatusBar : NSObject
 @property(class, readonly, strong) NSStatusBar* systemStatusBar;
-// The item goes when nobody keeps it.
+// The status bar does not retain the item; the caller does.
 - (NSStatusItem*)statusItemWithLength:(CGFloat)length;
 - (void)removeStatusItem:(NSStatusItem*)item;
 @property(readonly) CGFloat thickness;

@@ -1,14 +1,14 @@
-// How text is aligned.
+// Declares NSTextAlignment.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/Foundation.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
-// The numbers of center and right change places on Intel.
+// Center and right have swapped values on Intel.
 typedef NS_ENUM(NSInteger, NSTextAlignment) {
     NSTextAlignmentLeft = 0,
 #if __arm64__

@@ -1,7 +1,7 @@
-// Foundation, as much of it as a small menu-bar program needs.
+// Foundation's umbrella header, with the parts that a small menu-bar program needs.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <AssertMacros.h>

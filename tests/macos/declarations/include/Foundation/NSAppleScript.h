@@ -1,7 +1,7 @@
-// AppleScript.
+// Declares NSAppleScript.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/NSDictionary.h>
@@ -31,7 +31,7 @@ extern NSString* const NSAppleScriptErrorRange;
 @property(nullable, readonly, copy) NSString* source;
 @property(readonly, getter=isCompiled) BOOL compiled;
 - (BOOL)compileAndReturnError:(NSDictionary<NSString*, id>* _Nullable* _Nullable)errorInfo;
-// Nil where it fails, whatever the type says.
+// Nil on error, in spite of the nonnull type.
 - (NSAppleEventDescriptor*)executeAndReturnError:
     (NSDictionary<NSString*, id>* _Nullable* _Nullable)errorInfo;
 @end

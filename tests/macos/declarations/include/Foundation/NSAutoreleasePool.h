@@ -1,7 +1,7 @@
-// Pools of what is to be released later.
+// Declares NSAutoreleasePool.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/NSObject.h>

@@ -1,7 +1,7 @@
-// Bytes.
+// Declares NSData.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/NSObject.h>
@@ -13,7 +13,7 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSData : NSObject <NSCopying, NSMutableCopying, NSSecureCoding>
 @property(readonly) NSUInteger length;
-// May be null where there are none.
+// May be null if empty.
 @property(readonly) const void* bytes NS_RETURNS_INNER_POINTER;
 + (instancetype)data;
 + (instancetype)dataWithBytes:(nullable const void*)bytes length:(NSUInteger)length;

@@ -1,7 +1,7 @@
-// Reading and writing by descriptor.
+// Declares NSFileHandle.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/NSData.h>
@@ -18,7 +18,7 @@ NS_ASSUME_NONNULL_BEGIN
 @property(readonly) int fileDescriptor;
 - (nullable NSData*)readDataToEndOfFileAndReturnError:(out NSError**)error
     API_AVAILABLE(macos(10.15));
-// Raises an exception where reading fails.
+// Raises an exception if reading fails.
 - (NSData*)readDataToEndOfFile API_DEPRECATED_WITH_REPLACEMENT("readDataToEndOfFileAndReturnError:",
                                                                macos(10.0, API_TO_BE_DEPRECATED));
 @end

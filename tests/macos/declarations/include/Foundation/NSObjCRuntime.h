@@ -1,7 +1,7 @@
-// What every header of Foundation needs.
+// Declares the basic types and macros of Foundation.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>

@@ -1,7 +1,7 @@
-// What objects of Foundation can do beyond the root class.
+// Declares NSCopying, NSCoding and what else Foundation adds to NSObject.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/NSObjCRuntime.h>
@@ -29,7 +29,7 @@ NS_ASSUME_NONNULL_BEGIN
 @end
 
 CF_EXTERN_C_BEGIN
-// These hand over a reference, out of and into automatic counting.
+// These transfer ownership between Core Foundation and Objective-C.
 CFTypeRef _Nullable CFBridgingRetain(id _Nullable object) CF_RETURNS_RETAINED;
 id _Nullable CFBridgingRelease(CFTypeRef __attribute__((cf_consumed)) _Nullable object);
 CF_EXTERN_C_END

@@ -1,7 +1,7 @@
-// Paths, and the folders that everybody has.
+// Declares the path methods of NSString and the functions for standard folders.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/NSString.h>
@@ -19,8 +19,8 @@ NS_ASSUME_NONNULL_BEGIN
 - (nullable NSString*)stringByAppendingPathExtension:(NSString*)extension;
 @property(readonly, copy) NSString* stringByStandardizingPath;
 @property(readonly, copy) NSString* stringByExpandingTildeInPath;
-// Valid as long as the string, or the innermost autorelease pool; raises an exception for a text
-// that is no path.
+// Valid while the string or the innermost autorelease pool lives; raises an exception if the string
+// is no valid path.
 @property(readonly) const char* fileSystemRepresentation NS_RETURNS_INNER_POINTER;
 @end
 

@@ -1,7 +1,7 @@
-// Strings.
+// Declares NSString.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/NSObject.h>
@@ -56,7 +56,7 @@ typedef NS_OPTIONS(NSUInteger, NSStringCompareOptions) {
 @property(readonly) BOOL boolValue;
 @property(readonly, copy) NSString* uppercaseString;
 @property(readonly, copy) NSString* lowercaseString;
-// Valid as long as the string, or the innermost autorelease pool.
+// Valid while the string or the innermost autorelease pool lives.
 @property(nullable, readonly) const char* UTF8String NS_RETURNS_INNER_POINTER;
 - (nullable NSData*)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
 - (nullable NSData*)dataUsingEncoding:(NSStringEncoding)encoding;

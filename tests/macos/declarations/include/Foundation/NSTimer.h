@@ -1,14 +1,14 @@
-// Timers.
+// Declares NSTimer.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/NSDate.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
-// Keeps its target alive until it is invalidated.
+// Retains its target until invalidated.
 @interface NSTimer : NSObject
 + (NSTimer*)timerWithTimeInterval:(NSTimeInterval)interval
                            target:(id)target

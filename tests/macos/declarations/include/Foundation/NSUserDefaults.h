@@ -1,7 +1,7 @@
-// Preferences.
+// Declares NSUserDefaults.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #import <Foundation/NSArray.h>
@@ -21,7 +21,7 @@ NS_ASSUME_NONNULL_BEGIN
 - (nullable NSString*)stringForKey:(NSString*)key;
 - (nullable NSArray*)arrayForKey:(NSString*)key;
 - (nullable NSDictionary<NSString*, id>*)dictionaryForKey:(NSString*)key;
-// Nil where any element is no string.
+// Nil if an element is not a string.
 - (nullable NSArray<NSString*>*)stringArrayForKey:(NSString*)key;
 - (NSInteger)integerForKey:(NSString*)key;
 - (double)doubleForKey:(NSString*)key;

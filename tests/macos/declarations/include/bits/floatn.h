@@ -1,7 +1,7 @@
-// The floating-point types of the C library's headers: a Mac has none of 128 bits.
+// Replaces glibc's floating-point feature macros: macOS has no 128-bit type.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #define __HAVE_FLOAT128 0

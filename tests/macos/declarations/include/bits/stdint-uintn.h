@@ -1,7 +1,7 @@
-// The unsigned numbers of stdint.h, which takes them from here.
+// Replaces glibc's unsigned integer types: on macOS, 64 bits are a long long.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 typedef __UINT8_TYPE__ uint8_t;

@@ -1,7 +1,7 @@
-// The root class and its protocol.
+// Declares the root class NSObject and its protocol.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -13,7 +13,7 @@ typedef unsigned long NSUInteger;
 @class NSString, NSMethodSignature, NSInvocation, Protocol;
 typedef struct _NSZone NSZone;
 
-// What may be null here is not written down, as little as it is in the platform's own header.
+// Without nullability, as in Apple's header.
 @protocol NSObject
 - (BOOL)isEqual:(id)object;
 @property(readonly) NSUInteger hash;

@@ -1,7 +1,7 @@
-// The types of the Objective-C language.
+// Declares the basic types of Objective-C.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <stdbool.h>
@@ -9,10 +9,10 @@
 typedef struct objc_class* Class;
 typedef struct objc_object* id;
 typedef struct objc_selector* SEL;
-// Called only through a pointer cast to the method's own type.
+// Cast to the method's type before calling.
 typedef void (*IMP)(void);
 
-// A signed char on Intel, a bool on Apple silicon: the compiler knows.
+// A signed char on Intel, a bool on Apple silicon.
 #if __OBJC_BOOL_IS_BOOL
 typedef bool BOOL;
 #else

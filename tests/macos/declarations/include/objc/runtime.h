@@ -1,7 +1,7 @@
-// Looking at classes and changing them.
+// Declares functions of the Objective-C runtime.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <objc/objc.h>
@@ -36,7 +36,7 @@ Method _Nullable class_getInstanceMethod(Class _Nullable cls, SEL _Nonnull name)
 Method _Nullable class_getClassMethod(Class _Nullable cls, SEL _Nonnull name);
 BOOL class_respondsToSelector(Class _Nullable cls, SEL _Nonnull selector);
 BOOL class_conformsToProtocol(Class _Nullable cls, Protocol* _Nullable protocol);
-// False where the class itself has such a method already.
+// False if the class itself already has this method.
 BOOL class_addMethod(Class _Nullable cls, SEL _Nonnull name, IMP _Nonnull implementation,
                      const char* _Nullable types);
 IMP _Nullable class_replaceMethod(Class _Nullable cls, SEL _Nonnull name,

@@ -1,7 +1,7 @@
-// Sockets, with the Mac's numbers.
+// Declares sockets, with the values of macOS.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <sys/types.h>

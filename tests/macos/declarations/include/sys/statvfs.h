@@ -1,7 +1,7 @@
-// How a file system is mounted.
+// Declares statvfs.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
+// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <sys/types.h>

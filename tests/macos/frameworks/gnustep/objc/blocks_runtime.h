@@ -1,4 +1,4 @@
-// Where GNUstep's headers look for the blocks runtime.
+// Includes the blocks runtime where GNUstep's headers expect it.
 // SPDX-License-Identifier: MIT
 #pragma once
 

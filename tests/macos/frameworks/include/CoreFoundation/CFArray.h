@@ -1,8 +1,7 @@
-// Arrays.
+// Declares CFArray.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CFBase.h>

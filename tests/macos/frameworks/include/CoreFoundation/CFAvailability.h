@@ -1,8 +1,7 @@
-// How Core Foundation declares functions, enumerations and option sets.
+// Declares the macros for functions, enumerations and option sets.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <os/availability.h>
@@ -17,8 +16,8 @@
 #define CF_EXPORT extern
 #endif
 
-// In C++ the enumeration's name is a type already; the type definition that its header begins with
-// goes to a name that nobody uses.
+// In C++ an enumeration's name is a type already, so the typedef that the macro follows gets an
+// unused name.
 #ifdef __cplusplus
 #define BRISEL_CF_NAMED_ENUM(type, name) \
     type brisel_type_of_##name;          \
@@ -34,7 +33,7 @@
     BRISEL_CF_CHOSEN_ENUM(__VA_ARGS__, BRISEL_CF_NAMED_ENUM, BRISEL_CF_ANONYMOUS_ENUM, ) \
     (__VA_ARGS__)
 
-// In C++ the name of an option set is a plain number, so that its options can be combined.
+// In C++ an option set is a plain integer, so that its options can be combined.
 #ifdef __cplusplus
 #define CF_OPTIONS(type, name) \
     type name;                 \

@@ -1,8 +1,7 @@
-// What every Core Foundation header needs, and what every Core Foundation object can do.
+// Declares the basic types, macros and functions of Core Foundation.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <MacTypes.h>
@@ -17,7 +16,7 @@
 #define CF_RETURNS_RETAINED __attribute__((cf_returns_retained))
 #define CF_RETURNS_NOT_RETAINED __attribute__((cf_returns_not_retained))
 
-// Which Objective-C class an object may be cast to and from.
+// The Objective-C class that an object may be cast to and from.
 #define CF_BRIDGED_TYPE(type) __attribute__((objc_bridge(type)))
 #define CF_BRIDGED_MUTABLE_TYPE(type) __attribute__((objc_bridge_mutable(type)))
 
@@ -39,7 +38,7 @@ typedef const struct CF_BRIDGED_TYPE(NSString) __CFString* CFStringRef;
 typedef const struct CF_BRIDGED_TYPE(id) __CFAllocator* CFAllocatorRef;
 typedef CFTypeRef CFPropertyListRef;
 
-// Null: the default allocator.
+// Null, for the default allocator.
 extern const CFAllocatorRef _Null_unspecified kCFAllocatorDefault;
 
 CFTypeID CFGetTypeID(CFTypeRef object);

@@ -1,8 +1,7 @@
-// Dictionaries.
+// Declares CFDictionary.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CFBase.h>
@@ -15,7 +14,7 @@ typedef const struct CF_BRIDGED_TYPE(NSDictionary) __CFDictionary* CFDictionaryR
 CFTypeID CFDictionaryGetTypeID(void);
 CFIndex CFDictionaryGetCount(CFDictionaryRef dictionary);
 Boolean CFDictionaryContainsKey(CFDictionaryRef dictionary, const void* key);
-// Null for a key that is not there; else the dictionary's own reference.
+// Null if `key` is absent; the dictionary owns the result.
 const void* _Nullable CFDictionaryGetValue(CFDictionaryRef dictionary, const void* key);
 
 CF_ASSUME_NONNULL_END

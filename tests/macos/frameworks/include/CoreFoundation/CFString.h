@@ -1,13 +1,12 @@
-// Strings.
+// Declares CFString.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CFBase.h>
 
-// A constant string of the program itself.
+// A constant string.
 #ifdef __OBJC__
 #define CFSTR(text) ((CFStringRef) @text)
 #else
@@ -29,9 +28,9 @@ typedef CF_ENUM(CFStringEncoding, CFStringBuiltInEncodings) {
 
 CFTypeID CFStringGetTypeID(void);
 CFIndex CFStringGetLength(CFStringRef string);
-// In bytes, without the terminating zero.
+// In bytes, without the terminating null.
 CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding encoding);
-// False where the string and its terminating zero do not fit in the buffer.
+// False if the string and its terminating null do not fit.
 Boolean CFStringGetCString(CFStringRef string, char* buffer, CFIndex bufferSize,
                            CFStringEncoding encoding);
 const char* _Nullable CFStringGetCStringPtr(CFStringRef string, CFStringEncoding encoding);

@@ -1,8 +1,7 @@
-// Addresses.
+// Declares CFURL.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CFBase.h>
@@ -26,7 +25,7 @@ CFURLRef _Nullable CFURLCreateWithFileSystemPath(CFAllocatorRef _Nullable alloca
                                                  Boolean isDirectory) CF_RETURNS_RETAINED;
 CFStringRef _Nullable CFURLCopyFileSystemPath(CFURLRef url,
                                               CFURLPathStyle style) CF_RETURNS_RETAINED;
-// False where the path and its terminating zero do not fit in the buffer.
+// False if the path and its terminating null do not fit.
 Boolean CFURLGetFileSystemRepresentation(CFURLRef url, Boolean resolveAgainstBase, UInt8* buffer,
                                          CFIndex bufferSize);
 

@@ -1,8 +1,7 @@
-// Universally unique identifiers; no Objective-C class is the same.
+// Declares CFUUID, which has no Objective-C counterpart.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CFBase.h>
@@ -15,7 +14,7 @@ typedef const struct CF_BRIDGED_TYPE(id) __CFUUID* CFUUIDRef;
 CFTypeID CFUUIDGetTypeID(void);
 CFUUIDRef _Nullable CFUUIDCreateFromString(CFAllocatorRef _Nullable allocator,
                                            CFStringRef text) CF_RETURNS_RETAINED;
-// Crashes on a null identifier.
+// Crashes if `uuid` is null.
 CFStringRef _Null_unspecified CFUUIDCreateString(CFAllocatorRef _Nullable allocator,
                                                  CFUUIDRef uuid) CF_RETURNS_RETAINED;
 

@@ -1,8 +1,7 @@
-// Disks and the keys of their descriptions.
+// Declares DADisk and the keys of a disk description.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <DiskArbitration/DASession.h>
@@ -41,7 +40,7 @@ DADiskRef _Nullable DADiskCreateFromBSDName(CFAllocatorRef _Nullable allocator,
 DADiskRef _Nullable DADiskCreateFromVolumePath(CFAllocatorRef _Nullable allocator,
                                                DASessionRef session,
                                                CFURLRef path) CF_RETURNS_RETAINED;
-// The disk's own text, without /dev/.
+// Without /dev/; the disk owns the result.
 const char* _Nullable DADiskGetBSDName(DADiskRef disk);
 CFDictionaryRef _Nullable DADiskCopyDescription(DADiskRef disk) CF_RETURNS_RETAINED;
 DADiskRef _Nullable DADiskCopyWholeDisk(DADiskRef disk) CF_RETURNS_RETAINED;

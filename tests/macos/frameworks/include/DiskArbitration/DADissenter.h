@@ -1,8 +1,7 @@
-// Refusals of requests, and their statuses.
+// Declares DADissenter and its statuses.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -12,7 +11,7 @@ CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
 typedef const struct CF_BRIDGED_TYPE(id) __DADissenter* DADissenterRef;
-// Signed: 0xF8DA0001 and its like are negative.
+// Signed: 0xF8DA0001 is negative.
 typedef mach_error_t DAReturn;
 
 #define err_local_diskarbitration err_sub(0x368)

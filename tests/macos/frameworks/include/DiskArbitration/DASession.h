@@ -1,8 +1,7 @@
-// A session with the service that watches disks.
+// Declares DASession.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -16,7 +15,7 @@ CFTypeID DASessionGetTypeID(void);
 DASessionRef _Nullable DASessionCreate(CFAllocatorRef _Nullable allocator) CF_RETURNS_RETAINED;
 void DASessionScheduleWithRunLoop(DASessionRef session, CFRunLoopRef runLoop,
                                   CFStringRef runLoopMode);
-// A session must not be released while it is scheduled.
+// Unschedule a session before its release.
 void DASessionUnscheduleFromRunLoop(DASessionRef session, CFRunLoopRef runLoop,
                                     CFStringRef runLoopMode);
 

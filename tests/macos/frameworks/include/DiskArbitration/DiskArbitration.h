@@ -1,8 +1,7 @@
-// Disk Arbitration: reports of disks, and requests to mount and unmount them.
+// Disk Arbitration's umbrella header: callbacks for disks, and mount and unmount requests.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <DiskArbitration/DADisk.h>
@@ -12,7 +11,7 @@
 CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
-// Null until the first session is created; null as a match means every disk.
+// Null until the first session is created. Passing null matches every disk.
 extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchMediaUnformatted;
 extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchMediaWhole;
 extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchVolumeMountable;
@@ -54,7 +53,7 @@ void DARegisterDiskDisappearedCallback(DASessionRef session, CFDictionaryRef _Nu
                                        DADiskDisappearedCallback callback, void* _Nullable context);
 void DAUnregisterCallback(DASessionRef session, void* callback, void* _Nullable context);
 
-// A completion may come before the call returns. `arguments` ends with a null.
+// A callback may run before the call returns. `arguments` ends with a null.
 void DADiskMount(DADiskRef disk, CFURLRef _Nullable path, DADiskMountOptions options,
                  DADiskMountCallback _Nullable callback, void* _Nullable context);
 void DADiskMountWithArguments(DADiskRef disk, CFURLRef _Nullable path, DADiskMountOptions options,

@@ -1,8 +1,7 @@
-// Authorization Services.
+// Declares Authorization Services.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CFBase.h>
@@ -45,7 +44,7 @@ enum { kAuthorizationFlagCanNotPreAuthorize = 1 << 0 };
 typedef const struct AuthorizationOpaqueRef* AuthorizationRef;
 typedef const char* AuthorizationString;
 
-// `value` points to `valueLength` bytes, or is null with a length of 0.
+// `value` points to `valueLength` bytes, or is null with length 0.
 typedef struct {
     AuthorizationString name;
     size_t valueLength;
@@ -71,7 +70,7 @@ OSStatus AuthorizationCopyRights(AuthorizationRef authorization, const Authoriza
                                  AuthorizationFlags flags,
                                  AuthorizationRights* _Nullable* _Nullable authorizedRights);
 OSStatus AuthorizationFreeItemSet(AuthorizationItemSet* set);
-// `arguments` ends with a null and leaves the tool's path out.
+// `arguments` ends with a null and excludes the tool's path.
 OSStatus AuthorizationExecuteWithPrivileges(AuthorizationRef authorization, const char* pathToTool,
                                             AuthorizationFlags options,
                                             char* _Nonnull const* _Nonnull arguments,

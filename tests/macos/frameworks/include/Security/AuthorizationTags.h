@@ -1,8 +1,7 @@
-// The names of rights and of what goes with a request for them.
+// Declares the names of rights and of environment items.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #define kAuthorizationEnvironmentUsername "username"

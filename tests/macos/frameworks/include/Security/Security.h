@@ -1,8 +1,7 @@
-// Security, as much of it as a small menu-bar program needs.
+// Security's umbrella header, with the parts that a small menu-bar program needs.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <Security/Authorization.h>

@@ -1,8 +1,7 @@
-// Login items: helper applications inside an application.
+// Declares SMLoginItemSetEnabled.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -10,7 +9,7 @@
 CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
-// Whether the helper was found in the calling application and its state changed.
+// True if the calling application contains the helper and its state changed.
 Boolean SMLoginItemSetEnabled(CFStringRef identifier, Boolean enabled)
     API_DEPRECATED("use SMAppService", macos(10.6, 13.0));
 

@@ -1,8 +1,7 @@
-// What a notification says.
+// Declares UNNotificationContent.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #import <UserNotifications/UNNotificationSound.h>
@@ -18,7 +17,7 @@ API_AVAILABLE(macos(10.14))
 @property(readonly, copy) NSDictionary* userInfo;
 @end
 
-// What is in `userInfo` must be of the kinds that preferences can hold.
+// `userInfo` may hold property-list types only.
 API_AVAILABLE(macos(10.14))
 @interface UNMutableNotificationContent : UNNotificationContent
 @property(copy) NSString* title;

@@ -1,15 +1,14 @@
-// What the user did with a notification.
+// Declares UNNotificationResponse.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #import <UserNotifications/UNNotification.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
-// The user pressed the notification itself, or closed it.
+// The user clicked the notification, or dismissed it.
 extern NSString* const UNNotificationDefaultActionIdentifier API_AVAILABLE(macos(10.14));
 extern NSString* const UNNotificationDismissActionIdentifier API_AVAILABLE(macos(10.14));
 

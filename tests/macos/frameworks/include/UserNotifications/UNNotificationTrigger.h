@@ -1,8 +1,7 @@
-// When a notification is shown.
+// Declares the triggers of a notification.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -15,7 +14,7 @@ API_AVAILABLE(macos(10.14))
 @property(readonly) BOOL repeats;
 @end
 
-// An interval is greater than 0, and at least 60 seconds where it repeats.
+// An interval is greater than 0 seconds, and at least 60 if it repeats.
 API_AVAILABLE(macos(10.14))
 @interface UNTimeIntervalNotificationTrigger : UNNotificationTrigger
 @property(readonly) NSTimeInterval timeInterval;

@@ -1,8 +1,7 @@
-// The center that shows notifications, and its delegate.
+// Declares UNUserNotificationCenter and its delegate.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #import <UserNotifications/UNError.h>
@@ -38,11 +37,11 @@ typedef NS_OPTIONS(NSUInteger, UNNotificationPresentationOptions) {
 static const UNNotificationPresentationOptions UNNotificationPresentationOptionNone
     API_AVAILABLE(macos(10.14)) = 0;
 
-// Handlers may be called on threads of the system's own.
+// Handlers may run on any thread.
 API_AVAILABLE(macos(10.14))
 @interface UNUserNotificationCenter : NSObject
 @property(weak, nullable) id<UNUserNotificationCenterDelegate> delegate;
-// Raises an exception in a process that is no application in a bundle.
+// Raises an exception outside an application bundle.
 + (UNUserNotificationCenter*)currentNotificationCenter;
 - (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options
                       completionHandler:

@@ -1,8 +1,7 @@
-// User Notifications, as much of them as a small menu-bar program needs.
+// The umbrella header of User Notifications, with the parts that a small menu-bar program needs.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #import <UserNotifications/UNError.h>

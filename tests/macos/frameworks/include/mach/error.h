@@ -1,8 +1,7 @@
-// The kernel's error numbers: a system, a subsystem and a code in one signed number.
+// Declares Mach error numbers: system, subsystem and code in one signed integer.
 // SPDX-License-Identifier: MIT
 //
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
+// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 typedef int kern_return_t;
