@@ -1,4 +1,4 @@
-// The program's own operator new, which counts.
+// A global operator new that counts its calls.
 // SPDX-License-Identifier: MIT
 #include "benchmarks/Allocations.h"
 
@@ -12,7 +12,7 @@ std::atomic<std::size_t> count = 0;
 
 }  // namespace
 
-// The array and nothrow forms come here too, by default; aligned ones are not used.
+// The default array and nothrow forms call these; aligned forms are not used.
 void* operator new(std::size_t size) {
     count.fetch_add(1, std::memory_order_relaxed);
     if (void* const memory = std::malloc(size == 0 ? 1 : size)) return memory;

@@ -1,4 +1,4 @@
-// Counting what the benchmark program allocates.
+// Counts the benchmark program's allocations.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,7 +6,7 @@
 
 namespace brisel::benchmarks {
 
-/// How often memory was allocated with `new` so far, on any thread.
+/// Number of calls of `new` so far, on all threads.
 std::size_t allocations();
 
 }  // namespace brisel::benchmarks

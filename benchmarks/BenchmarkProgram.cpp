@@ -1,4 +1,4 @@
-// Starting and driving the program for a benchmark.
+// Starts and drives the program for a benchmark.
 // SPDX-License-Identifier: MIT
 #include "benchmarks/BenchmarkProgram.h"
 
@@ -21,7 +21,7 @@ std::string device(int number) {
     return "disk" + std::to_string(number) + "s1";
 }
 
-// 36 characters, of which the last six tell the number.
+// 36 characters; the last six are the number.
 std::string uuid(int number) {
     constexpr std::size_t Digits = 6;
     const auto digits = std::to_string(number);
@@ -73,7 +73,7 @@ void BenchmarkProgram::attach(int number, Volumes kind) {
     turn();
 }
 
-// Every appearance rebuilds the menu, which is slow with many; while the program is busy it is not.
+// Sets the busy flag meanwhile: a busy menu lists no volumes, so each rebuild is cheap.
 void BenchmarkProgram::fill(int count, Volumes kind) {
     manager_.setInProgress(true);
     for (int number = 0; number < count; ++number)

@@ -1,4 +1,4 @@
-// The program on a simulated Mac that keeps no transcript.
+// The program on a simulated Mac without a transcript.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace brisel::benchmarks {
 
-/// Presses the first button of every alert and knows the password.
+/// Presses the first button of every alert and passes every password prompt.
 class AgreeablePerson final : public platform::simulated::Person {
   public:
     int answerAlert(const platform::AlertContent& /*alert*/) override { return 0; }
@@ -19,7 +19,7 @@ class AgreeablePerson final : public platform::simulated::Person {
     }
 };
 
-/// A status item without the simulated Mac's own cost.
+/// Does nothing, which excludes the simulated status item's cost.
 class SilentStatusItem final : public platform::StatusItem {
   public:
     void create(double /*length*/) override {}
@@ -34,11 +34,11 @@ class SilentStatusItem final : public platform::StatusItem {
     }
 };
 
-/// What an image on the status item leads to.
+/// What setting the status image does.
 enum class Icon {
-    /// As on every simulated Mac, the titles of a rebuilt menu are written to the transcript.
+    /// Writes the rebuilt menu's titles to the transcript, as every simulated Mac does.
     TellsTheMenu,
-    /// Nothing: what is left is the cost of the program and the menu.
+    /// Nothing; leaves the cost of the program and the menu.
     TellsNothing
 };
 
@@ -46,7 +46,7 @@ enum class Volumes { ReadOnly, Writable };
 
 class BenchmarkProgram {
   public:
-    /// Starts the program, with an automount list at its limit that names none of the volumes.
+    /// Starts the program with a full automount list that contains none of the volumes.
     explicit BenchmarkProgram(Icon icon = Icon::TellsTheMenu);
     BenchmarkProgram(const BenchmarkProgram&) = delete;
     BenchmarkProgram& operator=(const BenchmarkProgram&) = delete;
@@ -55,12 +55,13 @@ class BenchmarkProgram {
     [[nodiscard]] platform::simulated::Mac& mac() { return mac_; }
     [[nodiscard]] NTFSVolumeManager& manager() { return manager_; }
 
-    /// A mounted NTFS disk with a UUID appears, and the main loop turns.
+    /// Attaches a mounted NTFS disk with a UUID and runs the main loop until idle.
     void attach(int number, Volumes kind);
-    /// Attaches disks from number 0 on, and turns once.
+    /// Attaches disks 0 to `count` - 1, then rebuilds the menu.
     void fill(int count, Volumes kind);
     void detach(int number);
-    /// Chooses the first menu item with this action, and turns. There must be one.
+    /// Chooses the first menu item with this action, which must exist, and runs the main loop until
+    /// idle.
     void choose(std::string_view action);
 
   private:

@@ -1,4 +1,4 @@
-// Judging how the cost of a menu rebuild grows.
+// Checks how the cost of a menu rebuild grows.
 // SPDX-License-Identifier: MIT
 #include "benchmarks/Growth.h"
 

@@ -1,4 +1,4 @@
-// How costs grow with the number of volumes, read from the results of a run.
+// Growth of costs with the number of volumes, from the results of a run.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,14 +11,14 @@
 
 namespace brisel::benchmarks {
 
-/// Keeps the best of the repetitions of each benchmark.
+/// Keeps each benchmark's best repetition.
 class GrowthReporter final : public benchmark::BenchmarkReporter {
   public:
     bool ReportContext(const Context& /*context*/) override { return true; }
     void ReportRuns(const std::vector<Run>& runs) override;
 
     enum class Verdict { WithinLimits, BeyondLimits };
-    /// Prints the best of each benchmark, then each ratio with its limit.
+    /// Prints each benchmark's best result, then each ratio with its limit.
     Verdict judge(std::ostream& out) const;
 
   private:

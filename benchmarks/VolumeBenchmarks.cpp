@@ -1,4 +1,4 @@
-// How long the program takes over disks that come and go, and over its menu.
+// Benchmarks of disk appearance, disk disappearance and menu rebuilds.
 // SPDX-License-Identifier: MIT
 #include <benchmark/benchmark.h>
 
@@ -18,7 +18,7 @@ constexpr int One = 1;
 constexpr int Most = 1000;
 constexpr int Steps = 10;
 
-/// What a stretch of work takes in time and allocations.
+/// Measures the time and allocations of its scope.
 class Stretch {
   public:
     explicit Stretch(State& state) : state_(state) {}
@@ -41,7 +41,7 @@ void averageAllocations(State& state) {
     state.counters["allocations"].flags = Counter::kAvgIterations;
 }
 
-// The volume that appears is read-only, so that it is prompted for; `range` others are there.
+// A volume appears beside `range` others; it is read-only, so the program prompts for it.
 void appearanceToRebuiltMenu(State& state) {
     const auto others = static_cast<int>(state.range(0));
     BenchmarkProgram program;
@@ -99,7 +99,7 @@ void rebuildReadOnlySilently(State& state) {
     rebuild(state, Volumes::ReadOnly, Icon::TellsNothing);
 }
 
-// Start, attach, remount through the tool, a real child process, unmount, detach.
+// Start, attach, remount with the tool (a real child process), unmount, detach.
 void wholeScenario(State& state) {
     for ([[maybe_unused]] const auto iteration : state) {
         const Stretch stretch(state);

@@ -1,4 +1,4 @@
-// brisel-benchmarks: how long the program takes; with --check-growth, whether that grows too fast.
+// brisel-benchmarks: runs the benchmarks; with --check-growth, fails if costs grow too fast.
 // SPDX-License-Identifier: MIT
 #include <benchmark/benchmark.h>
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-// The best of several repetitions, taken in turn, is what noise on the machine changes least.
+// The best of several interleaved repetitions is least sensitive to other load.
 int checkGrowth(const char* program) {
     std::string name = program;
     std::string repetitions = "--benchmark_repetitions=7";

@@ -1,4 +1,4 @@
-# How every target of the project is compiled: one interface target, no global flags.
+# Compile options of all targets, as one interface target.
 add_library(brisel_options INTERFACE)
 target_include_directories(brisel_options INTERFACE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR})
 
@@ -11,12 +11,12 @@ if(BRISEL_SANITIZERS)
     -fsanitize=${BRISEL_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(brisel_options INTERFACE -fsanitize=${BRISEL_SANITIZERS})
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # gcc's flow analysis reports null pointers that only the sanitizers' own branches bring in.
+    # gcc reports null dereferences on branches that the sanitizers add.
     target_compile_options(brisel_options INTERFACE -Wno-null-dereference)
   endif()
 endif()
 
-# Coverage for the fuzz targets to go by; only they link the fuzzer itself.
+# Coverage feedback for the fuzz targets; only they link libFuzzer.
 if(BRISEL_FUZZERS AND CMAKE_CXX_COMPILER_ID MATCHES "Clang")
   target_compile_options(brisel_options INTERFACE -fsanitize=fuzzer-no-link)
   target_link_options(brisel_options INTERFACE -fsanitize=fuzzer-no-link)

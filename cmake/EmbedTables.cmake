@@ -1,4 +1,4 @@
-# Writes OUTPUT, a C++ source that holds each of the TABLES as it stands.
+# Generates OUTPUT, a C++ source that contains the text of each of the TABLES.
 set(source "// The localised texts; made by the build from resources/.\n")
 string(APPEND source "#include \"platform/common/Bundle.h\"\n\n")
 string(APPEND source "namespace brisel::platform::common {\n\n")

@@ -1,4 +1,4 @@
-// Finds the application that a login item lies in.
+// Finds the application that contains a login item.
 // SPDX-License-Identifier: MIT
 #include "helper/EnclosingApplication.h"
 
@@ -6,7 +6,7 @@ namespace brisel::helper {
 
 namespace {
 
-// A path that ends in a slash has an empty last component, which is no level.
+// A trailing slash adds an empty last component, which is not a level.
 std::filesystem::path withoutSlash(const std::filesystem::path& path) {
     return path.has_filename() ? path : path.parent_path();
 }

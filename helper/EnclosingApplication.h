@@ -1,4 +1,4 @@
-// The application that a login item lies in.
+// Finds the application that contains a login item.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,8 +7,9 @@
 
 namespace brisel::helper {
 
-/// The bundle four levels above the login item's own, as in
-/// `Brisel.app/Contents/Library/LoginItems/BriselHelper.app`; none when that is no application.
+/// The bundle four levels above the login item, as in
+/// `Brisel.app/Contents/Library/LoginItems/BriselHelper.app`; absent if its extension is not
+/// `.app`.
 [[nodiscard]] std::optional<std::filesystem::path> enclosingApplication(
     const std::filesystem::path& loginItem);
 

@@ -1,4 +1,4 @@
-// The login item: starts the application that it lies in, and ends.
+// The login item: starts the application that contains it, then exits.
 // SPDX-License-Identifier: MIT
 #import <AppKit/AppKit.h>
 
@@ -28,7 +28,7 @@ void startApplication() {
 
 }  // namespace
 
-// It never ends as a failure: the system may start a login item that failed again and again.
+// Always exits with 0: the system may restart a failed login item again and again.
 int main() {
     @autoreleasepool {
         startApplication();

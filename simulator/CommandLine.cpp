@@ -1,4 +1,4 @@
-// A program that runs scenarios.
+// The command line of programs that run scenarios.
 // SPDX-License-Identifier: MIT
 #include "simulator/CommandLine.h"
 
@@ -33,7 +33,7 @@ int runScript(const CommandLine& commandLine, std::istream& stream) {
         std::cout.flush();
         std::cerr << "line " << bad.line << ": " << bad.complaint << '\n';
     };
-    // Whoever writes commands into a pipe may want to read what came of each before the next.
+    // Lets a program on a pipe read each command's output before it sends the next command.
     manner.afterCommand = [] { std::cout.flush(); };
     return Scenario(source, printLine, manner).run() ? 0 : BadUse;
 }
@@ -47,7 +47,7 @@ int runInTerminal(const CommandLine& commandLine) {
     auto manner = basicManner(commandLine);
     manner.onBadCommand = Scenario::OnBadCommand::GoOn;
     manner.echo = Scenario::Echo::Nothing;
-    // What the program did must be seen before the next prompt, which another library writes.
+    // Flushes each line: libedit writes the next prompt past std::cout.
     const auto show = [](const std::string& line) { std::cout << line << std::endl; };
     manner.badCommandHandler = [show](const Scenario::BadCommand& bad) { show(bad.complaint); };
     Scenario(source, show, manner).run();
@@ -70,7 +70,7 @@ std::string usage(const CommandLine& commandLine) {
 }  // namespace
 
 int run(const CommandLine& commandLine, int argumentCount, char** arguments) {
-    // Whoever started this may ignore ended children; the program must hear of its own.
+    // The parent may have set SIGCHLD to SIG_IGN, with which waitpid reports no exit status.
     std::signal(SIGCHLD, SIG_DFL);
     std::ios::sync_with_stdio(false);
     if (argumentCount == 1) {

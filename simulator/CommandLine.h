@@ -1,4 +1,4 @@
-// A program that runs scenarios, as its command line tells it.
+// The command line of programs that run scenarios.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,17 +9,17 @@
 namespace brisel::simulator {
 
 struct CommandLine {
-    /// The program's name, for its messages.
+    /// For messages.
     std::string name;
     /// One sentence for `--help`.
     std::string purpose;
-    /// Builds the program under test; straight on the simulated Mac where nothing is given.
+    /// Builds the program under test. If empty, the core runs directly on the simulated Mac.
     Scenario::ProgramMaker makeProgram;
 };
 
-/// Runs the scenario in the file that the arguments name, or from standard input, which may be a
-/// terminal. Returns the exit status: 0 at the end, 2 for bad use and where a bad command stopped
-/// it.
+/// Runs the scenario in the given file or, without one, from standard input, which may be a
+/// terminal. Returns the exit status: 0 on success, 2 on a usage error or if a bad command stopped
+/// the scenario.
 int run(const CommandLine& commandLine, int argumentCount, char** arguments);
 
 }  // namespace brisel::simulator

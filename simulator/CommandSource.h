@@ -1,4 +1,4 @@
-// Where commands come from.
+// Sources of scenario commands.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,7 +12,7 @@ class CommandSource {
   public:
     virtual ~CommandSource() = default;
 
-    /// The next line without its end; none when there are no more. `prompt` is for people.
+    /// The next line without its line end; absent at the end. A terminal shows `prompt`.
     virtual std::optional<std::string> nextLine(const std::string& prompt) = 0;
 };
 
@@ -26,7 +26,7 @@ class StreamSource final : public CommandSource {
     std::istream& stream_;
 };
 
-/// Lines typed at a terminal, with line editing where the build has it.
+/// Lines typed at a terminal, with line editing if built with libedit.
 class TerminalSource final : public CommandSource {
   public:
     std::optional<std::string> nextLine(const std::string& prompt) override;

@@ -1,4 +1,4 @@
-// Finding a command of the scenario language.
+// Lookup of scenario commands.
 // SPDX-License-Identifier: MIT
 #include "simulator/Commands.h"
 

@@ -13,26 +13,26 @@
 
 namespace brisel::simulator {
 
-/// What commands act upon.
+/// The state that commands act on.
 struct Stage {
     platform::simulated::Mac& mac;
     Program& program;
-    /// The alert that is up, or null.
+    /// The alert on screen, or null.
     const platform::AlertContent* alert = nullptr;
     bool passwordPromptIsUp = false;
-    /// The button or status that `press` or `password` has given.
+    /// The button index from `press` or the status from `password`.
     std::optional<int> answer = std::nullopt;
 
     [[nodiscard]] bool blocked() const { return alert != nullptr || passwordPromptIsUp; }
 };
 
-/// What is wrong with a command; none when it was carried out.
+/// A command's error message; absent on success.
 using Complaint = std::optional<std::string>;
 
-/// When a command may be given.
+/// When a command is allowed.
 enum class When {
     BeforeStart,
-    /// Once the program runs, while neither alert nor prompt is up.
+    /// After the start, while no alert or prompt is up.
     Running,
     AnyTime
 };
@@ -40,25 +40,25 @@ enum class When {
 struct Command {
     std::string_view name;
     When when;
-    /// Its words, for `help` and for complaints.
+    /// Its syntax, for `help` and error messages.
     std::string_view usage;
     std::string_view purpose;
     Complaint (*carryOut)(Stage& stage, const Words& arguments);
 };
 
-/// Starting and using the program.
+/// Commands that configure, start and use the program.
 std::span<const Command> programCommands();
-/// Disks.
+/// Commands that attach, change and detach disks.
 std::span<const Command> diskCommands();
-/// The rest of what surrounds the program.
+/// Commands that control the other simulated services.
 std::span<const Command> surroundingsCommands();
-/// Looking at the program's state.
+/// Commands that print the program's state.
 std::span<const Command> lookingCommands();
 
-/// The command of this name in any of the tables, or null.
+/// The command with this name, or null.
 const Command* findCommand(std::string_view name);
 
-/// The complaint about a command whose words do not fit its usage.
+/// The usage message of an existing command.
 Complaint misused(std::string_view name);
 
 }  // namespace brisel::simulator

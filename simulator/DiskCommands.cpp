@@ -16,7 +16,7 @@ std::optional<std::string> orAbsent(const std::string& value) {
     return value.empty() ? std::nullopt : std::optional(value);
 }
 
-// UUIDs come out of the system in upper case, whatever case they were given in.
+// The system reports UUIDs in upper case.
 std::optional<std::string> uuidOrAbsent(std::string value) {
     std::transform(value.begin(), value.end(), value.begin(), [](unsigned char character) {
         return static_cast<char>(std::toupper(character));
@@ -32,7 +32,7 @@ Fits setFlag(std::optional<bool>& flag, const std::string& value) {
     return Fits::Yes;
 }
 
-// A key with no value is removed.
+// An empty value removes the key.
 Fits setProperty(Disks::Properties& properties, const std::string& key, const std::string& value) {
     auto& description = properties.description;
     if (key == "mountable") return setFlag(description.volumeMountable, value);

@@ -1,4 +1,4 @@
-// Commands that look at the program's state.
+// Commands that print the program's state.
 // SPDX-License-Identifier: MIT
 #include <array>
 

@@ -1,4 +1,4 @@
-// The program that a scenario drives, as the scenario's commands use it.
+// The interface through which scenario commands drive the program.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,8 +11,7 @@
 
 namespace brisel::simulator {
 
-/// However the program is built on a simulated Mac, it is started, used and looked at through
-/// this.
+/// One implementation for each way of building the program on a simulated Mac.
 class Program {
   public:
     Program() = default;
@@ -20,29 +19,28 @@ class Program {
     Program& operator=(const Program&) = delete;
     virtual ~Program() = default;
 
-    /// Loads the interface and runs start-up. A program with a main loop of its own returns only
-    /// after its end.
+    /// Loads the interface and runs start-up. A program with its own main loop returns only after
+    /// its end.
     virtual void start() = 0;
     [[nodiscard]] virtual bool started() const = 0;
-    /// Null before the program was started.
+    /// Null before the start.
     [[nodiscard]] virtual const NTFSVolumeManager* manager() const = 0;
 
-    /// The status menu's items as they are now, from the top.
+    /// From the top.
     [[nodiscard]] virtual std::vector<platform::MenuItem> menuItems() const = 0;
-    /// Does what choosing the item at this place does; it must have an action.
+    /// Chooses the item at `index`, which must have an action.
     virtual void choose(std::size_t index) = 0;
-    /// The user's response to a notification.
     virtual void respond(const platform::NotificationResponse& response) = 0;
-    /// The system asks the application to terminate.
+    /// Asks the application to terminate, as the system does.
     virtual void terminate() = 0;
 
-    /// Lets the main loop turn after a command. Returns when it is idle, or at once where the main
-    /// loop is the one that asks for commands.
+    /// Runs the main loop until idle, after a command. Does nothing if that loop itself reads the
+    /// commands.
     virtual void turnUntilIdle() = 0;
-    /// Lets turn what turns while an alert or prompt blocks the program.
+    /// Runs the main loop in the modes that an alert or prompt leaves active.
     virtual void turnWhileBlocked() = 0;
 
-    /// Ends the program in the middle of whatever it does.
+    /// Ends the program in any state.
     [[noreturn]] virtual void end() = 0;
 };
 

@@ -1,4 +1,4 @@
-// Commands that start and use the program, and settle what it starts on.
+// Commands that configure, start and use the program.
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <array>

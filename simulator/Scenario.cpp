@@ -1,4 +1,4 @@
-// Running a scenario.
+// Runs a scenario.
 // SPDX-License-Identifier: MIT
 #include "simulator/Scenario.h"
 
@@ -78,7 +78,7 @@ Complaint Scenario::carryOut(const std::string& line) {
     words->erase(words->begin());
     if (manner_.onBadCommand == OnBadCommand::GoOn) {
         if (name == "help") return help();
-        // Whoever plays may leave before the start, too.
+        // A user at a terminal may quit before the start.
         if (name == "quit" && !program_->started()) program_->end();
     }
     const auto* const command = findCommand(name);
@@ -120,7 +120,7 @@ platform::OSStatus Scenario::answerPasswordPrompt(const std::string& /*right*/) 
 int Scenario::readUntilAnswered() {
     stage_.answer.reset();
     while (!stage_.answer) {
-        // The commands have ended before the user answered: so has the simulation.
+        // The commands ended without an answer.
         if (!step()) program_->end();
     }
     return *stage_.answer;

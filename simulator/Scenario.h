@@ -1,4 +1,4 @@
-// Running a scenario: commands in, transcript out.
+// Runs a scenario: reads commands and writes the transcript.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -14,8 +14,8 @@
 
 namespace brisel::simulator {
 
-/// One simulated Mac with the program on it, driven by commands until they end, the program
-/// terminates, or a command is bad and that is to stop it.
+/// The program on a simulated Mac, driven by commands until they end, the program terminates, or a
+/// bad command stops it (OnBadCommand::Stop).
 class Scenario final : private platform::simulated::Person {
   public:
     using Output = std::function<void(const std::string& line)>;
@@ -35,11 +35,10 @@ class Scenario final : private platform::simulated::Person {
     struct Manner {
         OnBadCommand onBadCommand = OnBadCommand::Stop;
         Echo echo = Echo::Commands;
-        /// Hears of each bad command.
         BadCommandHandler badCommandHandler = [](const BadCommand&) {};
         /// Called after each command, also while an alert or prompt blocks the program.
         std::function<void()> afterCommand = [] {};
-        /// Builds the program on the scenario's simulated Mac; unless told, straight on its
+        /// Builds the program on the scenario's simulated Mac; by default, the core directly on its
         /// services.
         ProgramMaker makeProgram = &makeDirectProgram;
     };
@@ -50,10 +49,10 @@ class Scenario final : private platform::simulated::Person {
     Scenario& operator=(const Scenario&) = delete;
     ~Scenario() override = default;
 
-    /// Runs to the end. False when a bad command stopped it.
+    /// Runs to the end. False if a bad command stopped it.
     bool run();
-    /// Reads and carries out one line, for a program whose main loop asks for them; false when
-    /// there are no more.
+    /// Reads and executes one line, for a program whose main loop reads the commands. False at the
+    /// end of the commands.
     bool step();
     /// Whether a bad command has stopped the scenario.
     [[nodiscard]] bool stopped() const { return stopped_; }

@@ -1,4 +1,4 @@
-// Commands that change what surrounds the program, disks apart.
+// Commands that control the simulated services, except disks.
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <array>
@@ -14,8 +14,7 @@ namespace {
 namespace simulated = platform::simulated;
 
 constexpr std::int64_t MostExitStatus = 255;
-// The signals that stop a process, let it go on, or are ignored unless it does something about
-// them.
+// Signals whose default action is to stop, to continue or to ignore.
 constexpr std::array<std::int64_t, 8> HarmlessSignals{SIGCHLD, SIGCONT, SIGSTOP, SIGTSTP,
                                                       SIGTTIN, SIGTTOU, SIGURG,  SIGWINCH};
 

@@ -1,4 +1,4 @@
-// Commands typed at a terminal, where no line editing was built in.
+// Commands typed at a terminal, without line editing.
 // SPDX-License-Identifier: MIT
 #include <iostream>
 

@@ -1,4 +1,4 @@
-// The words of one command line.
+// Splits a command line into words and parses their values.
 // SPDX-License-Identifier: MIT
 #include "simulator/Words.h"
 

@@ -1,4 +1,4 @@
-// The words of one command line.
+// Splits a command line into words and parses their values.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,18 +13,17 @@ namespace brisel::simulator {
 
 using Words = std::vector<std::string>;
 
-/// Splits a line at its blanks, a foreign line end's among them. Double quotes, which may stand
-/// anywhere in a word, keep blanks in it; inside them `\"`, `\\` and `\n` are escapes. None when a
-/// quote does not end.
+/// Splits a line at blanks, tabs and carriage returns. Double quotes, allowed anywhere in a word,
+/// protect blanks; inside them `\"`, `\\` and `\n` are escapes. Absent if a quote is unterminated.
 std::optional<Words> splitIntoWords(std::string_view line);
 
-/// `KEY=VALUE` at its first equals sign; none without one.
+/// Splits `KEY=VALUE` at the first equals sign; absent without one.
 std::optional<std::pair<std::string, std::string>> splitKeyAndValue(const std::string& word);
 
-/// A whole number, decimal with an optional minus, or hexadecimal after 0x.
+/// Parses an integer: decimal with an optional minus, or hexadecimal after 0x.
 std::optional<std::int64_t> parseNumber(std::string_view word);
 
-/// The same for a status of 32 bits, which may be written as a signed or an unsigned number.
+/// Parses a 32-bit status, written as a signed or an unsigned integer.
 std::optional<std::uint32_t> parseStatus(std::string_view word);
 
 }  // namespace brisel::simulator

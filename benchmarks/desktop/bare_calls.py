@@ -1,4 +1,4 @@
-# Unmounts and mounts what it reads, NODE OPTIONS a line, by UDisks2's own calls alone.
+# Reads lines of NODE OPTIONS; unmounts and mounts each device by bare UDisks2 calls.
 # SPDX-License-Identifier: MIT
 import sys
 

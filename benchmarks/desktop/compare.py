@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-# What Brisel costs on a desktop, beside a generic tray automounter and beside the bare calls.
+# Compares Brisel's cost on a desktop with udiskie's and with bare UDisks2 calls.
 # SPDX-License-Identifier: MIT
 """usage: compare.py PROGRAMS [CYCLES [IDLE_SECONDS]]
 
@@ -23,7 +23,7 @@ import moments  # noqa: E402
 import processes  # noqa: E402
 
 SETTLE_SECONDS = 3
-# What a change brings about elsewhere on the desktop is over by then.
+# Time for the rest of the desktop to react to a change.
 REST_SECONDS = 0.4
 ROUNDS = 15
 UDISKIE = ["udiskie", "--appindicator", "--tray", "--notify", "--no-automount"]
@@ -31,7 +31,7 @@ MOUNT_OPTIONS = "rw,noatime,x-gvfs-hide,norecover"
 
 MOST_MEMORY = 4096
 MOST_MEMORY_SHARE = 0.1
-# Some pages that the allocator fills only by and by.
+# Allows for pages that the allocator fills gradually.
 MOST_GROWTH = 0.05
 MOST_WAKE_UPS = 0
 MOST_PROMPT_TIME = 25
@@ -39,7 +39,7 @@ MOST_REMOUNT_RATIO = 1.15
 
 
 class Table:
-    """The figures, and whether what was to be reached is."""
+    """Prints the figures and collects the missed targets."""
 
     WIDTHS = (46, 12, 12, 12)
 
@@ -61,7 +61,7 @@ class Table:
 
 
 class BareCaller:
-    """The calls that a remount needs and nothing else, by the same person."""
+    """Remounts by bare UDisks2 calls, as the same user."""
 
     def __init__(self, stage):
         script = os.path.join(os.path.dirname(os.path.abspath(__file__)), "bare_calls.py")
@@ -80,7 +80,7 @@ class BareCaller:
 
 
 class Comparison:
-    """One session in which both programs run side by side."""
+    """One session that runs both programs."""
 
     def __init__(self, stage, table):
         self.stage = stage
@@ -122,7 +122,7 @@ class Comparison:
 
     def cycles(self, times):
         stick = self.stage.new_stick("Cycles")
-        # What is loaded and set up once, at the first stick, is no growth.
+        # Warm-up: one-time allocations of the first attachments are not growth.
         self._attach_and_detach(stick, 10)
         time.sleep(SETTLE_SECONDS)
         before = self._both(processes.allocated)
@@ -154,7 +154,7 @@ class Comparison:
     def remounts(self):
         stick = self.stage.new_stick("Remount")
         ours = [self._remount(stick, self._say_yes) for _ in range(ROUNDS)]
-        # Whatever changes, Brisel looks at it; the bare calls are to have the machine for themselves.
+        # Brisel reacts to every change; stop it while the bare calls are measured.
         self.brisel.program.stop()
         caller = BareCaller(self.stage)
         bare = [self._remount(stick, caller.remount) for _ in range(ROUNDS)]

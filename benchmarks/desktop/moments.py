@@ -1,4 +1,4 @@
-# When things happen on the buses and in the kernel's table of mounts.
+# Times of UDisks2 signals and of mount table changes.
 # SPDX-License-Identifier: MIT
 import select
 import threading
@@ -11,7 +11,7 @@ UDISKS = "org.freedesktop.UDisks2"
 
 
 class FilesystemReports:
-    """The moments at which UDisks2 tells of a new file system, by device name; in a thread."""
+    """Times at which UDisks2 reported new file systems, by device name; listens in a thread."""
 
     def __init__(self):
         self._times = {}
@@ -25,7 +25,7 @@ class FilesystemReports:
     def _listen(self, ready):
         self._context.push_thread_default()
         bus = Gio.bus_get_sync(Gio.BusType.SYSTEM)
-        # The stage may end the bus before this program ends.
+        # The stage may stop the bus before this program ends.
         bus.set_exit_on_close(False)
         bus.signal_subscribe(UDISKS, "org.freedesktop.DBus.ObjectManager", "InterfacesAdded", None,
                              None, Gio.DBusSignalFlags.NONE, self._note)
@@ -55,8 +55,7 @@ class FilesystemReports:
 
 
 def wait_for_mounts(condition, what):
-    """Waits until the mounts fulfil `condition`, looking whenever the kernel says that they have
-    changed; the moment at which they did."""
+    """Waits until `condition` holds, checking at each mount table change; returns the time."""
     deadline = time.monotonic() + PATIENCE
     with open("/proc/self/mountinfo", encoding="utf-8") as table:
         changes = select.poll()

@@ -1,4 +1,4 @@
-# What running processes cost, by the kernel's own figures.
+# Memory, processor time and wake-ups of running processes, from /proc.
 # SPDX-License-Identifier: MIT
 import os
 
@@ -20,28 +20,27 @@ def _memory(pid, part):
 
 
 def memory(pid):
-    """The proportional set size, in kB. It also varies with who else maps the same files."""
+    """Proportional set size (PSS) in kB; also varies with other processes that map the files."""
     return _memory(pid, "Pss")
 
 
 def allocated(pid):
-    """The part of it that stands for no file, in kB: what the process has taken for itself."""
+    """Anonymous part of the PSS in kB: the process's own allocations."""
     return _memory(pid, "Pss_Anon")
 
 
 def processor_time(pid):
-    """The time on a processor of all threads there are, in ms."""
+    """Processor time of all current threads, in ms."""
     return sum(int(_read(f"{task}/schedstat").split()[0]) for task in _tasks(pid)) / 1e6
 
 
 def sleeps(pid):
-    """How often each thread has gone to sleep by itself so far."""
+    """Voluntary context switches of each thread so far."""
     return {task: int(line.split()[1]) for task in _tasks(pid)
             for line in _read(f"{task}/status").splitlines()
             if line.startswith("voluntary_ctxt_switches")}
 
 
 def wake_ups(before, after):
-    """How often threads were woken between two looks at their sleeps; those that have ended since
-    do not count."""
+    """Wake-ups between two results of `sleeps`; ignores threads that have ended."""
     return sum(count - before.get(task, 0) for task, count in after.items())

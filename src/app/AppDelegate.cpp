@@ -1,4 +1,4 @@
-// The application's start, end and About action.
+// Application start, termination and the About action.
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 
@@ -29,7 +29,7 @@ void AppDelegate::awakeFromNib() {
     platform_.statusItem.showStatusMenu();
     shouldStartAtLogin_ = platform_.userDefaults.boolForKey(ShouldStartAtLoginKey);
     showDisclaimer_ = platform_.userDefaults.boolForKey(ShowDisclaimerKey);
-    // The stored preference, not the login item itself: the two may disagree.
+    // From the preference; does not query the login item, which may differ.
     platform_.statusMenu.setChecked(ToggleStartAtLoginAction, shouldStartAtLogin_);
     if (showDisclaimer_ && showWarningNotice() == Answer::Refused) return;
     refreshVolumes();

@@ -1,4 +1,4 @@
-// The application: start-up, the status menu and icon, start at login, and the end.
+// The application delegate: start-up, status menu, status icon, start at login, termination.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,52 +12,49 @@
 
 namespace brisel {
 
-/// The bundle identifier of the application that is started at login in place of Brisel itself.
+/// Bundle identifier of the login-item helper, which starts Brisel.
 inline constexpr const char* LoginHelperIdentifier = "org.brisel.BriselHelper";
 
-/// The key path under which a change of the status button's appearance is told.
+/// Observed key path of the status button.
 inline constexpr std::string_view EffectiveAppearanceKeyPath = "effectiveAppearance";
 
-/// Main thread only. The status item, its menu and the start-at-login item are services of the
-/// platform and live as long as it. Made and connected by whatever loads the interface: a nib on a
-/// Mac, elsewhere the program's entry.
+/// Main thread only. Must be owned by a shared_ptr: the volume manager keeps a weak reference.
+/// Created by the nib's delegate on macOS, elsewhere by the program's entry point.
 class AppDelegate final : public NTFSVolumeManagerDelegate,
                           public std::enable_shared_from_this<AppDelegate> {
   public:
-    /// Where the one volume manager comes from; asked once, in `awakeFromNib`.
+    /// Called once, in `awakeFromNib`.
     using VolumeManagerSource = std::function<NTFSVolumeManager&()>;
 
-    /// Registers the default preferences; to be called before there is any instance.
+    /// Registers the default preferences. Call before creating an instance.
     static void initialize(const platform::Platform& platform);
 
     explicit AppDelegate(const platform::Platform& platform,
                          VolumeManagerSource sharedManager = &NTFSVolumeManager::sharedInstance);
 
-    /// Starts the program up. Returns early when the user refuses the warning notice: then the
-    /// application has been asked to terminate.
+    /// Returns early, with termination requested, if the user refuses the warning notice.
     void awakeFromNib();
-    /// Writes the preferences and stops observing the appearance. Also right before start-up is
-    /// complete.
+    /// Writes the preferences and ends the observation. Safe before start-up has finished.
     void applicationWillTerminate();
 
     // Actions of the fixed menu items.
-    /// Brings the program to the front and shows what it is.
+    /// Activates the application and shows the About panel.
     void bringToFront();
-    /// Adds or removes the login item, and stores the choice if the platform agreed; else says so.
+    /// Adds or removes the login item. Stores the new state on success; shows an alert on failure.
     void toggleStartAtLogin();
 
     void refreshVolumes() override;
     void errorIcon() override;
-    /// Shows the image for the present state and appearance.
+    /// Shows no image if the bundle lacks the one for the current state and appearance.
     void refreshIcon();
-    /// What was observed has changed; only the appearance matters.
+    /// Ignores key paths other than EffectiveAppearanceKeyPath.
     void observeValueForKeyPath(std::string_view keyPath);
 
-    /// The states of the icon, in the order of their codes.
+    /// Icon states; their order fixes the codes 0 to 4.
     enum class StatusIcon { NoVolumes, ReadOnly, Writable, InProgress, Error };
 
     [[nodiscard]] StatusIcon statusIcon() const { return statusIcon_; }
-    /// Any value may be set; one that is no state shows as grey.
+    /// A value outside the enumeration shows the grey icon.
     void setStatusIcon(StatusIcon state) { statusIcon_ = state; }
 
   private:
@@ -70,7 +67,7 @@ class AppDelegate final : public NTFSVolumeManagerDelegate,
     platform::Subscription appearanceObservation_;
     StatusIcon statusIcon_ = StatusIcon::NoVolumes;
     bool shouldStartAtLogin_ = false;
-    /// As read at start; accepting the notice changes the stored preference only.
+    /// Read once at start; accepting the notice changes only the stored preference.
     bool showDisclaimer_ = false;
 };
 

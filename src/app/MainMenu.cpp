@@ -1,4 +1,4 @@
-// The fixed items of the status menu.
+// The status menu's fixed items.
 // SPDX-License-Identifier: MIT
 #include "app/MainMenu.h"
 

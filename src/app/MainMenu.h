@@ -1,4 +1,4 @@
-// The fixed items of the status menu, for platforms that load no nib.
+// The status menu's fixed items, for platforms without a nib.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -16,8 +16,8 @@ inline constexpr const char* ToggleStartAtLoginAction = "toggleStartAtLogin:";
 inline constexpr const char* BringToFrontAction = "bringToFront:";
 inline constexpr const char* TerminateAction = "terminate:";
 
-/// From the top: the start-at-login check item, About, a separator, Quit. Their titles are the
-/// interface's own and the same in every language. The items keep the delegate alive.
+/// From the top: Start at Login (a check item), About, separator, Quit. The titles are not
+/// localised. The items keep `delegate` alive.
 std::vector<platform::MenuItem> mainMenuItems(const std::shared_ptr<AppDelegate>& delegate,
                                               const platform::Platform& platform);
 

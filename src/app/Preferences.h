@@ -1,4 +1,4 @@
-// The keys of the preferences that the application keeps.
+// Preference keys of the application.
 // SPDX-License-Identifier: MIT
 #pragma once
 

@@ -1,4 +1,4 @@
-// The remount prompt: its category, its posting, and the user's response.
+// The remount prompt: notification category, request and response.
 // SPDX-License-Identifier: MIT
 #include "app/RemountPrompt.h"
 
@@ -15,7 +15,7 @@ namespace {
 constexpr const char* CategoryIdentifier = "MOUNT";
 constexpr const char* MountAction = "DO_MOUNT";
 constexpr const char* NothingAction = "NOTHING";
-// One for every volume, so that a newer prompt replaces an older one.
+// Shared by all volumes, so a new prompt replaces the previous one.
 constexpr const char* RequestIdentifier = "mount";
 constexpr const char* VolumeKey = "volume";
 constexpr const char* SoundName = "Hero";
@@ -74,8 +74,7 @@ void NTFSVolumeManager::registerNotificationCategory() {
               {.identifier = NothingAction, .title = bundle.localizedString("No, thanks.")}}}});
 }
 
-// The completion handler is not called on any path. Kept so: the program has nothing to tell the
-// center, which goes on without it.
+// Deliberately never calls the completion handler; the center works without it.
 void NTFSVolumeManager::userNotificationCenterDidReceiveNotificationResponseWithCompletionHandler(
     const platform::NotificationResponse& response,
     const platform::UserNotificationCenter::CompletionHandler& /*completionHandler*/) {

@@ -9,9 +9,9 @@
 
 namespace brisel {
 
-/// Asks for permission to notify, and with it posts the prompt for this volume; then marks the
-/// volume as offered. A prompt for another volume that is still shown is replaced. Main thread;
-/// what follows the permission runs where the notification center calls back.
+/// Requests notification permission. If granted, posts the prompt for `volume`, which replaces any
+/// earlier prompt, and sets `notificationSent` once the center accepts it. Main thread; the
+/// callbacks run on the notification center's thread.
 void postRemountPrompt(const platform::Platform& platform,
                        const std::shared_ptr<NTFSVolume>& volume);
 

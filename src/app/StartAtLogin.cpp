@@ -1,4 +1,4 @@
-// The start-at-login check item.
+// The action of the start-at-login menu item.
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 #include "app/MainMenu.h"
@@ -18,8 +18,7 @@ void AppDelegate::toggleStartAtLogin() {
         platform_.userDefaults.setBool(ShouldStartAtLoginKey, wanted);
         return;
     }
-    // The placeholder stays unfilled, deliberately: the text is shown as it stands in the table,
-    // and the word for it is looked up and left out.
+    // Deliberate: looks the word up but shows the text with its placeholder unfilled.
     const auto& bundle = platform_.bundle;
     static_cast<void>(bundle.localizedString(shouldStartAtLogin_ ? "add" : "remove"));
     platform_.alert.runModal({.messageText = bundle.localizedString("An error ocurred"),

@@ -1,4 +1,4 @@
-// The status icon: the colour tells the state, the ending follows the menu bar's appearance.
+// The status icon: its colour shows the state, its variant follows the menu bar's appearance.
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 #include "platform/Bundle.h"
@@ -25,7 +25,7 @@ const char* colourWord(AppDelegate::StatusIcon state) {
     return "grey-";
 }
 
-// High-contrast variants have the word in their names too.
+// Also matches the high-contrast appearances, whose names contain "Dark".
 bool isDark(const std::string& appearanceName) {
     return platform::lowercased(appearanceName).find("dark") != std::string::npos;
 }

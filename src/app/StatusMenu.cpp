@@ -1,4 +1,4 @@
-// The volume part of the status menu.
+// The volume items of the status menu.
 // SPDX-License-Identifier: MIT
 #include <array>
 #include <utility>
@@ -20,17 +20,17 @@ constexpr int MainTag = 101;
 constexpr int SecondaryTag = 102;
 constexpr std::array GeneratedTags{MainTag, SecondaryTag};
 
-// The number itself, not a name: it means right-aligned on Intel and centred on Apple silicon,
-// where the platform numbers its alignments differently. Deliberate.
+// A raw NSTextAlignment on purpose. AppKit assigns 1 per architecture: NSTextAlignmentRight on
+// x86_64, NSTextAlignmentCenter on arm64.
 constexpr int SecondaryAlignment = 1;
 
-/// What a menu item lets the manager do.
+/// A selector and the factory of its target.
 struct Action {
     std::string_view selector;
     MenuItem::Target (*on)(NTFSVolumeManager& manager);
 };
 
-// The method is no part of what the target holds, so that the target needs no memory of its own.
+// The method is a template parameter so that the closure fits std::function's inline storage.
 template <auto Method>
 MenuItem::Target target(NTFSVolumeManager& manager) {
     return [&manager](const MenuItem& sender) { (manager.*Method)(sender); };
@@ -77,7 +77,7 @@ MenuItem secondaryItem(NTFSVolumeManager& manager, const std::shared_ptr<NTFSVol
     return item;
 }
 
-/// Rebuilds the groups of all volumes on one platform.
+/// Inserts each volume's group of menu items.
 class VolumeGroups {
   public:
     VolumeGroups(const platform::Platform& platform, NTFSVolumeManager& manager)
@@ -86,7 +86,7 @@ class VolumeGroups {
           platform_(platform),
           manager_(manager) {}
 
-    // Every group goes to the top, so the volume found last stands first.
+    // Inserts at the top, so the last volume of the list comes first.
     void insert(const std::shared_ptr<NTFSVolume>& volume) {
         const auto& main = volume->writable() ? ShowInFinder : Remount;
         const auto* const title = volume->writable() ? "show %@ in Finder" : "re-mount %@";
@@ -106,7 +106,7 @@ class VolumeGroups {
   private:
     void insertReadOnly(const std::shared_ptr<NTFSVolume>& volume, bool listed) {
         if (!volume->notificationSent() && !listed) postRemountPrompt(platform_, volume);
-        // Below the item that follows the group, not below the group. Deliberate.
+        // Deliberately not 1: the separator goes below the item that follows this one-item group.
         menu_.insertItem(separator(), 2);
     }
 

@@ -1,4 +1,4 @@
-// The warning notice of the first start.
+// The warning notice shown at the first start.
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 #include "app/Preferences.h"

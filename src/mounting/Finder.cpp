@@ -1,4 +1,4 @@
-// Showing a volume in the file browser, and stripping its extended attributes.
+// Opens a volume in Finder and removes its extended attributes.
 // SPDX-License-Identifier: MIT
 #include "platform/FileManager.h"
 #include "platform/Format.h"
@@ -13,14 +13,14 @@ namespace brisel {
 
 namespace {
 
-// Where the read-write mount puts volumes on this system; a record's own path is not consulted.
+// The folder of read-write mounts on this system version; ignores the record's own path.
 std::string mountFolder(const platform::Platform& platform) {
     if (!platform.systemVersion.isMacOS12OrLater()) return platform.fileManager.volumesDirectory();
     return platform::stringWithFormat("%@/.brisel", platform.fileManager.homeDirectory());
 }
 
 void logScriptError(platform::SystemLog& log, const platform::ScriptResult& result) {
-    // The run's result is what this line shows, and a run that failed has none.
+    // The line prints the script's result, which is nil on failure.
     log.log("Error executing Apple Script: %@", platform::NullText);
     for (const auto& [key, value] : *result.error)
         log.log("key: %@, value: %@", key, value);
@@ -42,8 +42,8 @@ void NTFSVolumeManager::cleanupFinderInfo(const platform::MenuItem& sender) {
     setInProgress(true);
     refreshVolumes();
     const auto volume = volumeOf(sender);
-    // Neither folder nor label is quoted for the shell, on purpose: the command is exactly this
-    // text, and it runs with no more than the user's own rights.
+    // Deliberately does not quote folder or label for the shell: the command text is fixed, and it
+    // runs unprivileged.
     const auto source =
         platform::stringWithFormat(R"(do shell script "xattr -cr %@/%@")", mountFolder(platform_),
                                    volume ? volume->label() : std::nullopt);

@@ -1,4 +1,4 @@
-// The read-write mount by the system's mount tool, run as administrator.
+// The read-write mount by the system's mount tool, run as root.
 // SPDX-License-Identifier: MIT
 
 #include "mounting/Remount.h"
@@ -17,10 +17,9 @@ using platform::DiskDescription;
 using platform::stringWithFormat;
 
 constexpr const char* MountToolPath = "/sbin/mount_ntfs";
-// The arguments of the other mount, in one word.
+// The options of `mountArguments` in Remount.cpp, comma-separated.
 constexpr const char* MountOptions = "rw,auto,nobrowse,noowners,noatime";
 
-/// What one mount is about.
 struct Target {
     std::string devicePath;
     std::string bsdName;
@@ -84,10 +83,10 @@ void finish(NTFSVolumeManager& manager, KJPrivilegedTask& task, const Target& ta
     task.waitUntilExit();
     const auto output = task.outputFileHandle()->readDataToEndOfFile();
     if (!output.empty()) log.log("mount command output: %@", output);
-    // The record of before goes whatever the tool's exit status.
+    // Removes the old record whether or not the tool succeeded.
     removeFirstVolume(manager.volumes(), target.bsdName);
     if (task.terminationStatus() != 0) {
-        // The mount point stays: a tool that failed may have left something there.
+        // Keeps the mount point: the failed tool may have left files in it.
         log.log("mount will fail, there is a termination status report: %i",
                 task.terminationStatus());
         reportRemountFailure(manager, std::nullopt, description);
@@ -105,8 +104,8 @@ void mountWithTool(NTFSVolumeManager& manager, const platform::Disk& disk,
     const auto task = KJPrivilegedTask::init(platform);
     task->setLaunchPath(MountToolPath);
     if (const auto error = platform.fileManager.createDirectory(target.mountPoint)) {
-        // Deliberately ends here with the busy state on and the record kept, though the volume is
-        // unmounted: no mount was tried.
+        // Deliberately stays busy and keeps the record of the now unmounted volume: no mount was
+        // tried.
         platform.systemLog.log("Unable to create folder: %@, reason: %@",
                                error->localizedDescription, error->localizedFailureReason);
         return;

@@ -1,4 +1,4 @@
-// The read-write remount up to the mount: finding the disk, unmounting it, choosing how to mount.
+// The read-write remount: finds the disk, unmounts it and chooses how to mount it.
 // SPDX-License-Identifier: MIT
 #include "mounting/Remount.h"
 
@@ -36,7 +36,7 @@ void reportVolumeNotMounted(NTFSVolumeManager& manager, const std::shared_ptr<NT
                  "and re-attach the device."),
              label),
          .buttons = {}});
-    // No refresh here: the red icon stays until the next one.
+    // No refresh, so the red icon stays until the next one.
     manager.setInProgress(false);
 }
 
@@ -75,11 +75,11 @@ void remountUnmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& d
         reportUnmountFailure(manager, dissenter, description);
         return;
     }
-    // Waits for nothing: gives other processes a turn between the unmount and the mount.
+    // No delay: only yields the processor between the unmount and the mount.
     sleep(0);
     if (!description.volumeMountable.value_or(false)) {
-        // Deliberately ends here with the busy state on and the record kept: nothing of this disk
-        // will end the state, only another operation or another volume's going.
+        // Deliberately stays busy and keeps the record: only another operation, or another volume's
+        // disappearance, ends the busy state.
         platform.systemLog.log("Disk not mountable!");
         return;
     }

@@ -1,4 +1,4 @@
-// The completions of a read-write remount.
+// The steps of a read-write remount after the unmount request.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,17 +10,17 @@ namespace brisel {
 
 class NTFSVolumeManager;
 
-/// The volume was unmounted, or not: goes on with the read-write mount, by the system's mount tool
-/// or, before macOS 12, by Disk Arbitration. Blocks while the tool runs. Main thread.
+/// Reports a dissenter, or mounts read-write: with the system's mount tool or, before macOS 12,
+/// through Disk Arbitration. Main thread; blocks while the tool runs.
 void remountUnmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& disk,
                              const std::optional<platform::Dissenter>& dissenter);
 
-/// Disk Arbitration has mounted the volume again, or not. Main thread.
+/// Reports a dissenter, or records the volume and opens it in Finder. Main thread.
 void remountMountDidFinish(NTFSVolumeManager& manager, const platform::Disk& disk,
                            const std::optional<platform::Dissenter>& dissenter);
 
-/// The same through the system's mount tool as administrator, onto the volume's folder inside the
-/// hidden mount folder. `description` is that of the unmounted disk. Main thread; blocks.
+/// Mounts `disk` read-write at ~/.brisel/LABEL as root. `description` is that of the unmounted
+/// disk. Main thread; blocks during the password prompt and the mount.
 void mountWithTool(NTFSVolumeManager& manager, const platform::Disk& disk,
                    const platform::DiskDescription& description);
 

@@ -1,4 +1,4 @@
-// Disk Arbitration's refusals, for the log and for the user.
+// Reports failed unmounts and mounts to the log and the user.
 // SPDX-License-Identifier: MIT
 #include "mounting/StatusMessages.h"
 
@@ -15,7 +15,7 @@ namespace brisel {
 
 namespace {
 
-// From kDAReturnError on, in the order of the codes.
+// In the order of the status codes, from kDAReturnError.
 constexpr std::array<std::string_view, 12> Messages{
     "kDAReturnError for volume %@",         "kDAReturnBusy for volume %@",
     "kDAReturnBadArgument for volume %@",   "kDAReturnExclusiveAccess for volume %@",
@@ -59,7 +59,7 @@ void report(NTFSVolumeManager& manager, const Variant& variant,
 }  // namespace
 
 std::string_view dissenterStatusMessage(std::uint32_t status) {
-    // Unsigned arithmetic: a status below the first code wraps to a large index.
+    // Unsigned: a status below kDAReturnError wraps to a large index.
     const std::uint32_t index = status - platform::DAReturn::Error;
     if (index < Messages.size()) return Messages.at(index);
     if (status == platform::DAReturn::Success) return "kDAReturnSuccess for volume %@";

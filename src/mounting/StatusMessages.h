@@ -1,4 +1,4 @@
-// What the log and the user are told when an unmount or a mount was refused.
+// Log lines and alerts for failed unmounts and mounts.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,17 +12,17 @@ namespace brisel {
 
 class NTFSVolumeManager;
 
-/// The log format for a dissenter's status; its one placeholder takes the disk's BSD name.
+/// Log format for any dissenter status; its placeholder takes the disk's BSD name.
 std::string_view dissenterStatusMessage(std::uint32_t status);
 
-/// Error icon, log line, alert; then the busy state ends and the menu is rebuilt. Main thread;
-/// blocks while the alert is up.
+/// Sets the error icon, logs the dissenter if there is one, shows an alert, ends the busy state and
+/// refreshes the menu. Main thread; blocks while the alert is up.
 void reportUnmountFailure(NTFSVolumeManager& manager,
                           const std::optional<platform::Dissenter>& dissenter,
                           const platform::DiskDescription& description);
 
-/// The same for a failed read-write mount, whose record is removed. Without a dissenter there is
-/// no log line.
+/// Removes the volume's record, sets the error icon, logs the dissenter if there is one, shows an
+/// alert, ends the busy state and refreshes the menu. Main thread; blocks while the alert is up.
 void reportRemountFailure(NTFSVolumeManager& manager,
                           const std::optional<platform::Dissenter>& dissenter,
                           const platform::DiskDescription& description);

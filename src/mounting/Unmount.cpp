@@ -1,4 +1,4 @@
-// Unmounting a volume that the user chose in the menu.
+// Unmounts the volume chosen in the menu.
 // SPDX-License-Identifier: MIT
 #include "mounting/Unmount.h"
 
@@ -31,7 +31,7 @@ void unmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& disk,
         reportUnmountFailure(manager, dissenter, description);
         return;
     }
-    // Waits for nothing: gives other processes a turn after the unmount.
+    // No delay: only yields the processor after the unmount.
     sleep(0);
     const auto bsdName = platform::textOf(description.mediaBSDName);
     const VolumeRecords snapshot = manager.volumes();

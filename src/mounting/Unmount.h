@@ -1,4 +1,4 @@
-// The completion of an unmount that the user asked for.
+// Completion of the unmount that the menu requests.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,7 +10,7 @@ namespace brisel {
 
 class NTFSVolumeManager;
 
-/// Drops the unmounted volume from the list, or reports the refusal. Main thread.
+/// Removes the unmounted volume from the list, or reports the dissenter. Main thread.
 void unmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& disk,
                       const std::optional<platform::Dissenter>& dissenter);
 

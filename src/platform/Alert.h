@@ -10,11 +10,11 @@ namespace brisel::platform {
 struct AlertContent {
     std::string messageText;
     std::string informativeText;
-    /// Titles from the default button on; none stands for the platform's own default button.
+    /// Titles, default button first. Empty for the platform's own default button.
     std::vector<std::string> buttons;
 };
 
-/// The response of the first button; each further one is one more (NSAlert.h).
+/// Response of the first button; each later button's is one higher (NSAlert.h).
 inline constexpr int AlertFirstButtonReturn = 1000;
 
 /// Main thread only.
@@ -22,8 +22,8 @@ class Alert {
   public:
     virtual ~Alert() = default;
 
-    /// Blocks until the user has pressed a button and returns its response. The main loop does
-    /// not turn in its default mode meanwhile. Any other value means that nothing was pressed.
+    /// Blocks until dismissed; the main loop does not run in its default mode meanwhile. Returns
+    /// the pressed button's response, or another value if no button was pressed.
     virtual int runModal(const AlertContent& content) = 0;
 };
 

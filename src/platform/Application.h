@@ -9,12 +9,12 @@ class Application {
   public:
     virtual ~Application() = default;
 
-    /// Runs the delegate's termination step and ends the process. A platform may return first and
-    /// end soon after, so nothing that must not happen may follow the call.
+    /// Runs the delegate's termination step and ends the process. May return before the process
+    /// ends.
     virtual void terminate() = 0;
-    /// Brings the program to the front, where the platform knows a front.
+    /// Brings the application to the front, where the platform supports it.
     virtual void activateIgnoringOtherApps() = 0;
-    /// Shows the program's name and version, as the platform shows them.
+    /// Shows the About panel: name and version.
     virtual void orderFrontStandardAboutPanel() = 0;
 };
 

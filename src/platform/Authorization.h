@@ -1,4 +1,4 @@
-// Authorization Services: asking for an administrator's password, and starting a tool as root.
+// Authorization Services: the administrator prompt, and starting a tool as root.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -17,7 +17,7 @@ inline constexpr OSStatus errAuthorizationCanceled = -60006;
 inline constexpr OSStatus errAuthorizationInternal = -60008;
 inline constexpr OSStatus errAuthorizationToolExecuteFailure = -60031;
 
-/// The right to run a tool as an administrator. Not by Apple's name, which is a macro
+/// The right to run a tool as root. Apple's name for it, kAuthorizationRightExecute, is a macro
 /// (AuthorizationTags.h).
 inline constexpr const char* AuthorizationRightExecute = "system.privilege.admin";
 
@@ -26,12 +26,12 @@ inline constexpr std::uint32_t kAuthorizationFlagInteractionAllowed = 1U << 0U;
 inline constexpr std::uint32_t kAuthorizationFlagExtendRights = 1U << 1U;
 inline constexpr std::uint32_t kAuthorizationFlagPreAuthorize = 1U << 4U;
 
-/// A type of this namespace, also where the system's own of that name is known.
+/// Declared in this namespace, distinct from Apple's type of this name.
 struct AuthorizationOpaqueRef;
-/// Belongs to who created it until it is freed.
+/// Owned by the caller of `create` until `free`.
 using AuthorizationRef = const AuthorizationOpaqueRef*;
 
-/// One right: its name and `valueLength` bytes at `value`, all of which the platform may read.
+/// One right. The platform may read all `valueLength` bytes at `value`.
 struct AuthorizationItem {
     const char* name = nullptr;
     std::size_t valueLength = 0;
@@ -39,7 +39,7 @@ struct AuthorizationItem {
     std::uint32_t flags = 0;
 };
 
-/// On success the reference may be null where the platform keeps rights by process.
+/// On success `authorization` may be null on platforms that grant rights per process.
 struct CreatedAuthorization {
     OSStatus status = errAuthorizationInternal;
     AuthorizationRef authorization = nullptr;
@@ -47,29 +47,28 @@ struct CreatedAuthorization {
 
 struct StartedTool {
     OSStatus status = errAuthorizationInternal;
-    /// On success a stream on the tool's standard output, which the caller owns. The owner of its
-    /// descriptor (fcntl, F_GETOWN) is the tool's process, a child of this one.
+    /// On success, the tool's standard output, owned by the caller. Its descriptor's owner (fcntl,
+    /// F_GETOWN) is the tool's process, a child of this one.
     std::FILE* communicationsPipe = nullptr;
 };
 
-/// Main thread only. Codes of the platform are handed on unchanged.
+/// Main thread only. Returns the platform's status codes unchanged.
 class Authorization {
   public:
     virtual ~Authorization() = default;
 
-    /// An authorization without rights.
+    /// Creates an authorization without rights.
     [[nodiscard]] virtual CreatedAuthorization create(std::uint32_t flags) = 0;
-    /// Obtains the right, asking the user for a password where the flags allow it; blocks while
-    /// the prompt is up.
+    /// Prompts for a password if `flags` allow interaction, and blocks meanwhile.
     [[nodiscard]] virtual OSStatus copyRights(AuthorizationRef authorization,
                                               const AuthorizationItem& right,
                                               std::uint32_t flags) = 0;
-    /// Takes null, too.
+    /// Accepts null.
     virtual void free(AuthorizationRef authorization, std::uint32_t flags) = 0;
 
-    /// Whether the system offers the call below. On a Mac it is looked up by name, once.
+    /// Whether `executeWithPrivileges` is available; resolved once on macOS.
     [[nodiscard]] virtual bool offersExecuteWithPrivileges() const = 0;
-    /// Starts the tool as root. `arguments` ends with a null and leaves the tool's path out.
+    /// Starts the tool as root. `arguments` is null-terminated and excludes the tool's path.
     [[nodiscard]] virtual StartedTool executeWithPrivileges(AuthorizationRef authorization,
                                                             const char* pathToTool,
                                                             std::uint32_t flags,

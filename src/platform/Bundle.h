@@ -1,4 +1,4 @@
-// The application's own resources: texts in the user's language, and images.
+// The application's resources: localised texts and images.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,9 +12,9 @@ class Bundle {
   public:
     virtual ~Bundle() = default;
 
-    /// The text for this English key in the default table, or the key itself.
+    /// The text of this English key in the default table, or the key itself if it is missing.
     [[nodiscard]] virtual std::string localizedString(std::string_view key) const = 0;
-    /// Whether there is an image of this name, which has no ending: what a status item shows.
+    /// Whether an image of this name, without file extension, exists.
     [[nodiscard]] virtual bool hasImage(const std::string& name) const = 0;
 };
 

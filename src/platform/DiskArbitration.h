@@ -1,4 +1,4 @@
-// The service that watches disks, and mounts and unmounts them.
+// Disk Arbitration: reports disks, mounts and unmounts them.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -30,20 +30,20 @@ struct DAReturn {
     static constexpr std::uint32_t Unsupported = 0xF8DA000C;
 };
 
-/// A disk object: a device that may be gone, and what a report said of it.
+/// A disk object; its device may be gone.
 struct Disk {
     std::string bsdName;
-    /// In a report the description of that moment; else absent, and asked for when it is needed.
+    /// In a report, the disk's description at that moment; otherwise absent.
     std::optional<DiskDescription> reported;
 };
 
-/// Why a request was refused. Any status may come, not only those of DAReturn.
+/// Why a request was refused; `status` may be outside DAReturn.
 struct Dissenter {
     std::uint32_t status = DAReturn::Error;
 };
 
-/// Main thread only; every callback comes on the main thread, while the main loop turns in its
-/// default mode, so never while an alert is up.
+/// Main thread only. Callbacks run on the main thread while the main loop runs in its default mode,
+/// so never while an alert is up.
 class DiskArbitration {
   public:
     using DiskCallback = std::function<void(const Disk&)>;
@@ -52,31 +52,29 @@ class DiskArbitration {
 
     virtual ~DiskArbitration() = default;
 
-    /// Opens the session that all other calls use. When that fails the others are silent: no
-    /// report ever comes and no disk is made.
+    /// Opens the session. If that fails, no disk is ever reported or created.
     virtual void createSession() = 0;
-    /// Reports each disk whose description has volumeMountable true: those that are there once
-    /// the main loop turns, and later ones as they come.
+    /// Reports each disk with volumeMountable true: attached ones once the main loop runs, later
+    /// ones as they appear.
     [[nodiscard]] virtual Subscription registerDiskAppearedCallback(DiskCallback callback) = 0;
-    /// The same match; the report carries the last description of the disk.
+    /// Reports each disk with volumeMountable true that disappears, with its last description.
     [[nodiscard]] virtual Subscription registerDiskDisappearedCallback(DiskCallback callback) = 0;
-    /// Lets the session deliver on the main loop.
+    /// Schedules the session's callbacks on the main loop.
     virtual void scheduleWithRunLoop() = 0;
 
-    /// None without a name. Whether such a disk is there is not looked at.
+    /// Absent if `name` is absent. Does not check that the disk exists.
     [[nodiscard]] virtual std::optional<Disk> diskFromBSDName(
         const std::optional<std::string>& name) = 0;
-    /// None unless a volume is mounted at exactly this path.
+    /// Absent unless a volume is mounted at exactly `path`.
     [[nodiscard]] virtual std::optional<Disk> diskFromVolumePath(
         const std::optional<FileURL>& path) = 0;
-    /// The description of a report, else the current one; of a disk that is gone, the last one
-    /// known, or one that has its BSD name at most.
+    /// The reported description, else the current one. After removal, the last known one or at most
+    /// the BSD name.
     [[nodiscard]] virtual DiskDescription copyDescription(const Disk& disk) = 0;
 
-    /// Unmounts without force. The completion may come before the call returns.
+    /// Does not force. `completion` may run before the call returns.
     virtual void unmount(const Disk& disk, Completion completion) = 0;
-    /// Mounts where the platform chooses, with these mount options. The completion may come
-    /// before the call returns.
+    /// The platform chooses the mount point. `completion` may run before the call returns.
     virtual void mountWithArguments(const Disk& disk, const std::vector<std::string>& arguments,
                                     Completion completion) = 0;
 };

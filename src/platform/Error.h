@@ -1,4 +1,4 @@
-// What a service says of a call that failed.
+// The error of a failed service call.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,9 +8,9 @@
 namespace brisel::platform {
 
 struct Error {
-    /// A sentence for people, in the platform's own words; never parsed.
+    /// The platform's message for the user; never parsed.
     std::string localizedDescription;
-    /// Why, where the platform knows it.
+    /// The cause, if the platform knows it.
     std::optional<std::string> localizedFailureReason;
 };
 

@@ -1,4 +1,4 @@
-// The file URL of a folder, as a disk description carries it and the log prints it.
+// The file URL of a folder.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,17 +6,16 @@
 
 namespace brisel::platform {
 
-/// A value; two URLs are equal when their paths are.
 class FileURL {
   public:
-    /// `path` is an absolute path of any bytes; slashes at its end are dropped.
+    /// `path` is absolute and may contain any bytes. Drops trailing slashes.
     explicit FileURL(std::string path);
 
-    /// Without a slash at the end, but for the root itself.
+    /// Without a trailing slash, except for the root.
     [[nodiscard]] const std::string& path() const { return path_; }
 
-    /// `file://` and the path with a slash at the end, percent-encoded in upper case but for
-    /// letters, digits and `/!$&'()*+,-.:=@_~` (the path characters of RFC 3986 less `;`).
+    /// `file://`, the path and a trailing slash. Percent-encodes, in upper case, all bytes but
+    /// letters, digits and `/!$&'()*+,-.:=@_~` (the path characters of RFC 3986 without `;`).
     [[nodiscard]] std::string absoluteString() const;
 
     bool operator==(const FileURL&) const = default;

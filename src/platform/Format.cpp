@@ -1,4 +1,4 @@
-// Text made from a format and values.
+// Text formatting with placeholders.
 // SPDX-License-Identifier: MIT
 #include "platform/Format.h"
 

@@ -1,4 +1,4 @@
-// Text made from a format and values: the one place that knows how a missing value prints.
+// Text formatting with placeholders; a missing value prints as (null).
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,10 +12,10 @@
 
 namespace brisel::platform {
 
-/// What a missing value prints as.
+/// The text of a missing value.
 inline constexpr std::string_view NullText = "(null)";
 
-/// One value for a placeholder. Refers to the text it is made from: use it within one expression.
+/// The value of one placeholder. Refers to its source text; use it only within one expression.
 class FormatArgument {
   public:
     explicit FormatArgument(std::string_view text) : text_(text) {}
@@ -35,8 +35,8 @@ class FormatArgument {
     std::string made_;
 };
 
-/// Replaces each placeholder of `format` (`%@`, `%s`, `%i`, `%lu`) by the next argument. The
-/// arguments themselves are never read as formats; a placeholder without one stays as it is.
+/// Replaces each placeholder of `format` (`%@`, `%s`, `%i`, `%lu`) with the next argument,
+/// unexpanded. Keeps placeholders without an argument.
 std::string stringWithFormat(std::string_view format, std::span<const FormatArgument> arguments);
 
 template <typename... Values>
@@ -45,10 +45,10 @@ std::string stringWithFormat(std::string_view format, const Values&... values) {
     return stringWithFormat(format, std::span<const FormatArgument>(arguments));
 }
 
-/// `value` as text, or what a missing one prints as.
+/// `value` or NullText.
 std::string textOf(const std::optional<std::string>& value);
 
-/// `text` with the letters A to Z in lower case.
+/// `text` with A to Z in lower case.
 std::string lowercased(std::string text);
 
 }  // namespace brisel::platform

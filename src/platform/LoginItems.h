@@ -1,4 +1,4 @@
-// Service Management: helper applications that are started at login.
+// Service Management: helper applications that start at login.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,7 +11,7 @@ class LoginItems {
   public:
     virtual ~LoginItems() = default;
 
-    /// Registers or removes the helper of this bundle identifier; false when the platform refuses.
+    /// `identifier` is the helper's bundle identifier. False if the platform refuses.
     [[nodiscard]] virtual bool setEnabled(const std::string& identifier, bool enabled) = 0;
 };
 

@@ -1,4 +1,4 @@
-// The status item's menu: fixed items that the platform provides, and those the program inserts.
+// The status menu: the platform's fixed items and those that the program inserts.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,7 +12,7 @@
 
 namespace brisel::platform {
 
-/// What a menu item stands for; whoever made the item knows the type.
+/// Base of represented objects; an item's creator knows the type.
 class RepresentedObject {
   public:
     RepresentedObject() = default;
@@ -27,15 +27,14 @@ struct MenuItem {
     int tag = 0;
     bool separator = false;
     std::string title;
-    /// NSTextAlignment's raw value over the whole title, where the title is an attributed one.
+    /// Raw NSTextAlignment of an attributed title; absent for a plain title.
     std::optional<int> alignment;
-    /// The selector's name, a literal such as "remountVolume:"; empty for an item that does
-    /// nothing.
+    /// Selector name, a string literal such as "remountVolume:". Empty if the item does nothing.
     std::string_view action;
-    /// Carries the action out; the item itself is the sender.
+    /// Performs the action.
     Target target;
     std::shared_ptr<RepresentedObject> representedObject;
-    /// State 1, a check mark.
+    /// Shows a check mark (state 1).
     bool checked = false;
 };
 
@@ -44,11 +43,10 @@ class Menu {
   public:
     virtual ~Menu() = default;
 
-    /// Takes out every item that carries one of these tags; the others stay in order.
     virtual void removeItemsWithTags(std::span<const int> tags) = 0;
-    /// Puts the item before the one at `index`, counted from the top; at most the item count.
+    /// `index` counts from the top; at most the item count.
     virtual void insertItem(MenuItem item, std::size_t index) = 0;
-    /// Sets or clears the check mark of the fixed item with this action, if there is one.
+    /// Applies to the fixed item with this action, if it exists.
     virtual void setChecked(std::string_view action, bool checked) = 0;
 };
 

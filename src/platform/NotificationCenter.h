@@ -1,4 +1,4 @@
-// Named notifications between parts of the process (not those shown to the user).
+// Named notifications within the process (not user notifications).
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,11 +9,10 @@
 
 namespace brisel::platform {
 
-/// Synchronous: observers run on the posting thread before the call returns, in the order in which
-/// they came. The object is compared and handed on, never kept.
+/// Synchronous: observers run on the posting thread, in registration order, before the call
+/// returns. The object is passed on, never retained.
 class NotificationCenter {
   public:
-    /// The argument is the object the notification is about.
     using Observer = std::function<void(const void* object)>;
 
     virtual ~NotificationCenter() = default;

@@ -1,4 +1,4 @@
-// The main loop, as far as the program schedules timers on it.
+// Timers on the main loop.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,13 +9,13 @@
 
 namespace brisel::platform {
 
-/// The core calls it on the main thread only.
+/// Main thread only.
 class RunLoop {
   public:
     virtual ~RunLoop() = default;
 
-    /// Calls `fire` again and again on the main thread, in the loop's default mode, until the
-    /// subscription ends. `fire` may end it itself.
+    /// Calls `fire` on the main thread, in the loop's default mode, until the subscription ends.
+    /// `fire` may end it.
     [[nodiscard]] virtual Subscription scheduledTimer(std::chrono::milliseconds interval,
                                                       std::function<void()> fire) = 0;
 };

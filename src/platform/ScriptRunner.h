@@ -1,4 +1,4 @@
-// AppleScript, run with the user's own rights.
+// AppleScript, run with the user's rights.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,7 +10,7 @@
 namespace brisel::platform {
 
 struct ScriptResult {
-    /// Keys and values of the error dictionary, in its order; present exactly when the run failed.
+    /// The error dictionary, in its order; absent on success.
     std::optional<std::vector<std::pair<std::string, std::string>>> error;
 };
 
@@ -19,7 +19,7 @@ class ScriptRunner {
   public:
     virtual ~ScriptRunner() = default;
 
-    /// Runs the source text and waits for its end.
+    /// Blocks until the script ends.
     [[nodiscard]] virtual ScriptResult execute(const std::string& source) = 0;
 };
 

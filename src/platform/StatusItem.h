@@ -1,4 +1,4 @@
-// The item in the system's status bar: its button's image and appearance.
+// The item in the system's status bar.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -18,16 +18,15 @@ class StatusItem {
   public:
     virtual ~StatusItem() = default;
 
-    /// Puts the item into the status bar, `length` points wide or as wide as its image. Once,
-    /// before all else.
+    /// `length` is in points, or VariableStatusItemLength. Call once, before all other functions.
     virtual void create(double length) = 0;
-    /// Lets the item show the status menu from now on.
+    /// Attaches the status menu to the item.
     virtual void showStatusMenu() = 0;
-    /// Shows the image of this name (see Bundle), or none.
+    /// An image of the bundle, or no image.
     virtual void setImage(const std::optional<std::string>& name) = 0;
-    /// The name of the button's appearance, such as NSAppearanceNameDarkAqua.
+    /// The button's appearance, such as NSAppearanceNameDarkAqua.
     [[nodiscard]] virtual std::string effectiveAppearanceName() const = 0;
-    /// Calls `changed` on the main thread, in every mode of the loop, when the appearance changes.
+    /// Calls `changed` on the main thread, in every main loop mode.
     [[nodiscard]] virtual Subscription observeEffectiveAppearance(
         std::function<void()> changed) = 0;
 };

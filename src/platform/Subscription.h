@@ -1,4 +1,4 @@
-// The owner of a registration: ends it when it goes.
+// Owner of a registration, which it ends on destruction.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,7 +7,7 @@
 
 namespace brisel::platform {
 
-/// Move-only. An empty one ends nothing.
+/// Move-only. An empty subscription does nothing.
 class Subscription {
   public:
     Subscription() = default;
@@ -24,7 +24,7 @@ class Subscription {
     Subscription& operator=(const Subscription&) = delete;
     ~Subscription() { reset(); }
 
-    /// Ends the registration now; once is enough.
+    /// Ends the registration now. Idempotent.
     void reset() {
         if (const auto end = std::exchange(end_, nullptr)) end();
     }

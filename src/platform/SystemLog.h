@@ -14,10 +14,9 @@ class SystemLog {
   public:
     virtual ~SystemLog() = default;
 
-    /// One entry; the text may hold line breaks and bytes that are no UTF-8.
+    /// Writes one entry; `text` may contain line breaks and invalid UTF-8.
     virtual void write(const std::string& text) = 0;
 
-    /// Writes a formatted entry.
     template <typename... Values>
     void log(std::string_view format, const Values&... values) {
         write(stringWithFormat(format, values...));

@@ -1,4 +1,4 @@
-// The one question the program asks of the system's version.
+// The system's version.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,8 +9,8 @@ class SystemVersion {
   public:
     virtual ~SystemVersion() = default;
 
-    /// macOS 12.0 or later, where the system's mount tool does the read-write mount; before, Disk
-    /// Arbitration does. Asked of the system once per process.
+    /// If true, the system's mount tool does the read-write mount; otherwise Disk Arbitration.
+    /// Constant for the process's lifetime.
     [[nodiscard]] virtual bool isMacOS12OrLater() const = 0;
 };
 

@@ -24,11 +24,11 @@ struct NotificationCategory {
     std::vector<NotificationAction> actions;
 };
 
-/// UNAuthorizationOptions: bits to be added up.
+/// Bits of UNAuthorizationOptions.
 inline constexpr unsigned AuthorizationOptionSound = 2;
 inline constexpr unsigned AuthorizationOptionAlert = 4;
 
-/// The action identifiers of a click on the body and of a dismissal (UNNotificationResponse.h).
+/// Action identifiers of a click on the body and of a dismissal (UNNotificationResponse.h).
 inline constexpr const char* NotificationDefaultActionIdentifier =
     "com.apple.UNNotificationDefaultActionIdentifier";
 inline constexpr const char* NotificationDismissActionIdentifier =
@@ -37,7 +37,7 @@ inline constexpr const char* NotificationDismissActionIdentifier =
 using UserInfo = std::map<std::string, std::string>;
 
 struct NotificationRequest {
-    /// A request replaces an earlier one of the same identifier.
+    /// A request replaces any earlier request with this identifier.
     std::string identifier;
     std::string title;
     std::string body;
@@ -58,18 +58,18 @@ class UserNotificationCenter {
     using CompletionHandler = std::function<void()>;
     /// Runs on the main thread.
     using ResponseHandler = std::function<void(const NotificationResponse&, CompletionHandler)>;
-    /// May run on any thread, also before the call returns.
+    /// May run on any thread, and before the call returns.
     using AuthorizationHandler = std::function<void(bool granted, const std::optional<Error>&)>;
-    /// May run on any thread, also before the call returns.
+    /// May run on any thread, and before the call returns.
     using AddHandler = std::function<void(const std::optional<Error>&)>;
 
     virtual ~UserNotificationCenter() = default;
 
-    /// Main thread. Responses go to this handler until the subscription ends.
+    /// Main thread. `handler` receives the responses until the subscription ends.
     [[nodiscard]] virtual Subscription setDelegate(ResponseHandler handler) = 0;
-    /// Main thread. Replaces the categories known so far.
+    /// Main thread. Replaces all earlier categories.
     virtual void setNotificationCategories(const std::vector<NotificationCategory>& categories) = 0;
-    /// Any thread. `options` are bits of AuthorizationOption.
+    /// Any thread. `options`: bits of AuthorizationOptionSound and AuthorizationOptionAlert.
     virtual void requestAuthorization(unsigned options, AuthorizationHandler handler) = 0;
     /// Any thread.
     virtual void addNotificationRequest(const NotificationRequest& request, AddHandler handler) = 0;

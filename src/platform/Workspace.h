@@ -13,8 +13,7 @@ class Workspace {
   public:
     virtual ~Workspace() = default;
 
-    /// Shows the folder in the file browser; none opens nothing. Whether it worked is the
-    /// platform's matter.
+    /// Shows the folder in the file browser; does nothing if `url` is absent. Reports no error.
     virtual void openURL(const std::optional<FileURL>& url) = 0;
 };
 

@@ -1,4 +1,4 @@
-// A readable handle on a file descriptor.
+// A readable handle that owns its file descriptor.
 // SPDX-License-Identifier: MIT
 #include "privileged/FileHandle.h"
 

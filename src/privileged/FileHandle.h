@@ -1,4 +1,4 @@
-// A readable handle on a file descriptor, which it closes when it goes.
+// A readable handle that owns its file descriptor.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -14,8 +14,8 @@ class FileHandle {
     FileHandle& operator=(const FileHandle&) = delete;
     ~FileHandle();
 
-    /// Everything up to the end of the stream, or up to the first error. Blocks until all writers
-    /// have closed their ends.
+    /// Reads to the end of the stream, or to the first error other than EINTR. Blocks until all
+    /// writers have closed their ends.
     [[nodiscard]] std::string readDataToEndOfFile() const;
 
   private:

@@ -1,4 +1,4 @@
-// The privileged task: launching, polling and describing it.
+// Launches, polls and describes a privileged task.
 // SPDX-License-Identifier: MIT
 #include "privileged/KJPrivilegedTask.h"
 
@@ -48,7 +48,7 @@ void KJPrivilegedTask::setTerminationHandler(TerminationHandler handler) {
 
 std::optional<platform::OSStatus> KJPrivilegedTask::statusWithoutLaunch() const {
     if (isRunning_) {
-        // No error, deliberately: the tool that was asked for is running.
+        // Deliberately success: the tool is already running.
         platform_.systemLog.log("Task already running: %@", description());
         return platform::errAuthorizationSuccess;
     }
@@ -74,7 +74,7 @@ platform::OSStatus KJPrivilegedTask::launch() {
                                            platform::kAuthorizationFlagInteractionAllowed |
                                                platform::kAuthorizationFlagExtendRights |
                                                platform::kAuthorizationFlagPreAuthorize);
-    // A refused reference is not freed, deliberately: it stays the system's until the process ends.
+    // Deliberately not freed on failure; the system reclaims the reference at process exit.
     if (status != platform::errAuthorizationSuccess) return status;
     const auto launched = launchWithAuthorization(created.authorization);
     service.free(created.authorization, platform::kAuthorizationFlagDefaults);
@@ -97,11 +97,11 @@ platform::OSStatus KJPrivilegedTask::launchWithAuthorization(
 
 void KJPrivilegedTask::watch(std::FILE* communicationsPipe) {
     isRunning_ = true;
-    // The handle owns the descriptor from here on; closing the stream as well would close it twice.
+    // The handle owns the descriptor; fclose would close it a second time.
     const int descriptor = fileno(communicationsPipe);
     outputFileHandle_ = std::make_shared<FileHandle>(descriptor);
     processIdentifier_ = fcntl(descriptor, F_GETOWN, 0);
-    // The timer keeps the task alive until its end has been noticed.
+    // The timer keeps the task alive until the poll sees the tool's exit.
     checkStatusTimer_ = platform_.runLoop.scheduledTimer(
         PollInterval, [self = shared_from_this()] { self->checkTaskStatus(); });
 }
@@ -117,7 +117,7 @@ bool KJPrivilegedTask::childIsRunning() {
 
 void KJPrivilegedTask::checkTaskStatus() {
     if (childIsRunning()) return;
-    // Ending the timer may drop the last reference but this one.
+    // The timer may own the only other reference.
     const auto self = shared_from_this();
     checkStatusTimer_.reset();
     platform_.notificationCenter.postNotificationName(KJPrivilegedTaskDidTerminateNotification,
@@ -132,10 +132,10 @@ void KJPrivilegedTask::waitUntilExit() {
         platform_.systemLog.log("Task %@ is not running", inheritedDescription());
         return;
     }
-    // The timer may hold the last reference but this one.
+    // The timer may own the only other reference.
     const auto self = shared_from_this();
     checkStatusTimer_.reset();
-    // Spins at full speed, deliberately: the tool's end is seen at once.
+    // Polls without sleeping on purpose, to see the tool's exit at once.
     while (childIsRunning()) {
     }
 }
@@ -149,7 +149,7 @@ std::string KJPrivilegedTask::inheritedDescription() const {
 }
 
 std::string KJPrivilegedTask::description() const {
-    // The current directory is deliberately no part of it.
+    // Deliberately omits the current directory.
     std::string commandLine = launchPath_;
     for (const auto& argument : arguments_) {
         commandLine += platform::stringWithFormat(" '%@'", argument);

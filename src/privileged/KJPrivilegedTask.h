@@ -1,4 +1,4 @@
-// One command-line tool, run with administrator rights after the system has asked for a password.
+// Runs a command-line tool as root after the system's administrator prompt.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -17,26 +17,25 @@
 
 namespace brisel {
 
-/// Status of every launch on a system that cannot start tools as administrator.
+/// Launch status where the system cannot start tools as root.
 inline constexpr platform::OSStatus KJPrivilegedTaskErrorFunctionUnavailable = -70001;
 
-/// Posted with the task as its object when the poll notices the tool's end.
+/// Posted, with the task as object, when the poll sees the tool's exit.
 inline constexpr const char* KJPrivilegedTaskDidTerminateNotification =
     "KJPrivilegedTaskDidTerminateNotification";
 
-/// Create it, set launch path and arguments, then `launch`. On 0 either call `waitUntilExit`, or
-/// let the main loop turn and wait for the notification or the termination handler. A task may be
-/// launched again once it has ended. All of it happens on the calling thread.
+/// After `launch` returns 0, call `waitUntilExit`, or keep the main loop running until the
+/// notification or the termination handler arrives. Reusable after the tool's exit. Main thread
+/// only.
 class KJPrivilegedTask : public std::enable_shared_from_this<KJPrivilegedTask> {
   public:
     using TerminationHandler = std::function<void(KJPrivilegedTask&)>;
 
-    /// Whether tools can be started as administrator here; the platform looks the call up by name
-    /// when it is first used.
+    /// Whether the platform offers AuthorizationExecuteWithPrivileges.
     [[nodiscard]] static bool authorizationFunctionAvailable(const platform::Platform& platform);
 
-    // Each of these launches, waits for the tool's end and returns the task, also when the launch
-    // failed: then it is not running and its termination status is 0.
+    // Each launches the tool, waits for its exit and returns the task. If the launch failed, the
+    // task is not running and its termination status is 0.
     static std::shared_ptr<KJPrivilegedTask> launchedPrivilegedTaskWithLaunchPath(
         const platform::Platform& platform, const std::string& launchPath);
     static std::shared_ptr<KJPrivilegedTask> launchedPrivilegedTaskWithLaunchPathArguments(
@@ -52,7 +51,7 @@ class KJPrivilegedTask : public std::enable_shared_from_this<KJPrivilegedTask> {
         const std::vector<std::string>& arguments, const std::string& currentDirectory,
         platform::AuthorizationRef authorization);
 
-    // A task that starts its tool in the process's current directory unless told otherwise.
+    // The working directory defaults to the process's at creation.
     static std::shared_ptr<KJPrivilegedTask> init(const platform::Platform& platform);
     static std::shared_ptr<KJPrivilegedTask> initWithLaunchPath(const platform::Platform& platform,
                                                                 const std::string& launchPath);
@@ -63,24 +62,25 @@ class KJPrivilegedTask : public std::enable_shared_from_this<KJPrivilegedTask> {
         const platform::Platform& platform, const std::string& launchPath,
         const std::vector<std::string>& arguments, const std::string& currentDirectory);
 
-    /// Asks for the right to run as administrator, then starts the tool. 0 also for a task that is
-    /// running already; else the platform's code, or FunctionUnavailable. The launch path must be
-    /// set. Blocks while the password prompt is up.
+    /// Obtains the administrator right, then starts the tool. Returns 0 on success or if already
+    /// running, else the platform's code or KJPrivilegedTaskErrorFunctionUnavailable. Needs a
+    /// launch path. Blocks during the password prompt.
     [[nodiscard]] platform::OSStatus launch();
-    /// The same with an authorization that the caller holds. Changes the process's working
-    /// directory for the length of the call.
+    /// Starts the tool with the caller's `authorization`; returns the codes of `launch`. Changes
+    /// the process's working directory during the call.
     [[nodiscard]] platform::OSStatus launchWithAuthorization(
         platform::AuthorizationRef authorization);
-    /// Blocks, spinning, until the tool has ended. Posts and calls nothing.
+    /// Blocks, polling without sleep, until the tool exits. Neither posts nor calls the handler.
     void waitUntilExit();
-    /// Looks once whether the tool has ended; the timer's work while nobody waits.
+    /// Polls once; called by the timer every 50 ms. After the tool's exit, posts the notification,
+    /// then calls the termination handler.
     void checkTaskStatus();
-    /// Does nothing: a tool that runs as root cannot be stopped through this class. Kept so.
+    /// Deliberately does nothing: a user's process may not signal a tool that runs as root.
     void terminate();
-    /// Class and address, then the command line, its arguments in single quotes, unescaped.
+    /// Class name, address, launch path, and the arguments in single quotes, unescaped.
     [[nodiscard]] std::string description() const;
 
-    // What is set here takes effect at the next launch.
+    // Arguments and paths take effect at the next launch.
     [[nodiscard]] const std::vector<std::string>& arguments() const { return arguments_; }
     void setArguments(std::vector<std::string> arguments);
     [[nodiscard]] const std::string& currentDirectoryPath() const { return currentDirectoryPath_; }
@@ -90,30 +90,29 @@ class KJPrivilegedTask : public std::enable_shared_from_this<KJPrivilegedTask> {
     [[nodiscard]] const TerminationHandler& terminationHandler() const {
         return terminationHandler_;
     }
-    /// Called once when the poll notices the end, after the notification.
+    /// Called by the poll, once per launch, after the notification.
     void setTerminationHandler(TerminationHandler handler);
 
-    /// The tool's standard output; null before the first launch.
+    /// The tool's standard output; null before the first successful launch.
     [[nodiscard]] const std::shared_ptr<FileHandle>& outputFileHandle() const {
         return outputFileHandle_;
     }
     [[nodiscard]] bool isRunning() const { return isRunning_; }
     [[nodiscard]] pid_t processIdentifier() const { return processIdentifier_; }
-    /// The tool's exit code once it has ended; 0 for a tool killed by a signal, and
-    /// `UnknownTerminationStatus` where the system could not tell how it ended.
+    /// The tool's exit code; 0 if a signal killed it, `UnknownTerminationStatus` if waitpid failed.
     [[nodiscard]] int terminationStatus() const { return terminationStatus_; }
 
-    /// Not 0: what is not known must not pass for success.
+    /// Not 0, so that an unknown status is not taken for success.
     static constexpr int UnknownTerminationStatus = -1;
 
   private:
     explicit KJPrivilegedTask(const platform::Platform& platform);
 
     [[nodiscard]] std::string inheritedDescription() const;
-    /// The status of a launch that ends before it began, if there is one.
+    /// The launch status if the task is already running or cannot be launched.
     [[nodiscard]] std::optional<platform::OSStatus> statusWithoutLaunch() const;
     void watch(std::FILE* communicationsPipe);
-    /// Looks once whether the child is still running; notes its end when it is not.
+    /// Polls once; stores the termination status after the exit.
     [[nodiscard]] bool childIsRunning();
 
     const platform::Platform platform_;

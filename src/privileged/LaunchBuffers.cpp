@@ -1,4 +1,4 @@
-// The scratch memory of one privileged launch.
+// Buffers and working directory for starting one tool as root.
 // SPDX-License-Identifier: MIT
 #include "privileged/LaunchBuffers.h"
 
@@ -18,8 +18,7 @@ struct Free {
     void operator()(char* buffer) const { std::free(buffer); }
 };
 
-// The saved directories are deliberately never released: whatever still refers to one when the
-// process ends finds it.
+// Deliberately frees no saved path before exit, so that pointers to them stay valid.
 const char* saveWorkingDirectory() {
     static std::deque<std::unique_ptr<char, Free>> saved;
     return saved.emplace_back(getcwd(nullptr, 0)).get();

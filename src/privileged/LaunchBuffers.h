@@ -1,4 +1,4 @@
-// The scratch memory of one privileged launch.
+// Buffers and working directory for starting one tool as root.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,10 +9,9 @@
 
 namespace brisel {
 
-/// The value of the item in the rights set: the address of the variable that holds the path's
-/// pointer, as many bytes long as the path. The right is matched by its name alone; the value is
-/// opaque, but the system copies all of those bytes, so the memory behind the variable is this
-/// object's own, up to the described length.
+/// The execute right's value: the pointer `path` itself, with strlen(path) as its length.
+/// Deliberate: the system matches the right by name and does not interpret the value. It copies
+/// `length()` bytes, so the buffer has at least that many.
 class RightsItemValue {
   public:
     /// `path` must outlive the object.
@@ -26,7 +25,7 @@ class RightsItemValue {
     std::vector<std::byte> memory_;
 };
 
-/// The tool's arguments as a null-terminated vector of C strings, each in a buffer of its own.
+/// The tool's argv, null-terminated and without argv[0]. Owns copies of the arguments.
 class ArgumentVector {
   public:
     explicit ArgumentVector(const std::vector<std::string>& arguments);
@@ -38,8 +37,7 @@ class ArgumentVector {
     std::vector<char*> pointers_;
 };
 
-/// Changes the process's working directory and changes it back when it goes. A directory that
-/// cannot be entered is ignored.
+/// Changes the process's working directory and restores it on destruction. Ignores chdir failures.
 class WorkingDirectory {
   public:
     explicit WorkingDirectory(const std::string& path);

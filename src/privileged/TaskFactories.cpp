@@ -1,4 +1,4 @@
-// Making privileged tasks: the initialisers, and the factories that also run them.
+// Initialisers of privileged tasks, and factories that also run them.
 // SPDX-License-Identifier: MIT
 #include "privileged/KJPrivilegedTask.h"
 
@@ -7,7 +7,7 @@ namespace brisel {
 namespace {
 
 std::shared_ptr<KJPrivilegedTask> launched(std::shared_ptr<KJPrivilegedTask> task) {
-    // A failed launch shows in the task, and in the log line of the wait.
+    // After a failed launch the task is not running, and waitUntilExit logs that.
     static_cast<void>(task->launch());
     task->waitUntilExit();
     return task;

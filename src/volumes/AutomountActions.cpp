@@ -1,4 +1,4 @@
-// Choosing and unchoosing a volume for automatic remounts, and dropping an unmounted one.
+// Menu actions on the automount list, and removal of an unmounted volume.
 // SPDX-License-Identifier: MIT
 #include "platform/Menu.h"
 #include "platform/SystemLog.h"
@@ -31,7 +31,7 @@ void NTFSVolumeManager::unsaveVolumeForAutomount(const platform::MenuItem& sende
 void NTFSVolumeManager::removeVolumeFromList(const std::shared_ptr<NTFSVolume>& volume) {
     removeVolume(volumes_, *volume);
     refreshVolumes();
-    // The volume is gone from the list and the menu either way; a failure here is only logged.
+    // The record is already removed; a failure is only logged.
     if (volume->volumePath()) {
         static_cast<void>(removeEmptyMountFolder(platform_, *volume->volumePath()));
     }

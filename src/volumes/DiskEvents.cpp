@@ -1,4 +1,4 @@
-// What the program does when disks come and go.
+// Handlers of Disk Arbitration's appeared and disappeared callbacks.
 // SPDX-License-Identifier: MIT
 #include "volumes/DiskEvents.h"
 
@@ -34,10 +34,9 @@ void warnOfForeignKind(platform::SystemLog& log, const std::string& name, const 
         "Please make sure to remove any third-party extension.");
 }
 
-// The label grows by the device node at every record that already has it, so twice where Data is
-// followed by Data-disk4s1. A stale record of the same device is dropped on the way. Where that
-// one is not the last of the list there is no label: the list has changed under the walk, and the
-// event ends right there, on purpose, with the stale record gone and nothing made in its place.
+// Appends "-" and the BSD name at each record with an equal label, so twice if Data is followed by
+// Data-disk4s1. Removes the device's stale record. Deliberately returns nothing if that was not the
+// last record: the list changed during the walk, so the event ends without a new record.
 std::optional<std::string> uniqueLabel(VolumeRecords& volumes, std::string label,
                                        const std::string& bsdName) {
     for (auto record = volumes.begin(); record != volumes.end(); ++record) {
@@ -98,8 +97,7 @@ void diskDisappeared(NTFSVolumeManager& manager, const platform::Disk& disk) {
     platform.systemLog.log("disk %s disappeared", disk.bsdName);
 
     const auto description = platform.diskArbitration.copyDescription(disk);
-    // Stricter than on appearance, deliberately: only a volume of exactly this kind is ours to
-    // drop, so the record of a foreign driver's volume stays.
+    // Deliberately stricter than diskAppeared: the record of a foreign driver's volume stays.
     if (!description.volumeMountable.value_or(false) || description.volumeKind != NTFSKind) return;
 
     const auto volume = findVolume(manager.volumes(), textOf(description.mediaBSDName));

@@ -1,4 +1,4 @@
-// What the program does when disks come and go.
+// Handlers of Disk Arbitration's appeared and disappeared callbacks.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,16 +10,16 @@ namespace brisel {
 
 class NTFSVolumeManager;
 
-/// Records an NTFS volume that has appeared, or was mounted again, under a label of its own;
-/// remounts it at once if the user chose that, else has the menu rebuilt. Other disks are logged
-/// and ignored. Main thread.
+/// Records a new or remounted NTFS volume under a unique label. Remounts it if it is read-only and
+/// on the automount list; otherwise refreshes the menu. Only logs other disks. Main thread.
 void diskAppeared(NTFSVolumeManager& manager, const platform::Disk& disk);
 
-/// Drops the record of a volume that has gone, and its emptied mount point. Main thread.
+/// Removes the volume's record and its empty mount point. Keeps the record if
+/// removeEmptyMountFolder fails. Main thread.
 void diskDisappeared(NTFSVolumeManager& manager, const platform::Disk& disk);
 
-/// Deletes a mount point folder if nothing is in it. False, after a log line, when the folder
-/// could not be listed or deleted; a folder that holds something stays, and that is no failure.
+/// Deletes a mount point folder if it is empty. False, after a log line, if listing or deleting
+/// fails.
 [[nodiscard]] bool removeEmptyMountFolder(const platform::Platform& platform,
                                           const platform::FileURL& folder);
 

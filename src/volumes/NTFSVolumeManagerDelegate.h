@@ -1,4 +1,4 @@
-// What the volume manager asks of the application.
+// Delegate of the volume manager: refreshes the menu and the icon.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,10 +9,9 @@ class NTFSVolumeManagerDelegate {
   public:
     virtual ~NTFSVolumeManagerDelegate() = default;
 
-    /// Rebuilds the status menu from the manager's volumes and its busy flag. It must not change
-    /// the list of volumes.
+    /// Rebuilds the status menu. Must not change the manager's volumes.
     virtual void refreshVolumes() = 0;
-    /// Switches the status icon to its error state.
+    /// Shows the error icon.
     virtual void errorIcon() = 0;
 };
 

@@ -1,4 +1,4 @@
-// The automount list: the UUIDs of the volumes to be remounted without asking.
+// The automount list: UUIDs of volumes that are remounted without a prompt.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,22 +13,22 @@ namespace platform {
 class SystemLog;
 }
 
-/// Kept in the user defaults under "volumeList", oldest first. No instances, no state; main thread.
+/// User defaults key "volumeList", oldest entry first. Main thread only.
 class VolumeListHelper {
   public:
     VolumeListHelper() = delete;
 
-    /// The stored list; null when there is none (or something else is stored under its key).
+    /// Null if absent or not an array of strings.
     [[nodiscard]] static platform::UserDefaults::StringArray obtain(
         const platform::UserDefaults& defaults);
     /// Stores the list and writes the defaults to disk.
     static void save(platform::UserDefaults& defaults, platform::UserDefaults::StringArray uuids);
-    /// Appends a UUID, also one that is listed already; a list of 128 first loses its oldest entry.
+    /// Appends `uuid`, even if already listed. A list of 128 entries first loses its oldest.
     static void add(platform::UserDefaults& defaults, platform::SystemLog& log,
                     const std::string& uuid);
-    /// Removes every entry equal to the UUID, and stores the list also when there was none.
+    /// Removes all equal entries; stores the list even if it was absent.
     static void remove(platform::UserDefaults& defaults, const std::string& uuid);
-    /// Whether the UUID is listed; no for none.
+    /// False if `uuid` is empty.
     [[nodiscard]] static bool contains(const platform::UserDefaults& defaults,
                                        const std::optional<std::string>& uuid);
 };

@@ -1,4 +1,4 @@
-// The buttons of an alert where the platform has no default button of its own.
+// Alert buttons for platforms without a default button.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,7 +9,7 @@
 
 namespace brisel::platform::common {
 
-/// The titles as asked for, or a single "OK".
+/// The requested titles, or a single "OK".
 inline std::vector<std::string> buttonsOf(const AlertContent& content) {
     return content.buttons.empty() ? std::vector<std::string>{"OK"} : content.buttons;
 }

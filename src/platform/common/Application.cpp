@@ -1,4 +1,4 @@
-// The end of the application.
+// Termination of the application, for platforms without an application framework.
 // SPDX-License-Identifier: MIT
 #include "platform/common/Application.h"
 

@@ -1,4 +1,4 @@
-// The end of the application, where no framework brings it about.
+// Termination of the application, for platforms without an application framework.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,12 +11,12 @@ namespace brisel::platform::common {
 
 class Application : public platform::Application {
   public:
-    /// Runs the termination step and lets the main loop end, once; returns.
+    /// Runs the termination step, then the end callback, and returns. Later calls do nothing.
     void terminate() final;
     void activateIgnoringOtherApps() override {}
 
     void setTerminationStep(std::function<void()> step) { terminationStep_ = std::move(step); }
-    /// Called at the end of `terminate`.
+    /// `end` stops the main loop; called at the end of `terminate`.
     void setEnd(std::function<void()> end) { end_ = std::move(end); }
     [[nodiscard]] bool terminated() const { return terminated_; }
 

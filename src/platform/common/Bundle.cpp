@@ -1,4 +1,4 @@
-// The application's built-in resources.
+// Resources built into the program.
 // SPDX-License-Identifier: MIT
 #include "platform/common/Bundle.h"
 
@@ -23,7 +23,7 @@ const EmbeddedTable* findTable(std::string_view language) {
     return found == tables.end() ? nullptr : &*found;
 }
 
-// Drops subtags from the end until there is a table: pt-BR, then pt. Null where there is none.
+// Drops trailing subtags until a table matches: pt-BR, then pt. Null if none matches.
 const EmbeddedTable* closestTable(std::string_view code) {
     while (!code.empty()) {
         if (const auto* const table = findTable(code)) return table;

@@ -1,4 +1,4 @@
-// The application's resources where they are built into the program.
+// Resources built into the program.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,26 +11,27 @@
 
 namespace brisel::platform::common {
 
-/// One language's table as it stands in the resources.
+/// One language's Localizable.strings.
 struct EmbeddedTable {
     std::string_view language;
     std::string_view text;
 };
 
-/// All tables that were built in; defined in a source made from resources/.
+/// All embedded tables; defined in a source generated from resources/.
 const std::vector<EmbeddedTable>& embeddedTables();
 
 class Bundle : public platform::Bundle {
   public:
-    /// English.
+    /// Selects English.
     Bundle();
 
-    /// Takes the texts of this language, such as "de", "pt-BR" or "zh-Hans"; for an unknown
-    /// variant those of the plain language, for an unknown language the English ones.
+    /// Selects a language, such as "de", "pt-BR" or "zh-Hans". Falls back from a variant to its
+    /// base language, then to English.
     void setLanguage(std::string_view code) { setLanguages({std::string(code)}); }
-    /// The same for the first of these languages that there are texts in.
+    /// Selects the first of `codes` for which a table, or its base language's, exists; else
+    /// English.
     void setLanguages(const std::vector<std::string>& codes);
-    /// The language of the texts.
+    /// The selected table's language.
     [[nodiscard]] const std::string& language() const { return language_; }
 
     [[nodiscard]] std::string localizedString(std::string_view key) const override;

@@ -1,4 +1,4 @@
-// Notifications within the process.
+// Named notifications within the process.
 // SPDX-License-Identifier: MIT
 #include "platform/common/NotificationCenter.h"
 

@@ -1,4 +1,4 @@
-// Notifications within the process, for platforms that have no service of their own for them.
+// Named notifications within the process, for platforms without NSNotificationCenter.
 // SPDX-License-Identifier: MIT
 #pragma once
 

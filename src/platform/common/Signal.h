@@ -1,4 +1,4 @@
-// A list of callbacks whose registrations end with their owners.
+// A list of callbacks, each registered until its Subscription ends.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,8 +11,8 @@
 
 namespace brisel::platform::common {
 
-/// One thread. Slots are called in the order in which they came; one that comes during a call hears
-/// from the next on. A subscription may outlive the signal; a callback may end any subscription.
+/// Not thread-safe. Calls slots in subscription order; a slot added during a call is first called
+/// in the next one. A subscription may outlive the signal; a slot may end any subscription.
 template <typename... Arguments>
 class Signal {
   public:

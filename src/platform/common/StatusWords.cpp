@@ -1,4 +1,4 @@
-// The state that a status image stands for, in words.
+// Textual descriptions of the status images.
 // SPDX-License-Identifier: MIT
 #include "platform/common/StatusWords.h"
 

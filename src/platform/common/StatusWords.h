@@ -1,4 +1,4 @@
-// The state that a status image stands for, in words.
+// Textual descriptions of the status images.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,8 +6,8 @@
 
 namespace brisel::platform::common {
 
-/// The localisation key of the words for the image of this name, such as "a volume is writable"
-/// for a blue one: colour alone tells nothing to some people. Empty for no status image.
+/// Localisation key of an image's description, such as "a volume is writable" for the blue images,
+/// for users who cannot tell the colours apart. Empty if `imageName` is not a status image.
 std::string_view statusWords(std::string_view imageName);
 
 }  // namespace brisel::platform::common

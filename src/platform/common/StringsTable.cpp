@@ -1,4 +1,4 @@
-// Reading a table of localised texts.
+// Parser of the .strings format.
 // SPDX-License-Identifier: MIT
 #include "platform/common/StringsTable.h"
 
@@ -13,7 +13,7 @@ class Scanner {
   public:
     explicit Scanner(std::string_view text) : rest_(text) {}
 
-    /// False at a comment that does not end.
+    /// False at an unterminated comment.
     bool skipBlanksAndComments() {
         while (true) {
             rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t\r\n"), rest_.size()));

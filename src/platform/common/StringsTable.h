@@ -13,10 +13,10 @@ namespace brisel::platform::common {
 /// Pairs `"key" = "value";` with comments in between; `\n`, `\t`, `\"`, `\\` are escapes.
 class StringsTable {
   public:
-    /// None when the text is not well-formed.
+    /// Absent if `text` is malformed.
     [[nodiscard]] static std::optional<StringsTable> parse(std::string_view text);
 
-    /// The value for the key, else the key itself.
+    /// The value of `key`, or `key` itself if it is missing.
     [[nodiscard]] std::string localizedString(std::string_view key) const;
     [[nodiscard]] const std::map<std::string, std::string, std::less<>>& texts() const {
         return texts_;

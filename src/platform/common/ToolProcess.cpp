@@ -1,4 +1,4 @@
-// A child process with its standard output on a socket.
+// Starts a child process with its standard input and output on a socket.
 // SPDX-License-Identifier: MIT
 #include "platform/common/ToolProcess.h"
 
@@ -25,12 +25,12 @@ StartedTool failure() {
     return {.status = errAuthorizationToolExecuteFailure, .communicationsPipe = nullptr};
 }
 
-// Two sockets that no program started from here inherits; false when there are none.
+// Creates two connected close-on-exec sockets; false on failure.
 bool makeSockets(std::array<int, 2>& ends) {
 #ifdef SOCK_CLOEXEC
     return socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) == 0;
 #else
-    // Not every system can ask for that in one call.
+    // macOS has no SOCK_CLOEXEC.
     if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0) return false;
     for (const int end : ends)
         fcntl(end, F_SETFD, FD_CLOEXEC);

@@ -1,4 +1,4 @@
-// A child process with its standard output on a socket, handed out as a privileged start is.
+// Starts a child process with its standard input and output on a socket.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,9 +8,9 @@
 
 namespace brisel::platform::common {
 
-/// Forks and runs `body` in the child, with the socket as its standard input and output. `body`
-/// must end the process or replace it, and may call only what is safe after a fork. The parent's
-/// descriptor is owned (F_GETOWN) by the child.
+/// Forks and runs `body` in the child. `body` must exit or exec, and may call only
+/// async-signal-safe functions. The owner (F_GETOWN) of the returned stream's descriptor is the
+/// child. Fails with errAuthorizationToolExecuteFailure.
 [[nodiscard]] StartedTool startToolProcess(const std::function<void()>& body);
 
 }  // namespace brisel::platform::common

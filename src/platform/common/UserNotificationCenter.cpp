@@ -1,4 +1,4 @@
-// What notification centers without a framework have in common.
+// Base of the notification centers of platforms without User Notifications.
 // SPDX-License-Identifier: MIT
 #include "platform/common/UserNotificationCenter.h"
 

@@ -1,4 +1,4 @@
-// What notification centers without a framework have in common.
+// Base of the notification centers of platforms without User Notifications.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -14,14 +14,14 @@ class UserNotificationCenter : public platform::UserNotificationCenter {
   public:
     [[nodiscard]] Subscription setDelegate(ResponseHandler handler) final;
     void setNotificationCategories(const std::vector<NotificationCategory>& categories) final;
-    /// Granted: who does not want notifications here says so elsewhere.
+    /// Always granted; these platforms have no permission request.
     void requestAuthorization(unsigned options, AuthorizationHandler handler) final;
 
   protected:
-    /// The actions of the request's category; none for an unknown one.
+    /// The actions of the request's category; empty if the category is unknown.
     [[nodiscard]] const std::vector<NotificationAction>& actionsOf(
         const NotificationRequest& request) const;
-    /// Tells the delegate what was chosen.
+    /// Passes the response to the delegate.
     void respond(const NotificationResponse& response) const;
 
   private:

@@ -1,4 +1,4 @@
-// Outside text made harmless to show.
+// Makes control characters in untrusted text visible.
 // SPDX-License-Identifier: MIT
 #include "platform/common/VisibleText.h"
 
@@ -9,7 +9,7 @@ namespace {
 constexpr unsigned char Delete = 0x7F;
 constexpr unsigned char FirstPrintable = 0x20;
 constexpr unsigned char CaretOffset = 0x40;
-// In UTF-8 the control characters U+0080 to U+009F are this byte and one from 0x80 to 0x9F.
+// UTF-8 encodes U+0080 to U+009F as this byte and one from 0x80 to 0x9F.
 constexpr unsigned char C1Lead = 0xC2;
 constexpr unsigned char C1Last = 0x9F;
 

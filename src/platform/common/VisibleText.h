@@ -1,4 +1,4 @@
-// Outside text, such as a volume's label, made harmless to show.
+// Makes control characters in untrusted text, such as a volume's label, visible.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,7 +7,8 @@
 
 namespace brisel::platform::common {
 
-/// The text with its control characters made visible: `^[` for escape, and so on.
+/// Replaces ASCII control characters with caret notation (`^[` for escape) and U+0080 to U+009F
+/// with `?`.
 std::string visible(std::string_view text);
 
 }  // namespace brisel::platform::common

@@ -18,7 +18,7 @@ class Application final : public platform::Application {
     void activateIgnoringOtherApps() override { transcript_.write("activate"); }
     void orderFrontStandardAboutPanel() override { transcript_.write("about"); }
 
-    /// What the application's delegate does before the end.
+    /// `step` stands for the delegate's applicationWillTerminate.
     void setTerminationStep(std::function<void()> step) { terminationStep_ = std::move(step); }
 
   private:

@@ -26,8 +26,8 @@ std::vector<std::string> commandLine(const char* path, char* const* arguments) {
     return command;
 }
 
-// Runs in the child. What the socket does not hold is left to a process of its own: the reader
-// itself waits for the tool's end before it reads.
+// Runs in the child. Forks a writer for output beyond the socket's buffer, because the reader waits
+// for the tool's exit before it reads.
 void print(std::string_view output) {
     const auto sent = send(STDOUT_FILENO, output.data(), output.size(), MSG_DONTWAIT);
     if (sent > 0) output.remove_prefix(static_cast<std::size_t>(sent));

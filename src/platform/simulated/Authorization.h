@@ -1,4 +1,4 @@
-// The simulated administrator prompt and the tools that are started behind it.
+// The simulated Authorization Services: administrator prompt and privileged tools.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -29,23 +29,22 @@ class Authorization final : public platform::Authorization {
                                                     const char* pathToTool, std::uint32_t flags,
                                                     char* const* arguments) override;
 
-    // The control face.
+    // Test controls.
 
-    /// How the mount tool ends.
     struct ToolEnd {
         int exitStatus = 0;
-        /// 0, or the signal that ends it.
+        /// The signal that kills the tool, or 0.
         int signal = 0;
         std::string output;
     };
 
     void setToolEnd(ToolEnd end) { toolEnd_ = std::move(end); }
-    /// Lets the next start of a tool fail.
+    /// Makes the next executeWithPrivileges fail with `status`.
     void failLaunch(OSStatus status) { launchFailure_ = status; }
-    /// Takes the call that starts a tool away.
+    /// Makes executeWithPrivileges unavailable.
     void removeExecuteWithPrivileges() { missing_ = true; }
 
-    /// The right that was asked for last, its value copied as the real service copies it.
+    /// The last requested right; its value is copied, as the real service does.
     struct AskedRight {
         std::string name;
         std::string value;
@@ -53,7 +52,7 @@ class Authorization final : public platform::Authorization {
         std::uint32_t flags = 0;
     };
     [[nodiscard]] const AskedRight& askedRight() const { return askedRight_; }
-    /// Authorizations that were created and not freed.
+    /// Number of authorizations created and not freed.
     [[nodiscard]] std::size_t unfreed() const { return references_.size(); }
 
   private:

@@ -1,4 +1,4 @@
-// The simulated disk-arbitration service.
+// The simulated Disk Arbitration.
 // SPDX-License-Identifier: MIT
 #include "platform/simulated/DiskArbitration.h"
 
@@ -99,7 +99,7 @@ std::optional<std::uint32_t> DiskArbitration::judgeMount(Entry* entry) {
 
 void DiskArbitration::complete(const Disk& disk, std::optional<std::uint32_t> refusal,
                                Completion completion) {
-    // Only the name goes on: what a completion sees is the disk of that name by then.
+    // Passes only the name: the completion sees the disk's state at delivery.
     auto work = [name = disk.bsdName, refusal, completion = std::move(completion)] {
         const auto dissenter =
             refusal ? std::optional<Dissenter>({.status = *refusal}) : std::nullopt;

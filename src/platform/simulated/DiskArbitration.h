@@ -1,4 +1,4 @@
-// The disks of the simulated Mac, and the service that tells of them.
+// The simulated Disk Arbitration and its disks.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -21,7 +21,7 @@ class DiskArbitration final : public platform::DiskArbitration {
     DiskArbitration(Transcript& transcript, Faults& faults, MainLoop& mainLoop,
                     FileSystem& fileSystem);
 
-    // The service.
+    // Functions of the service.
     void createSession() override;
     [[nodiscard]] Subscription registerDiskAppearedCallback(DiskCallback callback) override;
     [[nodiscard]] Subscription registerDiskDisappearedCallback(DiskCallback callback) override;
@@ -35,43 +35,43 @@ class DiskArbitration final : public platform::DiskArbitration {
     void mountWithArguments(const Disk& disk, const std::vector<std::string>& arguments,
                             Completion completion) override;
 
-    // The control face. Devices are BSD names.
+    // Test controls. Devices are BSD names.
 
-    /// A disk as it is told to the simulated Mac.
+    /// The state of a simulated disk.
     struct Properties {
         DiskDescription description;
-        /// The file manager's answer for its path.
+        /// The file manager's isWritableFileAtPath for the disk's path.
         bool writable = false;
     };
 
     [[nodiscard]] bool isAttached(const std::string& device) const;
     [[nodiscard]] bool wasEverAttached(const std::string& device) const;
-    /// The disk appears; it must not be there.
+    /// Attaches and reports a disk, which must not be attached.
     void attach(const std::string& device, Properties properties);
-    /// Changes a disk that is there, and reports nothing.
+    /// Changes an attached disk without a report.
     void change(const std::string& device, Properties properties);
     [[nodiscard]] const Properties& properties(const std::string& device) const;
-    /// Reports a disk that is there as appeared once more.
+    /// Reports an attached disk as appeared again.
     void report(const std::string& device);
-    /// The disk disappears.
     void detach(const std::string& device);
-    /// Refuses the next such request for a disk that was once there.
+    /// Refuses the next unmount or mount of a disk that is, or was, attached.
     void refuseUnmount(const std::string& device, std::uint32_t status);
     void refuseMount(const std::string& device, std::uint32_t status);
-    /// Keeps back the completions of requests from now on.
+    /// Holds back the completions of requests until `release`.
     void hold() { holding_ = true; }
-    /// Lets go what was kept back.
+    /// Queues the held completions on the main loop and stops holding.
     void release();
-    /// Mounts a disk, writable, if it is there, as a mount behind Disk Arbitration's back does.
+    /// Mounts a disk read-write without Disk Arbitration, as the mount tool does. Does nothing if
+    /// the disk is not attached.
     void mountBehind(const std::string& device, const std::string& path);
-    /// Whether a disk that is there is mounted, writable, at this path.
+    /// Whether an attached disk is mounted read-write at `path`.
     [[nodiscard]] bool isWritable(const std::string& path) const;
 
   private:
     struct Entry {
         Properties properties;
         bool attached = false;
-        /// When it was last mounted, and attached: larger is later.
+        /// Order of the last mount and of the last attachment; larger is later.
         std::uint64_t mounted = 0;
         std::uint64_t appeared = 0;
         std::optional<std::uint32_t> unmountRefusal;
@@ -80,7 +80,7 @@ class DiskArbitration final : public platform::DiskArbitration {
 
     using Disks = std::map<std::string, Entry>;
 
-    /// The end of the disks where none is mounted there.
+    /// The attached disk last mounted at `path`, or the end of `disks_`.
     [[nodiscard]] Disks::const_iterator diskMountedAt(const FileURL& path) const;
     void mount(Entry& entry, const std::string& path);
     void postReport(const common::Signal<const Disk&>& signal, const std::string& device);

@@ -1,4 +1,4 @@
-// Making the k-th call that can fail do so.
+// Fault injection: makes the k-th fallible call fail.
 // SPDX-License-Identifier: MIT
 #include "platform/simulated/Faults.h"
 

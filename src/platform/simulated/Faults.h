@@ -1,4 +1,4 @@
-// Making the k-th call that can fail do so.
+// Fault injection: makes the k-th fallible call fail.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,18 +12,18 @@ namespace brisel::platform::simulated {
 
 class Faults {
   public:
-    /// Lets the call of this number fail, counted from 1 over all services; 0 for none.
+    /// Makes the call of this number fail, counted from 1 across all services; 0 disables it.
     void failCall(std::size_t number) { failing_ = number; }
 
-    /// To be asked by every service at the start of a call that can fail: whether this one does.
+    /// Counts a fallible call; true if it is to fail. Services call it first.
     [[nodiscard]] bool strikes(std::string_view call);
 
-    /// How many calls could have failed so far.
+    /// Number of fallible calls so far.
     [[nodiscard]] std::size_t calls() const { return calls_; }
-    /// The name of the call that failed; empty as long as none has.
+    /// Name of the failed call; empty if none has failed.
     [[nodiscard]] const std::string& struck() const { return struck_; }
 
-    /// What a struck call says.
+    /// The error of a failed call.
     [[nodiscard]] static Error error();
 
   private:

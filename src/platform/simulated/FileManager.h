@@ -27,11 +27,11 @@ class FileManager final : public platform::FileManager {
     [[nodiscard]] std::optional<Error> createDirectory(const std::string& path) override;
     [[nodiscard]] std::optional<Error> removeItem(const std::string& path) override;
 
-    // The control face.
+    // Test controls.
     enum class Call { Create, List, Delete };
     void setHomeDirectory(std::string path) { home_ = std::move(path); }
     void setCurrentDirectory(std::string path) { current_ = std::move(path); }
-    /// Lets the next such call fail; errors given for one call are used up in order.
+    /// Makes the next such call fail; errors for one call are used in order.
     void fail(Call call, Error error);
 
   private:

@@ -9,20 +9,20 @@
 
 namespace brisel::platform::simulated {
 
-/// Paths are absolute; "." and ".." are resolved by the text alone, as there are no links.
+/// Paths are absolute. Resolves "." and ".." lexically: there are no symbolic links.
 class FileSystem {
   public:
     [[nodiscard]] bool hasFolder(const std::string& path) const;
-    /// Makes the folder and those above it.
+    /// Creates the folder and its parents.
     void makeFolder(const std::string& path);
-    /// Makes a file and the folders above it.
+    /// Creates a file and its parent folders.
     void makeFile(const std::string& path);
-    /// Removes the folder and all that is in it.
+    /// Removes the folder and its contents.
     void removeFolder(const std::string& path);
-    /// Removes what is in the folder, if it is there.
+    /// Removes the folder's contents; does nothing if the folder does not exist.
     void emptyFolder(const std::string& path);
     [[nodiscard]] std::size_t entryCount(const std::string& folder) const;
-    /// The folders at and below `path`, in alphabetical order.
+    /// `path` and the folders below it that exist, in alphabetical order.
     [[nodiscard]] std::vector<std::string> foldersFrom(const std::string& path) const;
 
   private:

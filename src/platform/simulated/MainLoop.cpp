@@ -12,7 +12,7 @@ Subscription MainLoop::scheduledTimer(std::chrono::milliseconds interval,
     const auto timer = std::make_shared<Timer>(
         Timer{.interval = interval, .due = now_ + interval, .fire = std::move(fire)});
     timers_->push_back(timer);
-    // Weak on both sides: what a timer calls may own its subscription.
+    // Weak references: a timer's callback may own the subscription.
     return Subscription([timers = std::weak_ptr(timers_), ended = std::weak_ptr(timer)] {
         if (const auto list = timers.lock()) std::erase(*list, ended.lock());
     });

@@ -1,4 +1,4 @@
-// The simulated main loop: one queue, first in first out, and a clock turned by hand.
+// The simulated main loop: a FIFO queue and a manual clock.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -17,13 +17,12 @@ class MainLoop final : public RunLoop {
     [[nodiscard]] Subscription scheduledTimer(std::chrono::milliseconds interval,
                                               std::function<void()> fire) override;
 
-    /// Lets `work` wait for the main loop.
     void post(std::function<void()> work);
-    /// Runs what waits first; false when nothing does.
+    /// Runs the first queued work; false if the queue is empty.
     bool turnOnce();
-    /// Runs what waits, and what that lets wait, until nothing does.
+    /// Runs queued work until the queue is empty.
     void turnUntilIdle();
-    /// Moves the clock on, step by step where timers come due, and turns until idle.
+    /// Advances the clock, fires the timers that come due in order, and turns until idle.
     void advanceClock(std::chrono::milliseconds time);
 
   private:

@@ -1,4 +1,4 @@
-// Whoever sits before the simulated Mac and answers what blocks the program.
+// The simulated user: answers alerts and password prompts.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,15 +9,15 @@
 
 namespace brisel::platform::simulated {
 
-/// Both calls come while the program is blocked; the surroundings may be changed before answering.
-/// Either may throw ProgramEnded instead.
+/// Called while the program is blocked. May change the simulated Mac before it answers, or throw
+/// ProgramEnded.
 class Person {
   public:
     virtual ~Person() = default;
 
-    /// The index of the button pressed, from 0; `buttons` are never empty here.
+    /// The pressed button's index, from 0. `alert.buttons` is never empty.
     virtual int answerAlert(const AlertContent& alert) = 0;
-    /// The status of the administrator prompt: 0 for the right password.
+    /// The administrator prompt's status; 0 if the password is accepted.
     virtual OSStatus answerPasswordPrompt(const std::string& right) = 0;
 };
 

@@ -4,8 +4,8 @@
 
 namespace brisel::platform::simulated {
 
-/// Thrown where a real process would end: it unwinds whatever the program was doing, so that
-/// nothing of it runs any more, up to whoever started the simulation. Nothing else throws here.
+/// Thrown where a real process would exit. Unwinds the program up to the caller that started the
+/// simulation. The simulated Mac throws nothing else.
 struct ProgramEnded {};
 
 }  // namespace brisel::platform::simulated

@@ -21,7 +21,6 @@ class ScriptRunner final : public platform::ScriptRunner {
         : transcript_(transcript), faults_(faults) {}
     [[nodiscard]] ScriptResult execute(const std::string& source) override;
 
-    /// Lets the next script fail with this error.
     void failNext(ErrorDictionary error) { nextError_ = std::move(error); }
 
   private:

@@ -22,10 +22,10 @@ class StatusItem final : public platform::StatusItem {
     [[nodiscard]] std::string effectiveAppearanceName() const override { return appearance_; }
     [[nodiscard]] Subscription observeEffectiveAppearance(std::function<void()> changed) override;
 
-    // The control face.
-    /// Observers hear at once.
+    // Test controls.
+    /// Calls the observers before it returns.
     void setAppearance(std::string name);
-    /// The length it was created with, if it was.
+    /// The length given to `create`; absent before.
     [[nodiscard]] std::optional<double> length() const { return length_; }
     [[nodiscard]] bool showsMenu() const { return showsMenu_; }
 

@@ -1,4 +1,4 @@
-// What the program did to its surroundings.
+// The program's effects on its platform.
 // SPDX-License-Identifier: MIT
 #include "platform/simulated/Transcript.h"
 

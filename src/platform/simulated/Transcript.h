@@ -1,4 +1,4 @@
-// What the program did to its surroundings, in order, one event a line.
+// The program's effects on its platform, in order, one event per line.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -15,16 +15,15 @@ class Transcript {
   public:
     using Listener = std::function<void(const std::string& line)>;
 
-    /// Hears each line as it is written.
+    /// Calls `listener` with each line as it is written.
     void setListener(Listener listener);
-    /// Writes a line; line breaks in it become `\n`.
+    /// Writes a line; escapes line breaks as `\n`.
     void write(std::string_view line);
-    /// Writes a formatted line.
     template <typename... Values>
     void record(std::string_view format, const Values&... values) {
         write(stringWithFormat(format, values...));
     }
-    /// Keeps no lines from here on: the listener alone hears them.
+    /// Stops storing lines; the listener still receives them.
     void keepNothing() { keeps_ = false; }
     [[nodiscard]] const std::vector<std::string>& lines() const { return lines_; }
 

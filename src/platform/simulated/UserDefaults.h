@@ -15,7 +15,7 @@ namespace brisel::platform::simulated {
 
 class UserDefaults final : public platform::UserDefaults {
   public:
-    /// A text stands for a value of a type that the program does not write.
+    /// A string stands for any type that the program does not write.
     using Value = std::variant<bool, StringArray, std::string>;
 
     explicit UserDefaults(Transcript& transcript) : transcript_(transcript) {}
@@ -27,12 +27,12 @@ class UserDefaults final : public platform::UserDefaults {
     void setStringArray(std::string_view key, StringArray value) override;
     void synchronize() override;
 
-    // The control face.
-    /// Stores a preference behind the program's back.
+    // Test controls.
+    /// Stores a preference without a line in the transcript.
     void store(const std::string& key, Value value);
     /// `KEY = VALUE` for each stored key, in alphabetical order.
     [[nodiscard]] std::vector<std::string> stored() const;
-    /// How often the program has read a list.
+    /// Number of calls of stringArrayForKey.
     [[nodiscard]] std::size_t listReads() const { return listReads_; }
 
   private:

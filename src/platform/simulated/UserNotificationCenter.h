@@ -1,4 +1,4 @@
-// The notification center of the simulated Mac, which answers at once.
+// The simulated notification center, which calls its handlers at once.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -21,21 +21,19 @@ class UserNotificationCenter final : public platform::UserNotificationCenter {
     void requestAuthorization(unsigned options, AuthorizationHandler handler) override;
     void addNotificationRequest(const NotificationRequest& request, AddHandler handler) override;
 
-    // The control face.
+    // Test controls.
     enum class Permission { Allow, Deny, Error };
     void setPermission(Permission permission) { permission_ = permission; }
-    /// The next notification handed over is not accepted.
     void refuseNextRequest() { refusesNext_ = true; }
     [[nodiscard]] const std::vector<NotificationCategory>& categories() const {
         return categories_;
     }
-    /// The prompt that was accepted last.
+    /// The last accepted request.
     [[nodiscard]] const std::optional<NotificationRequest>& lastPrompt() const {
         return lastPrompt_;
     }
-    /// The user's response.
     void respond(const NotificationResponse& response) const;
-    /// How often a response's completion handler was called.
+    /// Number of completion handler calls for responses.
     [[nodiscard]] int completedResponses() const { return completedResponses_; }
 
   private:
