@@ -145,7 +145,7 @@ TEST(AVolume, IsHibernatedByTheFirstWordOfItsFile) {
     };
     EXPECT_TRUE(hibernatedWith("hibr and more"));
     EXPECT_TRUE(hibernatedWith("HIBR"));
-    // Woken up; a whole one without a session; too short.
+    // A resumed session; a full file without a session; a truncated one.
     EXPECT_FALSE(hibernatedWith("RSTR and more"));
     EXPECT_FALSE(hibernatedWith(std::string(8192, '\0')));
     EXPECT_FALSE(hibernatedWith("hib"));
