@@ -19,7 +19,7 @@ TEST(VolumeList, FindsTheFirstMatch) {
     EXPECT_EQ(findVolume(list, "disk2"), list[1]);
 }
 
-TEST(VolumeList, FindsNothingForAnUnknownDeviceOrNone) {
+TEST(VolumeList, FindsNothingForAnUnknownOrMissingDevice) {
     const VolumeList list{record("disk1"), NTFSVolume::initWithVolume({})};
     EXPECT_EQ(findVolume(list, "disk10"), nullptr);
     EXPECT_EQ(findVolume(list, std::nullopt), nullptr);
@@ -33,13 +33,13 @@ TEST(VolumeList, RemovesByIdentity) {
     EXPECT_THAT(list, testing::ElementsAre(one));
 }
 
-TEST(VolumeList, LosesNothingWithARecordItDoesNotHold) {
+TEST(VolumeList, IgnoresTheRemovalOfAnUnknownRecord) {
     VolumeList list{record("disk1")};
     removeVolume(list, *record("disk1"));
     EXPECT_EQ(list.size(), 1U);
 }
 
-TEST(VolumeList, LosesOnlyTheFirstOfADevice) {
+TEST(VolumeList, RemovesOnlyTheFirstOfADevice) {
     const auto second = record("disk1");
     VolumeList list{record("disk1"), second};
     removeFirstVolume(list, "disk1");

@@ -56,7 +56,7 @@ TEST_F(Menu, ChecksTheItemOfTheAction) {
     EXPECT_FALSE(menu.items()[1].checked);
 }
 
-TEST_F(Menu, TellsOnceThatItWasRebuilt) {
+TEST_F(Menu, ReportsARebuildOnce) {
     EXPECT_FALSE(menu.takeRebuilt());
     menu.insertItem(item("a"), 0);
     EXPECT_TRUE(menu.takeRebuilt());
