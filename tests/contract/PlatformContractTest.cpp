@@ -66,7 +66,7 @@ class Platform : public testing::Test {
 using Platforms = testing::Types<Simulated, Linux>;
 TYPED_TEST_SUITE(Platform, Platforms);
 
-TYPED_TEST(Platform, MakesAFolderWithThoseAboveItAndASecondTimeToo) {
+TYPED_TEST(Platform, CreatesAFolderWithItsParentsAndAcceptsAnExistingOne) {
     auto& files = this->services_.files();
     EXPECT_FALSE(files.createDirectory(this->mountPoint_).has_value());
     EXPECT_FALSE(files.createDirectory(this->mountPoint_).has_value());
@@ -93,7 +93,7 @@ TYPED_TEST(Platform, RemovesAnEmptyFolderAndLeavesTheOneAbove) {
     EXPECT_EQ(files.contentsOfDirectory(above).entryCount, 0U);
 }
 
-TYPED_TEST(Platform, SaysThatAFolderIsMissing) {
+TYPED_TEST(Platform, ReportsAMissingFolder) {
     auto& files = this->services_.files();
     const auto listing = files.contentsOfDirectory(platform::FileURL(this->mountPoint_));
     ASSERT_TRUE(listing.error.has_value());
@@ -104,12 +104,12 @@ TYPED_TEST(Platform, SaysThatAFolderIsMissing) {
               "No such file or directory");
 }
 
-TYPED_TEST(Platform, TakesNoPathForUnwritable) {
+TYPED_TEST(Platform, TreatsAMissingPathAsUnwritable) {
     EXPECT_FALSE(this->services_.files().isWritableFileAtPath(std::nullopt));
     EXPECT_FALSE(this->services_.files().isWritableFileAtPath(this->mountPoint_));
 }
 
-TYPED_TEST(Platform, AnswersARegisteredDefaultUntilAnotherIsStored) {
+TYPED_TEST(Platform, ReturnsARegisteredDefaultUntilAValueIsStored) {
     auto& defaults = this->services_.defaults();
     EXPECT_FALSE(defaults.boolForKey("showDisclaimer"));
     defaults.registerDefaults({{"showDisclaimer", true}});
@@ -119,7 +119,7 @@ TYPED_TEST(Platform, AnswersARegisteredDefaultUntilAnotherIsStored) {
     EXPECT_FALSE(defaults.boolForKey("showDisclaimer"));
 }
 
-TYPED_TEST(Platform, KeepsAListInItsOrderAndTellsAnEmptyOneFromNone) {
+TYPED_TEST(Platform, KeepsTheOrderOfAListAndDistinguishesEmptyFromAbsent) {
     auto& defaults = this->services_.defaults();
     EXPECT_EQ(defaults.stringArrayForKey("volumeList"), nullptr);
     const std::vector<std::string> list{"B", "A", "B"};

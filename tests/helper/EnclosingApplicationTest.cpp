@@ -24,24 +24,24 @@ TEST(EnclosingApplication, IsFoundWhereThePathEndsInASlash) {
               "/Applications/Brisel.app");
 }
 
-TEST(EnclosingApplication, IsNoneWhereTheLoginItemWasTakenOut) {
+TEST(EnclosingApplication, IsAbsentOutsideAnApplication) {
     EXPECT_EQ(enclosingApplication("/Users/user/Downloads/a/b/BriselHelper.app"), std::nullopt);
 }
 
-TEST(EnclosingApplication, IsNoneOneLevelTooHighOrTooLow) {
+TEST(EnclosingApplication, IsAbsentAtAnotherDepth) {
     EXPECT_EQ(enclosingApplication("/Applications/Brisel.app/Contents/LoginItems/BriselHelper.app"),
               std::nullopt);
     EXPECT_EQ(enclosingApplication("/Brisel.app/Contents/Library/Login/Items/BriselHelper.app"),
               std::nullopt);
 }
 
-TEST(EnclosingApplication, IsNoneWhereOnlyTheEndingIsThere) {
+TEST(EnclosingApplication, IsAbsentInAFolderThatIsNoApplication) {
     EXPECT_EQ(enclosingApplication(std::string("/Applications/.app") + Inside), std::nullopt);
     EXPECT_EQ(enclosingApplication(std::string("/Applications/Brisel.apple") + Inside),
               std::nullopt);
 }
 
-TEST(EnclosingApplication, IsNoneNearTheRoot) {
+TEST(EnclosingApplication, IsAbsentNearTheRoot) {
     EXPECT_EQ(enclosingApplication("/BriselHelper.app"), std::nullopt);
     EXPECT_EQ(enclosingApplication("/"), std::nullopt);
     EXPECT_EQ(enclosingApplication(""), std::nullopt);

@@ -40,7 +40,7 @@ TEST(MountInfo, KeepsTheWhiteSpaceThatTheKernelLeavesAsItIs) {
     EXPECT_EQ(mountState(table, "/media/A\rB\vC\fD"), MountState::ReadWrite);
 }
 
-TEST(MountInfo, PassesOverLinesThatMakeNoSense) {
+TEST(MountInfo, SkipsMalformedLines) {
     const std::string table =
         "\n- - -\n41 27\n41 27 8:1 / /media/one rw -\n41 27 8:1 / /a\\0 rw - x y\n\\\n";
     EXPECT_EQ(mountState(table, "/media/one"), MountState::NotMounted);
@@ -69,7 +69,7 @@ TEST(DiskDescription, OfAStickHasTheKeysOfDiskArbitration) {
     EXPECT_EQ(description.mediaUUID, "0F1E2D3C-4B5A-6978-8796-A5B4C3D2E1F0");
 }
 
-TEST(DiskDescription, LeavesOutWhatUDisks2LeavesEmpty) {
+TEST(DiskDescription, OmitsEmptyProperties) {
     BlockProperties properties;
     properties.device = "/dev/sdb";
     const auto description = describe(properties);
@@ -105,7 +105,7 @@ TEST(UUIDText, OfAUUIDIsThatUUIDInUpperCase) {
               "0F1E2D3C-4B5A-6978-8796-A5B4C3D2E1F0");
 }
 
-TEST(UUIDText, OfNothingIsNone) {
+TEST(UUIDText, OfAnEmptyTextIsAbsent) {
     EXPECT_EQ(uuidText(""), std::nullopt);
 }
 
@@ -115,7 +115,7 @@ TEST(BSDName, IsTheDeviceNodeWithoutItsFolder) {
     EXPECT_EQ(bsdName("odd"), "odd");
 }
 
-TEST(UDisksError, HasTheStatusThatSaysTheSame) {
+TEST(UDisksError, MapsToTheMatchingStatus) {
     const std::string prefix = "org.freedesktop.UDisks2.Error.";
     EXPECT_EQ(statusOfError(prefix + "DeviceBusy"), DAReturn::Busy);
     EXPECT_EQ(statusOfError(prefix + "AlreadyUnmounting"), DAReturn::Busy);
@@ -132,7 +132,7 @@ TEST(UDisksError, HasTheStatusThatSaysTheSame) {
     EXPECT_EQ(statusOfError("org.freedesktop.DBus.Error.UnknownMethod"), DAReturn::NotFound);
 }
 
-TEST(UDisksError, ThatIsNotKnownStaysUnknown) {
+TEST(UDisksError, ThatIsUnknownMapsToTheGeneralError) {
     EXPECT_EQ(statusOfError("org.freedesktop.UDisks2.Error.Failed"), DAReturn::Error);
     EXPECT_EQ(statusOfError("org.freedesktop.DBus.Error.NoReply"), DAReturn::Error);
     EXPECT_EQ(statusOfError(""), DAReturn::Error);

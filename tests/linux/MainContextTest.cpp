@@ -44,7 +44,7 @@ class ALoop : public testing::Test {
     std::vector<std::string> events_;
 };
 
-TEST_F(ALoop, DoesWhatAnotherThreadHandsIt) {
+TEST_F(ALoop, RunsWorkFromAnotherThread) {
     std::thread::id worker;
     std::thread other([this, &worker, context = loop_->context()] {
         handTo(context, [&worker] { worker = std::this_thread::get_id(); });
@@ -55,14 +55,14 @@ TEST_F(ALoop, DoesWhatAnotherThreadHandsIt) {
     EXPECT_EQ(worker, std::this_thread::get_id());
 }
 
-TEST_F(ALoop, DoesWhatItIsHandedInOrder) {
+TEST_F(ALoop, RunsWorkInOrder) {
     for (const char* const event : {"one", "two", "three"})
         handTo(loop_->context(), [this, event] { note(event); });
     turn();
     EXPECT_THAT(events_, ElementsAre("one", "two", "three"));
 }
 
-TEST_F(ALoop, DoesWhatItIsHandedBeforeWhatHasTime) {
+TEST_F(ALoop, RunsWorkBeforeIdleWork) {
     const auto patient = whenMainLoopTurns([this] { note("patient"); });
     handTo(loop_->context(), [this] { note("handed"); });
     turn();
@@ -78,7 +78,7 @@ TEST_F(ALoop, LeavesGLibsDefaultContextAlone) {
     EXPECT_THAT(events_, ElementsAre("default"));
 }
 
-TEST_F(ALoop, GivesWayToOneWithinIt) {
+TEST_F(ALoop, YieldsToANestedLoop) {
     const auto outer = whenMainLoopTurns([this] { note("outer"); });
     {
         OwnMainLoop within;
@@ -93,7 +93,7 @@ TEST_F(ALoop, GivesWayToOneWithinIt) {
     EXPECT_THAT(events_, ElementsAre("inner", "outer"));
 }
 
-TEST_F(ALoop, DropsWhatNobodyWaitsForAnyMore) {
+TEST_F(ALoop, DropsWorkWhoseSubscriptionHasEnded) {
     auto dropped = whenMainLoopTurns([this] { note("dropped"); });
     const auto done = whenMainLoopTurns([this] { note("done"); });
     dropped.reset();
@@ -102,7 +102,7 @@ TEST_F(ALoop, DropsWhatNobodyWaitsForAnyMore) {
     EXPECT_THAT(events_, ElementsAre("done"));
 }
 
-TEST_F(ALoop, TellsOfADescriptorAsLongAsItCanBeRead) {
+TEST_F(ALoop, ReportsADescriptorWhileItIsReadable) {
     const auto reading = whenReadable(ends_[0], [this] {
         char text = 0;
         EXPECT_EQ(read(ends_[0], &text, 1), 1);
@@ -116,7 +116,7 @@ TEST_F(ALoop, TellsOfADescriptorAsLongAsItCanBeRead) {
     EXPECT_THAT(events_, ElementsAre("a", "b"));
 }
 
-TEST_F(ALoop, TellsOfTheEndOfADescriptor) {
+TEST_F(ALoop, ReportsTheEndOfADescriptor) {
     Subscription reading = whenReadable(ends_[0], [this, &reading] {
         note("end");
         reading.reset();
@@ -127,7 +127,7 @@ TEST_F(ALoop, TellsOfTheEndOfADescriptor) {
     EXPECT_THAT(events_, ElementsAre("end"));
 }
 
-TEST_F(ALoop, TellsNothingOfADescriptorAfterTheSubscription) {
+TEST_F(ALoop, ReportsNoDescriptorAfterTheSubscription) {
     auto reading = whenReadable(ends_[0], [this] { note("read"); });
     feed("a");
     reading.reset();

@@ -40,7 +40,7 @@ class PreferencesFile : public testing::Test {
     SystemLog log_{[this](const std::string& text) { logged_.push_back(text); }};
 };
 
-TEST_F(PreferencesFile, ThatIsMissingMeansDefaultsWithoutAWord) {
+TEST_F(PreferencesFile, ThatIsMissingMeansDefaultsWithoutALogEntry) {
     EXPECT_TRUE(open().boolForKey("showDisclaimer"));
     EXPECT_THAT(logged_, IsEmpty());
 }
@@ -82,13 +82,13 @@ TEST_F(PreferencesFile, OfNullBytesIsSetAsideToo) {
     EXPECT_EQ(logged_.size(), 2U);
 }
 
-TEST_F(PreferencesFile, ThatIsAPipeHangsNothing) {
+TEST_F(PreferencesFile, ThatIsAPipeDoesNotBlock) {
     ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
     EXPECT_TRUE(open().boolForKey("showDisclaimer"));
     EXPECT_EQ(logged_.size(), 2U);
 }
 
-TEST_F(PreferencesFile, BehindALinkIsWrittenWhereItIs) {
+TEST_F(PreferencesFile, BehindALinkIsWrittenInPlace) {
     const auto target = folder_.path() + "/elsewhere.conf";
     std::ofstream(target) << "[Brisel]\nshowDisclaimer=true\n";
     std::filesystem::create_symlink(target, path_);
@@ -97,7 +97,7 @@ TEST_F(PreferencesFile, BehindALinkIsWrittenWhereItIs) {
     EXPECT_THAT(read(target), HasSubstr("showDisclaimer=false"));
 }
 
-TEST_F(PreferencesFile, NeverTakesTheNameOfOneSetAsideBefore) {
+TEST_F(PreferencesFile, IsSetAsideUnderAnUnusedName) {
     write("first\n");
     static_cast<void>(open());
     write("second\n");
@@ -114,7 +114,7 @@ TEST_F(PreferencesFile, WithValuesOfTheWrongTypeReadsAsDefaultsAndAsAnEmptyList)
     EXPECT_FALSE(VolumeListHelper::contains(defaults, "A"));
 }
 
-TEST_F(PreferencesFile, TellsAnEmptyListFromNone) {
+TEST_F(PreferencesFile, DistinguishesAnEmptyListFromAnAbsentOne) {
     auto defaults = open();
     EXPECT_EQ(defaults.stringArrayForKey("volumeList"), nullptr);
     defaults.setStringArray("volumeList", std::make_shared<const std::vector<std::string>>());

@@ -54,7 +54,7 @@ class Variable {
     std::optional<std::string> before_;
 };
 
-TEST(TheProcess, LeavesItsStandardDescriptorsToNothingElse) {
+TEST(TheProcess, ReopensClosedStandardDescriptors) {
     for (const unsigned closed : {0U, 1U, 2U, 4U, 5U, 7U}) {
         const int firstOpened = inAnotherProcess([closed] {
             for (int descriptor = 0; descriptor < 3; ++descriptor) {
@@ -67,7 +67,7 @@ TEST(TheProcess, LeavesItsStandardDescriptorsToNothingElse) {
     }
 }
 
-TEST(TheProcess, HearsOfItsChildren) {
+TEST(TheProcess, RestoresSIGCHLD) {
     EXPECT_EQ(inAnotherProcess([] {
                   std::signal(SIGCHLD, SIG_IGN);
                   restoreProcessDefaults();
@@ -112,7 +112,7 @@ TEST(TheTools, LieBesideTheProgramOrInItsLibexec) {
     EXPECT_EQ(toolPath("xattr"), toolFolder() + "/xattr");
 }
 
-TEST(AVolume, TakesWritingWhereAFileCanBeMade) {
+TEST(AVolume, IsWritableIfAFileCanBeCreated) {
     static constexpr const char* MemoryFolder = "/dev/shm";
     if (currentMountState(MemoryFolder) != MountState::ReadWrite || access(MemoryFolder, W_OK) != 0)
         GTEST_SKIP() << MemoryFolder << " is no mount that can be written.";
@@ -124,19 +124,19 @@ TEST(AVolume, TakesWritingWhereAFileCanBeMade) {
     EXPECT_EQ(count(), before);
 }
 
-TEST(AVolume, TakesNoWritingWhateverTheKernelSaysOfTheMount) {
+TEST(AVolume, IsNotWritableMerelyByItsMountOptions) {
     if (currentMountState("/proc") != MountState::ReadWrite)
         GTEST_SKIP() << "/proc is not mounted read-write.";
     EXPECT_FALSE(takesWriting("/proc"));
 }
 
-TEST(AVolume, IsNoFolderWithinAnother) {
+TEST(AVolume, IsAMountPoint) {
     const tests::TemporaryFolder folder;
     EXPECT_FALSE(takesWriting(folder.path()));
     EXPECT_FALSE(takesWriting(folder.path() + "/missing"));
 }
 
-TEST(AVolume, IsHibernatedByTheFirstWordOfItsFile) {
+TEST(AVolume, IsHibernatedIfItsHibernationFileIsActive) {
     const tests::TemporaryFolder folder;
     EXPECT_FALSE(isHibernated(folder.path()));
     const auto hibernatedWith = [&folder](const std::string& text) {
@@ -145,7 +145,7 @@ TEST(AVolume, IsHibernatedByTheFirstWordOfItsFile) {
     };
     EXPECT_TRUE(hibernatedWith("hibr and more"));
     EXPECT_TRUE(hibernatedWith("HIBR"));
-    // Woken up; a whole one without a session; too short.
+    // A resumed session; a full file without a session; a truncated one.
     EXPECT_FALSE(hibernatedWith("RSTR and more"));
     EXPECT_FALSE(hibernatedWith(std::string(8192, '\0')));
     EXPECT_FALSE(hibernatedWith("hib"));

@@ -137,7 +137,7 @@ TEST_F(RealVolume, PulledWhileMountedLeavesTheMenuAndComesBack) {
     EXPECT_EQ(console_->quit(), 0);
 }
 
-TEST_F(RealVolume, ThatIsFullIsRemountedAllTheSame) {
+TEST_F(RealVolume, ThatIsFullIsStillRemounted) {
     image_->attach();
     const auto aside = folder_ + "/aside";
     fs::create_directory(aside);
@@ -181,7 +181,7 @@ TEST_F(RealVolume, HibernatedIsNotLeftMountedReadOnlyAsIfItWereWritable) {
     EXPECT_FALSE(image_->isMounted());
 }
 
-TEST_F(RealVolume, MountedReadWriteBySomebodyElseIsShownSo) {
+TEST_F(RealVolume, MountedReadWriteByAnotherProgramIsShownAsWritable) {
     startConsole();
     image_->attach();
     waitForPrompt();
@@ -190,7 +190,7 @@ TEST_F(RealVolume, MountedReadWriteBySomebodyElseIsShownSo) {
     EXPECT_TRUE(console_->waitFor("[Brisel: a volume is writable]")) << transcript();
 }
 
-TEST_F(RealVolume, UnmountedBySomebodyElseLeavesTheMenuAndIsNotMountedAgain) {
+TEST_F(RealVolume, UnmountedByAnotherProgramLeavesTheMenuAndIsNotMountedAgain) {
     startConsole();
     image_->attach();
     acceptPrompt();
@@ -206,7 +206,7 @@ TEST_F(RealVolume, UnmountedBySomebodyElseLeavesTheMenuAndIsNotMountedAgain) {
     EXPECT_FALSE(image_->isMounted());
 }
 
-TEST_F(RealVolume, WithAHostileLabelIsRemountedAllTheSame) {
+TEST_F(RealVolume, WithAHostileLabelIsStillRemounted) {
     const std::array<std::string, 3> labels{"$(reboot); '\"", "..", "\x1b[2J%@"};
     startConsole();
     for (const auto& label : labels) {

@@ -58,7 +58,7 @@ TEST(AScript, IsTheCommandBetweenTheQuotes) {
     EXPECT_EQ(shellCommandOf(R"(do shell script "a \"b\" \\c")"), R"(a "b" \c)");
 }
 
-TEST(AScript, ThatIsAnythingElseIsNone) {
+TEST(AScript, ThatIsAnythingElseIsRejected) {
     EXPECT_EQ(shellCommandOf(R"(do shell script "a" & "b")"), std::nullopt);
     EXPECT_EQ(shellCommandOf(R"(do shell script "a)"), std::nullopt);
     EXPECT_EQ(shellCommandOf(R"(do shell script "a\)"), std::nullopt);
@@ -77,7 +77,7 @@ TEST_F(Script, RunsTheProgramOnTheVolumesFolder) {
     EXPECT_THAT(arguments(), ElementsAre("-cr", files_.volumesDirectory() + "/Data"));
 }
 
-TEST_F(Script, HandsOnALabelWithABlankAsTwoPaths) {
+TEST_F(Script, PassesALabelWithASpaceAsTwoPaths) {
     EXPECT_FALSE(cleanUp(volumes_ + "/My " + volumes_ + "/Data").error.has_value());
     EXPECT_THAT(arguments(), ElementsAre("-cr", volumes_ + "/My", volumes_ + "/Data"));
 }
@@ -111,7 +111,7 @@ TEST_F(Script, RefusesAnyOtherCommand) {
     EXPECT_THAT(arguments(), IsEmpty());
 }
 
-TEST_F(Script, ThatFailsTellsWhatItPrintedAndItsStatus) {
+TEST_F(Script, ThatFailsReportsItsOutputAndStatus) {
     makeProgram("echo no such thing >&2; exit 3");
     const auto result = cleanUp(volumes_ + "/Data");
     ASSERT_TRUE(result.error.has_value());

@@ -73,7 +73,7 @@ TEST_F(Folders, BehindALinkedMountFolderAreLeftAlone) {
     removeEmptyMountPoints(folder_.path() + "/none");
 }
 
-TEST_F(Folders, ThatHoldSomethingAreNeverRemoved) {
+TEST_F(Folders, ThatAreNotEmptyAreNeverRemoved) {
     fs::create_directories(mountPoint_);
     std::ofstream(mountPoint_ + "/precious") << "x";
     const auto error = fileManager_.removeItem(mountPoint_);
@@ -117,7 +117,7 @@ TEST_F(Folders, AreWritableOnlyWhereTheyAre) {
     EXPECT_FALSE(fileManager_.isWritableFileAtPath(std::nullopt));
 }
 
-TEST(PrivilegedStart, HandsBackTheOutputAndTheChild) {
+TEST(PrivilegedStart, ReturnsTheOutputAndTheChild) {
     if (geteuid() != 0) GTEST_SKIP() << "Without root the start goes through polkit.";
     SystemLog log([](const std::string&) {});
     Authorization authorization(log);

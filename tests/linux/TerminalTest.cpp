@@ -47,7 +47,7 @@ class Screen : public testing::Test {
     std::unique_ptr<Terminal> terminal_;
 };
 
-TEST_F(Screen, ShowsControlCharactersInsteadOfObeyingThem) {
+TEST_F(Screen, EscapesControlCharacters) {
     EXPECT_EQ(common::visible("a\x1b[2Jb\x7f\n"), "a^[[2Jb^?^J");
     EXPECT_EQ(common::visible("a\xc2\x9b"
                               "2J"),
@@ -74,7 +74,7 @@ TEST_F(Screen, AnswersQuestionsLineByLine) {
     EXPECT_EQ(terminal_->ask("?"), std::nullopt);
 }
 
-TEST_F(Screen, HandsOutWhatWasTypedTogetherWithAnAnswer) {
+TEST_F(Screen, KeepsTheLinesTypedAfterAnAnswer) {
     std::vector<std::string> lines;
     const auto subscription =
         terminal_->handleLines([&](const auto& line) { lines.push_back(line.value_or("end")); });
@@ -101,7 +101,7 @@ TEST_F(Screen, LeavesAQuestionUnansweredOnceInterrupted) {
         close(end);
 }
 
-TEST(TerminationSignals, ComesWithEachSignalThatAsksForTheEnd) {
+TEST(TerminationSignals, ReportEachTerminationSignal) {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         const headless::TerminationSignals interruption;
         pollfd ready{.fd = interruption.descriptor(), .events = POLLIN, .revents = 0};
@@ -150,7 +150,7 @@ TEST_F(Screen, NumbersTheMenuItemsThatCanBeChosen) {
     EXPECT_EQ(display.itemWithNumber("3"), nullptr);
 }
 
-TEST_F(Screen, HandsAPromptsAnswerToTheDelegateOnce) {
+TEST_F(Screen, PassesAPromptsAnswerToTheDelegateOnce) {
     UserNotificationCenter center(*terminal_);
     std::vector<std::string> actions;
     const auto subscription = center.setDelegate(

@@ -55,7 +55,7 @@ TEST(Format, LeavesTheFormatsQuotesAlone) {
     EXPECT_EQ(stringWithFormat(R"(Volume "%@")", "Data"), R"(Volume "Data")");
 }
 
-TEST(LowerCase, IsThatOfTheseLettersAlone) {
+TEST(LowerCase, ConvertsASCIILettersOnly) {
     EXPECT_EQ(lowercased("NTFS-AZ09[@`{\xC3\x89"), "ntfs-az09[@`{\xC3\x89");
 }
 

@@ -44,7 +44,7 @@ TEST_F(Registration, MovesWithoutEnding) {
     EXPECT_EQ(ends, 1);
 }
 
-TEST_F(Registration, EndsWhenAnotherTakesItsPlace) {
+TEST_F(Registration, EndsWhenAnotherIsAssigned) {
     auto owner = made();
     owner = made();
     EXPECT_EQ(ends, 1);
@@ -69,7 +69,7 @@ TEST_F(Registration, MayBeEndedByItsOwnEnd) {
     EXPECT_EQ(ends, 1);
 }
 
-TEST_F(Registration, OfNothingEndsNothing) {
+TEST_F(Registration, MayBeEmpty) {
     Subscription().reset();
 }
 

@@ -71,7 +71,7 @@ TEST_P(HostileLabel, GoesThroughEveryActionUnharmed) {
     EXPECT_FALSE(manager().inProgress());
 }
 
-TEST_P(HostileLabel, GrowsLikeAnyOther) {
+TEST_P(HostileLabel, IsMadeUniqueLikeAnyOther) {
     mac.diskArbitration.attach("disk5s1", ntfsDisk(GetParam()));
     turn();
     EXPECT_EQ(volume(1)->label(), GetParam() + "-disk5s1");

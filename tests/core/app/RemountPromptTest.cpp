@@ -57,7 +57,7 @@ TEST_F(RemountPrompt, CarriesItsContent) {
     EXPECT_EQ(prompt->delay, std::chrono::milliseconds(200));
 }
 
-TEST_F(RemountPrompt, IsOnlyLoggedWhereThePermissionFails) {
+TEST_F(RemountPrompt, IsOnlyLoggedIfThePermissionRequestFails) {
     mac.userNotificationCenter.setPermission(Center::Permission::Error);
     EXPECT_FALSE(post()->notificationSent());
     EXPECT_THAT(newLines(), ElementsAre("permission: alert sound",
@@ -70,14 +70,14 @@ TEST_F(RemountPrompt, IsSilentlyDroppedWithoutPermission) {
     EXPECT_THAT(newLines(), ElementsAre("permission: alert sound"));
 }
 
-TEST_F(RemountPrompt, IsNotSentWhereItIsNotAccepted) {
+TEST_F(RemountPrompt, IsNotMarkedAsSentIfItIsRejected) {
     mac.userNotificationCenter.refuseNextRequest();
     EXPECT_FALSE(post()->notificationSent());
     EXPECT_THAT(newLines(),
                 ElementsAre("permission: alert sound", "log: Adding Local Notification failed!"));
 }
 
-TEST_F(RemountPrompt, IsTriedAgainWithTheNextRebuildUntilItWasAccepted) {
+TEST_F(RemountPrompt, IsRetriedOnEachRebuildUntilItIsAccepted) {
     mac.userNotificationCenter.setPermission(Center::Permission::Deny);
     attachQuietly("disk4s1", "Data");
     manager().refreshVolumes();
@@ -136,7 +136,7 @@ TEST_F(SlowPrompt, AsksForAlertAndSoundTogether) {
     EXPECT_EQ(center.options, 6U);
 }
 
-TEST_F(SlowPrompt, StopsAtAnErrorEvenWhereItIsGranted) {
+TEST_F(SlowPrompt, StopsOnAnErrorEvenIfPermissionIsGranted) {
     postRemountPrompt(slow, record);
     center.permissions.at(0)(
         true, platform::Error{.localizedDescription = "x", .localizedFailureReason = {}});

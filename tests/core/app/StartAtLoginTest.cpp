@@ -23,7 +23,7 @@ TEST_F(StartAtLogin, RegistersTheHelperThenRemembersIt) {
     EXPECT_TRUE(checked());
 }
 
-TEST_F(StartAtLogin, IsBackWhereItStartedAfterTwoChoices) {
+TEST_F(StartAtLogin, IsOffAgainAfterTwoChoices) {
     choose("Start at Login");
     forgetLines();
     choose("Start at Login");
@@ -32,7 +32,7 @@ TEST_F(StartAtLogin, IsBackWhereItStartedAfterTwoChoices) {
     EXPECT_FALSE(checked());
 }
 
-TEST_F(StartAtLogin, ShowsALiteralPlaceholderWhereItIsRefused) {
+TEST_F(StartAtLogin, ShowsALiteralPlaceholderOnFailure) {
     refuse();
     choose("Start at Login");
     EXPECT_THAT(
@@ -67,7 +67,7 @@ class NotedTexts final : public platform::Bundle {
     bool hasImage(const std::string& /*name*/) const override { return true; }
 };
 
-TEST_F(StartAtLogin, LooksUpAWordForWhatIsRefusedAndLeavesItOut) {
+TEST_F(StartAtLogin, LooksUpTheActionOfAFailureButDoesNotShowIt) {
     NotedTexts texts;
     AppDelegate delegate(platformWith(mac.platform, {.bundle = &texts}));
     refuse();
@@ -92,7 +92,7 @@ TEST_F(StartAtLogin, MayBeTriedAgain) {
     EXPECT_TRUE(checked());
 }
 
-TEST_F(StartAtLogin, NamesAHelperOfTheRightName) {
+TEST_F(StartAtLogin, NamesTheLoginHelper) {
     EXPECT_THAT(std::string(LoginHelperIdentifier), EndsWith(".BriselHelper"));
 }
 

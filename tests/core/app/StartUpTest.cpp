@@ -44,7 +44,7 @@ TEST_F(StartUp, ShowsTheNoticeAtTheFirstStart) {
                 ElementsAre("OK, I understand.", "I am worried, please take me out."));
 }
 
-TEST_F(StartUp, GoesOnInOrderAfterTheNoticeWasAccepted) {
+TEST_F(StartUp, ContinuesInOrderAfterTheNoticeIsAccepted) {
     program.start();
     EXPECT_THAT(
         newLines(),
@@ -57,7 +57,7 @@ TEST_F(StartUp, GoesOnInOrderAfterTheNoticeWasAccepted) {
                     "icon: brisel-status-grey-light"));
 }
 
-TEST_F(StartUp, HasTheManagerAndTheStatusItemBeforeTheNotice) {
+TEST_F(StartUp, CreatesTheManagerAndTheStatusItemBeforeTheNotice) {
     bool ready = false;
     person.whenAlertShows = [&](const auto&) {
         ready = program.manager() != nullptr && mac.statusItem.length() == -1.0 &&
@@ -98,7 +98,7 @@ TEST_F(StartUp, CountsAnyOtherResponseAsARefusal) {
     }
 }
 
-TEST_F(StartUp, ReadsNoStoredPreferenceAsUncheckedAndUnread) {
+TEST_F(StartUp, TreatsMissingPreferencesAsUncheckedAndNotAccepted) {
     program.start();
     EXPECT_EQ(person.alertsSeen.size(), 1U);
     EXPECT_FALSE(mac.statusMenu.items().at(2).checked);
@@ -113,7 +113,7 @@ TEST_F(StartUp, ShowsTheStoredCheckMark) {
     EXPECT_FALSE(items.at(3).checked);
 }
 
-TEST_F(StartUp, LetsDisksWaitWhileTheNoticeIsUp) {
+TEST_F(StartUp, DefersDisksWhileTheNoticeIsShown) {
     std::size_t recordsMeanwhile = 1;
     person.whenAlertShows = [&](const auto&) {
         attachNTFS("disk4s1", "Data");
@@ -127,7 +127,7 @@ TEST_F(StartUp, LetsDisksWaitWhileTheNoticeIsUp) {
     EXPECT_THAT(devices(), ElementsAre("disk4s1"));
 }
 
-TEST_F(StartUp, DoesNotObserveTheAppearanceWhileTheNoticeIsUp) {
+TEST_F(StartUp, DoesNotObserveTheAppearanceWhileTheNoticeIsShown) {
     person.whenAlertShows = [&](const auto&) {
         forgetLines();
         mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
@@ -155,7 +155,7 @@ class LateEnd final : public platform::Application {
     void orderFrontStandardAboutPanel() override {}
 };
 
-TEST_F(StartUp, RunsNothingLaterWhereTheTerminationReturns) {
+TEST_F(StartUp, DoesNothingMoreIfTerminateReturns) {
     refuse();
     LateEnd application;
     const auto services = platformWith(mac.platform, {.application = &application});
@@ -205,7 +205,7 @@ TEST_F(About, BringsTheApplicationToTheFrontFirst) {
     EXPECT_THAT(newLines(), ElementsAre("activate", "about"));
 }
 
-TEST_F(About, IsThereAsLongAsTheItemThatOffersIt) {
+TEST_F(About, StaysAvailableWhileItsMenuItemExists) {
     auto items = mainMenuItems(std::make_shared<AppDelegate>(mac.platform), mac.platform);
     const auto about = items.at(1);
     items.clear();

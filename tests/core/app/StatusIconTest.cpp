@@ -43,7 +43,7 @@ TEST_F(StatusIcon, IsDarkInTheDarkForEachCode) {
     EXPECT_EQ(imageOf(4), "icon: brisel-status-red-dark");
 }
 
-TEST_F(StatusIcon, CountsAnyNameWithDarkInItAsDark) {
+TEST_F(StatusIcon, TreatsAnyAppearanceNamedDarkAsDark) {
     for (const auto* const name : {"NSAppearanceNameVibrantDark", "dark", "xDARKx",
                                    "NSAppearanceNameAccessibilityHighContrastDarkAqua"}) {
         mac.statusItem.setAppearance(name);
@@ -86,7 +86,7 @@ class BareBundle final : public platform::Bundle {
     bool hasImage(const std::string& /*name*/) const override { return false; }
 };
 
-TEST_F(StatusIcon, IsNoneWhereTheImageIsMissing) {
+TEST_F(StatusIcon, IsEmptyIfTheImageIsMissing) {
     BareBundle bundle;
     const auto delegate =
         std::make_shared<AppDelegate>(platformWith(mac.platform, {.bundle = &bundle}));

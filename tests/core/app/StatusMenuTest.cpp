@@ -62,7 +62,7 @@ TEST_F(StatusMenu, HidesAllVolumesWhileAnOperationRuns) {
     EXPECT_THAT(newLines(), Not(Contains(StartsWith("permission:"))));
 }
 
-TEST_F(StatusMenu, SaysThatThereAreNoVolumes) {
+TEST_F(StatusMenu, ShowsThatThereAreNoVolumes) {
     EXPECT_EQ(titles(), std::string("No NTFS Volumes to re-mount | --- | ") + FixedItems);
     EXPECT_THAT(generated(), ElementsAre("101 No NTFS Volumes to re-mount", "101 ---"));
     EXPECT_FALSE(mac.statusMenu.items()[0].target);
@@ -172,7 +172,7 @@ TEST_F(StatusMenu, LeavesItemsOfOtherTagsInPlace) {
     EXPECT_EQ(titles(), "re-mount Data | Fixed 100 | --- | Fixed 103 | Fixed -101 | Fixed 0");
 }
 
-TEST_F(StatusMenu, NeedsOneFixedItemOnly) {
+TEST_F(StatusMenu, WorksWithASingleFixedItem) {
     mac.statusMenu.load({platform::MenuItem()});
     addReadOnly("Data");
     EXPECT_EQ(titles(), "re-mount Data |  | ---");
@@ -191,7 +191,7 @@ TEST_F(StatusMenu, ShowsAMissingLabelAsNull) {
     EXPECT_THAT(titles(), StartsWith("show (null) in Finder | "));
 }
 
-TEST_F(StatusMenu, SpeaksTheUsersLanguageButForItsFixedItems) {
+TEST_F(StatusMenu, IsLocalisedExceptForItsFixedItems) {
     addWritable("Data", SomeUUID);
     mac.bundle.setLanguage("de");
     const auto shown = mac.bundle.localizedString("show %@ in Finder");

@@ -71,7 +71,7 @@ const Way Ways[] = {
 
 class BusyState : public testing::TestWithParam<Way>, public SimulatedProgram {};
 
-TEST_P(BusyState, EndsAsItsWayDoes) {
+TEST_P(BusyState, MatchesTheOutcomeOfTheRemount) {
     mac.systemVersion.setMacOS12OrLater(GetParam().system == System::MacOS12);
     start();
     attachQuietly("disk4s1", "Data");
@@ -111,7 +111,7 @@ TEST_F(BusyMoment, BeginsWithAnAutomaticRemount) {
     EXPECT_TRUE(manager().inProgress());
 }
 
-TEST_F(BusyMoment, HasNotComeWhereAnAutomaticRemountFindsNoDisk) {
+TEST_F(BusyMoment, DoesNotBeginIfAnAutomaticRemountFindsNoDisk) {
     storeAutomountList({SomeUUID});
     bool busy = true;
     person.whenAlertShows = [&](const auto&) {

@@ -81,7 +81,7 @@ TEST_F(CleanUp, QuotesNothingForTheShell) {
               "script: do shell script \"xattr -cr /Users/user/.brisel/My \"Data\"; $(x) 'y'\"");
 }
 
-TEST_F(CleanUp, LeavesTheBlankOfALabelToTheShell) {
+TEST_F(CleanUp, LeavesASpaceInALabelUnquoted) {
     EXPECT_EQ(scriptFor("My Data"),
               "script: do shell script \"xattr -cr /Users/user/.brisel/My Data\"");
 }

@@ -53,7 +53,7 @@ TEST_F(MountToolFailure, OfTheMountPointLogsItsReason) {
                 Contains("log: Unable to create folder: No, reason: Rights"));
 }
 
-TEST_F(MountToolFailure, ByCancellingTakesFolderAndRecordAway) {
+TEST_F(MountToolFailure, ByCancellingRemovesFolderAndRecord) {
     answerPrompt(-60006);
     EXPECT_THAT(
         linesFromTheMountPointOn(),
@@ -87,7 +87,7 @@ TEST_F(MountToolFailure, OfTheCleanUpIsLogged) {
     EXPECT_FALSE(manager().inProgress());
 }
 
-TEST_F(MountToolFailure, OfThePasswordIsSomethingWrong) {
+TEST_F(MountToolFailure, OfThePasswordIsLoggedAsAFailedLaunch) {
     answerPrompt(-60005);
     EXPECT_THAT(linesFromTheMountPointOn(),
                 ElementsAre("mkdir: /Users/user/.brisel/Data", "authorize: system.privilege.admin",
@@ -97,7 +97,7 @@ TEST_F(MountToolFailure, OfThePasswordIsSomethingWrong) {
     EXPECT_FALSE(manager().inProgress());
 }
 
-TEST_F(MountToolFailure, OfTheLaunchIsSomethingWrong) {
+TEST_F(MountToolFailure, OfTheLaunchIsLogged) {
     mac.authorization.failLaunch(-60031);
     EXPECT_THAT(linesFromTheMountPointOn(),
                 Contains("log: something went wrong with mount command launch"));
@@ -105,12 +105,12 @@ TEST_F(MountToolFailure, OfTheLaunchIsSomethingWrong) {
     EXPECT_FALSE(mac.fileSystem.hasFolder(MountPoint));
 }
 
-TEST_F(MountToolFailure, OfALaunchCancelledLateIsStillCancelled) {
+TEST_F(MountToolFailure, OfALaunchWithTheCancelStatusCountsAsCancelled) {
     mac.authorization.failLaunch(-60006);
     EXPECT_THAT(linesFromTheMountPointOn(), Contains("log: mount command cancelled by user"));
 }
 
-TEST_F(MountToolFailure, WithoutTheCallIsSomethingWrong) {
+TEST_F(MountToolFailure, WithoutExecuteWithPrivilegesIsLogged) {
     mac.authorization.removeExecuteWithPrivileges();
     EXPECT_THAT(linesFromTheMountPointOn(),
                 ElementsAre("mkdir: /Users/user/.brisel/Data",
@@ -145,7 +145,7 @@ TEST_F(MountToolFailure, OfTheToolNeverFallsBackToAnotherMount) {
 }
 
 // Records that share a device are removed one by one, each time the first that is left.
-TEST_F(MountToolFailure, OfTheToolTakesTwoRecordsOfTheDeviceAway) {
+TEST_F(MountToolFailure, OfTheToolRemovesTwoRecordsOfTheDevice) {
     const auto twin = NTFSVolume::initWithVolume({});
     twin->setDeviceNode("disk4s1");
     const auto third = NTFSVolume::initWithVolume({});

@@ -50,7 +50,7 @@ TEST_F(OlderSystem, MakesNoFolderAndAsksForNoPassword) {
     EXPECT_TRUE(mac.fileSystem.foldersFrom("/Users/user").empty());
 }
 
-TEST_F(OlderSystem, LosesTheRecordOfAVolumeThatOthersFollow) {
+TEST_F(OlderSystem, LosesTheRecordOfAVolumeThatIsNotLast) {
     attachQuietly("disk5s1", "Other");
     choose("re-mount Data");
     EXPECT_THAT(devices(), ElementsAre("disk5s1"));
@@ -73,7 +73,7 @@ TEST_F(OlderSystem, ReportsARefusedMount) {
     EXPECT_FALSE(manager().inProgress());
 }
 
-TEST_F(OlderSystem, OpensTheFreshPathEvenWhereItIsNone) {
+TEST_F(OlderSystem, OpensTheNewPathEvenIfItIsMissing) {
     mac.diskArbitration.hold();
     manager().remountVolumeNamed("disk4s1");
     mac.diskArbitration.release();

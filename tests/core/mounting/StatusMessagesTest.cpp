@@ -37,7 +37,7 @@ const Row Rows[] = {{0xF8DA0001, "kDAReturnError for volume %@"},
                     {0x80000000, Unspecified},
                     {0xFFFFFFFF, Unspecified}};
 
-TEST(StatusMessage, StandsInItsTable) {
+TEST(StatusMessage, MatchesTheTable) {
     for (const auto& row : Rows)
         EXPECT_EQ(dissenterStatusMessage(row.status), row.format) << std::hex << row.status;
 }

@@ -43,7 +43,7 @@ TEST_F(Unmount, DropsARemountedVolumeAndItsMountPoint) {
     EXPECT_FALSE(mac.fileSystem.hasFolder("/Users/user/.brisel/Data"));
 }
 
-TEST_F(Unmount, LocatesTheVolumeByItsOwnMountFirst) {
+TEST_F(Unmount, PrefersThePathOfItsOwnMount) {
     attachWritable("disk4s1", "Data");
     attachWritable("disk5s1", "Other");
     volume(0)->setVolumePath(platform::FileURL("/Volumes/Other"));
@@ -69,7 +69,7 @@ TEST_F(Unmount, RebuildsTheMenuWhileItIsStillBusy) {
                                         "icon: brisel-status-orange-light"));
 }
 
-TEST_F(Unmount, OnlyLogsAVolumeThatIsNotMountedThere) {
+TEST_F(Unmount, OnlyLogsAVolumeThatIsNotMountedAtItsPath) {
     attachWritable("disk4s1", "My Data");
     const auto record = volume();
     mac.diskArbitration.change("disk4s1", {});
@@ -146,7 +146,7 @@ TEST_F(Unmount, LeavesTheAutomountListAlone) {
                 Contains(std::string("volumeList = (") + SomeUUID + ")"));
 }
 
-TEST_F(Unmount, CompletesForADiskOfWhichNothingIsKnown) {
+TEST_F(Unmount, CompletesForAnUnknownDisk) {
     attachWritable("disk4s1", "Data");
     unmountDidFinish(manager(), {.bsdName = "disk9", .reported = {}}, std::nullopt);
     EXPECT_THAT(devices(), ElementsAre("disk4s1"));

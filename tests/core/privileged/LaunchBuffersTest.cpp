@@ -36,7 +36,7 @@ TEST(RightsItemValue, CanBeReadToItsDescribedEnd) {
     EXPECT_EQ(copy.size(), 4000U);
 }
 
-TEST(RightsItemValue, IsThePointersMemoryForAnEmptyPath) {
+TEST(RightsItemValue, IsNotNullForAnEmptyPath) {
     const RightsItemValue value("");
     EXPECT_EQ(value.length(), 0U);
     EXPECT_NE(value.bytes(), nullptr);

@@ -97,7 +97,7 @@ TEST_F(Launch, RestoresTheWorkingDirectoryAfterAFailure) {
     EXPECT_EQ(std::filesystem::current_path(), before);
 }
 
-TEST_F(Launch, HandsOnAFailedStartWithNothingChanged) {
+TEST_F(Launch, ReturnsTheStatusOfAFailedStartAndChangesNothing) {
     const auto made = task("/bin/true");
     tools.executeStatus = -60031;
     EXPECT_EQ(made->launch(), -60031);
@@ -106,7 +106,7 @@ TEST_F(Launch, HandsOnAFailedStartWithNothingChanged) {
     EXPECT_THAT(newLogLines(), ElementsAre());
 }
 
-TEST_F(Launch, HandsOnAFailedAuthorization) {
+TEST_F(Launch, ReturnsTheStatusOfAFailedAuthorization) {
     const auto made = task("/bin/true");
     tools.createStatus = -60008;
     EXPECT_EQ(made->launch(), -60008);
@@ -115,7 +115,7 @@ TEST_F(Launch, HandsOnAFailedAuthorization) {
     EXPECT_THAT(newLogLines(), ElementsAre());
 }
 
-TEST_F(Launch, HandsOnARefusalAndFreesNothing) {
+TEST_F(Launch, ReturnsTheStatusOfARefusalAndFreesNothing) {
     const auto made = task("/bin/true");
     tools.copyStatus = -60006;
     EXPECT_EQ(made->launch(), -60006);
@@ -170,7 +170,7 @@ TEST_F(Launch, IsASuccessWithoutAStartWhileTheTaskRuns) {
     made->waitUntilExit();
 }
 
-TEST_F(Launch, TakesTheChildAsTheOwnerOfItsOutput) {
+TEST_F(Launch, ReadsTheChildFromTheOwnerOfItsOutput) {
     const auto made = shell("echo $$");
     EXPECT_EQ(made->launch(), 0);
     const auto child = made->processIdentifier();
@@ -193,7 +193,7 @@ TEST_F(Launch, SucceedsAgainAfterTheEnd) {
     EXPECT_EQ(made->terminationStatus(), 4);
 }
 
-TEST_F(Launch, ThatFailsKeepsWhatTheLastOneLeft) {
+TEST_F(Launch, ThatFailsKeepsTheResultsOfTheLastRun) {
     const auto made = shell("exit 3");
     EXPECT_EQ(outputOf(made), "");
     const auto handle = made->outputFileHandle();

@@ -178,7 +178,7 @@ TEST_F(WaitedForTask, ReturnsAtOnceWhereNothingRuns) {
     EXPECT_EQ(made->terminationStatus(), 2);
 }
 
-TEST_F(WaitedForTask, GoesWithItsLastOwner) {
+TEST_F(WaitedForTask, IsDestroyedWithItsLastOwner) {
     auto made = shell("exit 0");
     const std::weak_ptr<KJPrivilegedTask> observer = made;
     ASSERT_EQ(made->launch(), 0);

@@ -14,7 +14,7 @@ using testing::StartsWith;
 
 class NewTask : public PrivilegedTask {};
 
-TEST_F(NewTask, KnowsTheCurrentDirectoryAndNothingElse) {
+TEST_F(NewTask, HasOnlyTheCurrentDirectory) {
     mac.fileManager.setCurrentDirectory("/some/where");
     const auto made = KJPrivilegedTask::init(withTools);
     EXPECT_EQ(made->launchPath(), "");
@@ -40,7 +40,7 @@ TEST_F(NewTask, TakesWhatItsInitialiserIsGiven) {
     EXPECT_EQ(all->currentDirectoryPath(), "/tmp");
 }
 
-TEST_F(NewTask, GoesByWhatWasSetLast) {
+TEST_F(NewTask, UsesTheValuesSetLast) {
     const auto made = KJPrivilegedTask::initWithLaunchPathArgumentsCurrentDirectory(
         withTools, "/bin/ls", {"-l"}, "/tmp");
     made->setTerminationHandler([](auto&) {});
@@ -55,7 +55,7 @@ TEST_F(NewTask, GoesByWhatWasSetLast) {
     EXPECT_FALSE(made->terminationHandler());
 }
 
-TEST_F(NewTask, TellsWhetherToolsCanBeStarted) {
+TEST_F(NewTask, ReportsWhetherToolsCanBeStarted) {
     EXPECT_TRUE(KJPrivilegedTask::authorizationFunctionAvailable(mac.platform));
     mac.authorization.removeExecuteWithPrivileges();
     EXPECT_FALSE(KJPrivilegedTask::authorizationFunctionAvailable(mac.platform));
@@ -80,7 +80,7 @@ TEST_F(TaskDescription, NeverHoldsTheCurrentDirectory) {
     EXPECT_THAT(made->description(), AllOf(Not(HasSubstr("/some/where")), Not(HasSubstr("CWD"))));
 }
 
-TEST_F(TaskDescription, TellsTwoTasksApart) {
+TEST_F(TaskDescription, DistinguishesTwoTasks) {
     const auto one = task("/bin/ls");
     const auto other = task("/bin/ls");
     EXPECT_NE(one->description(), other->description());

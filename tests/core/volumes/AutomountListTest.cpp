@@ -86,7 +86,7 @@ TEST_F(AutomountList, IsWrittenBackUnchangedWhereNothingWasRemoved) {
     EXPECT_THAT(newLines(), ElementsAre("default: volumeList = (A)", "synchronize"));
 }
 
-TEST_F(AutomountList, IsStoredEmptyByARemovalFromNone) {
+TEST_F(AutomountList, IsStoredEmptyByARemovalIfAbsent) {
     remove("A");
     EXPECT_THAT(newLines(), ElementsAre("default: volumeList = ()", "synchronize"));
     EXPECT_THAT(entries(), ElementsAre());
@@ -99,7 +99,7 @@ TEST_F(AutomountList, ContainsWhatWasAdded) {
     EXPECT_FALSE(VolumeListHelper::contains(mac.userDefaults, std::nullopt));
 }
 
-TEST_F(AutomountList, IsOvercomeByAValueOfAnotherType) {
+TEST_F(AutomountList, TreatsAValueOfAnotherTypeAsEmpty) {
     mac.userDefaults.store("volumeList", std::string("text"));
     EXPECT_FALSE(VolumeListHelper::contains(mac.userDefaults, "text"));
     add("A");

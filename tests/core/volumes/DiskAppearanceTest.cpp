@@ -38,7 +38,7 @@ TEST_F(DiskAppearance, LogsRecordsPromptsAndRebuildsTheMenu) {
     EXPECT_FALSE(manager().inProgress());
 }
 
-TEST_F(DiskAppearance, OnlyLogsADiskThatIsNoNTFS) {
+TEST_F(DiskAppearance, OnlyLogsADiskOfAnotherFileSystem) {
     appear(diskOfKind("apfs"));
     EXPECT_THAT(newLines(), ElementsAre("log: disk disk4s1 appeared"));
     EXPECT_TRUE(manager().volumes().empty());
@@ -63,7 +63,7 @@ TEST_F(DiskAppearance, RecordsTheTextOfAMissingDeviceNode) {
     EXPECT_EQ(volume()->deviceNode(), "(null)");
 }
 
-TEST_F(DiskAppearance, OnlyLogsADiskOfNoKind) {
+TEST_F(DiskAppearance, OnlyLogsADiskWithoutAVolumeKind) {
     auto disk = ntfsDisk("Data");
     disk.description.volumeKind.reset();
     appear(disk);
@@ -92,7 +92,7 @@ TEST_F(DiskAppearance, WarnsInTwoLinesOfAKindInUpperCase) {
     EXPECT_THAT(labels(), ElementsAre("Data"));
 }
 
-TEST_F(DiskAppearance, AcceptsAKindThatMerelyContainsTheLetters) {
+TEST_F(DiskAppearance, AcceptsAKindThatContainsNTFSInAnyCase) {
     appear(diskOfKind("vendor_NtFs_driver"));
     EXPECT_THAT(
         newLogLines(),
@@ -105,7 +105,7 @@ TEST_F(DiskAppearance, DoesNotWarnOfTheExactKind) {
     EXPECT_THAT(newLogLines(), ElementsAre("disk disk4s1 appeared"));
 }
 
-TEST_F(DiskAppearance, WarnsOfANamelessVolumeByTheTextOfAMissingValue) {
+TEST_F(DiskAppearance, WarnsOfANamelessVolumeAsNull) {
     auto disk = diskOfKind("NTFS");
     disk.description.volumeName.reset();
     appear(disk);

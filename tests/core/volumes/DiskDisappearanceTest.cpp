@@ -105,7 +105,7 @@ TEST_F(DiskDisappearance, DropsTheFirstOfTwoRecordsOnly) {
     EXPECT_THAT(labels(), ElementsAre("Twin"));
 }
 
-TEST_F(DiskDisappearance, TellsKindsApartExactly) {
+TEST_F(DiskDisappearance, ComparesTheVolumeKindExactly) {
     for (const auto* const kind : {"NTFS", "Ntfs", "vendor_ntfs"}) {
         auto disk = ntfsDisk("Data");
         disk.description.volumeKind = kind;

@@ -71,7 +71,7 @@ TEST_F(Manager, StartsIdleWithAnEmptyList) {
     EXPECT_FALSE(made.inProgress());
 }
 
-TEST_F(Manager, HearsOfDisksThatWereThereBeforeTheStart) {
+TEST_F(Manager, IsNotifiedOfDisksAttachedBeforeTheStart) {
     attachNTFS("disk5s1", "Late name, early disk");
     attachNTFS("disk4s1", "Data");
     start();
@@ -80,13 +80,13 @@ TEST_F(Manager, HearsOfDisksThatWereThereBeforeTheStart) {
     EXPECT_THAT(devices(), ElementsAre("disk5s1", "disk4s1", "disk3s1"));
 }
 
-TEST_F(Manager, HearsNothingBeforeTheMainLoopTurns) {
+TEST_F(Manager, IsNotNotifiedBeforeTheMainLoopTurns) {
     attachNTFS("disk4s1", "Data");
     program.start();
     EXPECT_TRUE(manager().volumes().empty());
 }
 
-TEST_F(Manager, NeverHearsOfADiskWithoutAMountableVolume) {
+TEST_F(Manager, IsNotNotifiedOfADiskWithoutAMountableVolume) {
     start();
     auto disk = ntfsDisk("Whole");
     disk.description.volumeMountable.reset();
@@ -126,7 +126,7 @@ TEST_F(Manager, DoesNotKeepItsDelegateAlive) {
     EXPECT_TRUE(observer.expired());
 }
 
-TEST_F(Manager, TellsTheDelegateThatWasSetLast) {
+TEST_F(Manager, NotifiesTheDelegateThatWasSetLast) {
     struct Delegate final : NTFSVolumeManagerDelegate {
         int refreshes = 0;
         void refreshVolumes() override { ++refreshes; }

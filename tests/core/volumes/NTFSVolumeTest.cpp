@@ -38,7 +38,7 @@ TEST_F(Record, IsFilledWhenADiskAppears) {
     EXPECT_EQ(record->diskData(), mac.diskArbitration.properties("disk4s1").description);
 }
 
-TEST_F(Record, HasNoUUIDWhereTheDescriptionHasNone) {
+TEST_F(Record, HasNoUUIDIfTheDescriptionHasNone) {
     EXPECT_EQ(recordOf(ntfsDisk("Data"))->uuid(), std::nullopt);
 }
 
@@ -91,7 +91,7 @@ TEST_F(Record, IsPromptedAgainAfterItsDiskCameBack) {
     EXPECT_THAT(newLines(), testing::Contains(testing::StartsWith("notify: ")));
 }
 
-TEST_F(Record, KnowsItsCurrentFolderBestFromItsOwnMount) {
+TEST_F(Record, PrefersThePathOfItsOwnMount) {
     const auto record = NTFSVolume::initWithVolume(ntfsDisk("Data").description);
     EXPECT_EQ(currentFolder(record), platform::FileURL("/Volumes/Data"));
     record->setVolumePath(platform::FileURL("/Users/user/.brisel/Data"));

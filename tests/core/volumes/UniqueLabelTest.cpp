@@ -9,26 +9,26 @@ using testing::ElementsAre;
 
 class UniqueLabel : public RunningProgram {};
 
-TEST_F(UniqueLabel, GrowsByTheDeviceNode) {
+TEST_F(UniqueLabel, AppendsTheDeviceNode) {
     attachQuietly("disk4s1", "Data");
     attachQuietly("disk5s1", "Data");
     EXPECT_THAT(labels(), ElementsAre("Data", "Data-disk5s1"));
 }
 
-TEST_F(UniqueLabel, IsComparedWithCase) {
+TEST_F(UniqueLabel, IsComparedCaseSensitively) {
     attachQuietly("disk4s1", "Data");
     attachQuietly("disk5s1", "data");
     EXPECT_THAT(labels(), ElementsAre("Data", "data"));
 }
 
-TEST_F(UniqueLabel, GrowsTwiceInOneWalk) {
+TEST_F(UniqueLabel, AppendsTheDeviceNodeTwiceIfALaterLabelCollides) {
     attachQuietly("disk4s1", "Data");
     attachQuietly("disk5s1", "Data-disk6s1");
     attachQuietly("disk6s1", "Data");
     EXPECT_THAT(labels(), ElementsAre("Data", "Data-disk6s1", "Data-disk6s1-disk6s1"));
 }
 
-TEST_F(UniqueLabel, GrowsOnceWhereTheGrownLabelStandsEarlier) {
+TEST_F(UniqueLabel, IgnoresACollisionWithAnEarlierLabel) {
     attachQuietly("disk5s1", "Data-disk6s1");
     attachQuietly("disk4s1", "Data");
     attachQuietly("disk6s1", "Data");
@@ -42,7 +42,7 @@ TEST_F(UniqueLabel, IsNotComparedWithTheStaleRecord) {
     EXPECT_THAT(labels(), ElementsAre("Data"));
 }
 
-TEST_F(UniqueLabel, GrowsBeforeTheStaleRecordAtTheEnd) {
+TEST_F(UniqueLabel, IsMadeUniqueBeforeTheStaleRecordIsRemoved) {
     attachQuietly("disk4s1", "Data");
     attachQuietly("disk5s1", "Data");
     mac.diskArbitration.report("disk5s1");
@@ -50,7 +50,7 @@ TEST_F(UniqueLabel, GrowsBeforeTheStaleRecordAtTheEnd) {
     EXPECT_THAT(labels(), ElementsAre("Data", "Data-disk5s1"));
 }
 
-TEST_F(UniqueLabel, KnowsTheStaleRecordByItsDeviceNode) {
+TEST_F(UniqueLabel, FindsTheStaleRecordByItsDeviceNode) {
     attachQuietly("disk4s1", "Data");
     changeDiskData(*volume(), [](auto& data) { data.mediaBSDName = "disk9s9"; });
     mac.diskArbitration.report("disk4s1");
@@ -58,7 +58,7 @@ TEST_F(UniqueLabel, KnowsTheStaleRecordByItsDeviceNode) {
     EXPECT_THAT(labels(), ElementsAre("Data"));
 }
 
-TEST_F(UniqueLabel, GrowsForNamelessVolumesToo) {
+TEST_F(UniqueLabel, IsMadeUniqueForNamelessVolumesToo) {
     auto nameless = ntfsDisk("");
     nameless.description.volumeName.reset();
     mac.diskArbitration.attach("disk4s1", nameless);
@@ -80,7 +80,7 @@ TEST_F(StaleRecord, IsReplacedAtTheEndOfTheList) {
     EXPECT_THAT(newLines(), testing::Contains(testing::StartsWith("menu:")));
 }
 
-TEST_F(StaleRecord, StopsTheHandlingWhereOthersFollow) {
+TEST_F(StaleRecord, StopsTheHandlingIfItIsNotLast) {
     attachQuietly("disk4s1", "Data");
     attachQuietly("disk5s1", "Other");
     mac.diskArbitration.report("disk4s1");
@@ -99,7 +99,7 @@ TEST_F(StaleRecord, StopsTheHandlingOfAListedVolumeToo) {
     EXPECT_FALSE(manager().inProgress());
 }
 
-TEST_F(StaleRecord, StopsTheWalkAtItsFirstRemoval) {
+TEST_F(StaleRecord, EndsTheLoopWithTheFirstRemoval) {
     attachQuietly("disk4s1", "Data");
     const auto twin = NTFSVolume::initWithVolume({});
     twin->setDeviceNode("disk4s1");

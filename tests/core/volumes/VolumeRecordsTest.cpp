@@ -19,7 +19,7 @@ TEST(VolumeRecords, FindsTheFirstMatch) {
     EXPECT_EQ(findVolume(list, "disk2"), list[1]);
 }
 
-TEST(VolumeRecords, FindsNothingForAnUnknownDeviceOrNone) {
+TEST(VolumeRecords, FindsNothingForAnUnknownOrMissingDevice) {
     const VolumeRecords list{record("disk1"), NTFSVolume::initWithVolume({})};
     EXPECT_EQ(findVolume(list, "disk10"), nullptr);
     EXPECT_EQ(findVolume(list, std::nullopt), nullptr);
@@ -33,13 +33,13 @@ TEST(VolumeRecords, RemovesByIdentity) {
     EXPECT_THAT(list, testing::ElementsAre(one));
 }
 
-TEST(VolumeRecords, LosesNothingWithARecordItDoesNotHold) {
+TEST(VolumeRecords, IgnoresTheRemovalOfAnUnknownRecord) {
     VolumeRecords list{record("disk1")};
     removeVolume(list, *record("disk1"));
     EXPECT_EQ(list.size(), 1U);
 }
 
-TEST(VolumeRecords, LosesOnlyTheFirstOfADevice) {
+TEST(VolumeRecords, RemovesOnlyTheFirstOfADevice) {
     const auto second = record("disk1");
     VolumeRecords list{record("disk1"), second};
     removeFirstVolume(list, "disk1");

@@ -59,7 +59,7 @@ class MountTool(Story):
         self.assert_nothing_mounted(stick)
 
     @on_real_disks_only(REASON)
-    def test_without_anybody_to_ask_nothing_is_mounted(self):
+    def test_without_an_authentication_agent_nothing_is_mounted(self):
         stick = self.start_with_stick()
         self.accept_prompt(stick)
         self.brisel.wait_for_log("something went wrong with mount command launch")

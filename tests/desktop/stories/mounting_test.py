@@ -76,7 +76,7 @@ class Mounting(Story):
         stays(lambda: self.tray.labels()[0] == "re-mount StageData", "the stick is read-only")
         self.assertEqual(stick.mounts(), [])
 
-    def test_a_stick_chosen_for_it_is_mounted_without_a_question(self):
+    def test_a_stick_on_the_automount_list_is_mounted_without_a_prompt(self):
         self.start_brisel()
         stick = self.attach("StageData")
         self.make_writable(stick)
@@ -93,7 +93,7 @@ class Mounting(Story):
         self.tray.wait_for_entry("mount automatically")
         self.assertIn(self.stage.preferences.read("volumeList"), ("", None))
 
-    def test_a_stick_in_use_stays_mounted_and_that_is_said(self):
+    def test_a_stick_in_use_stays_mounted_and_is_reported(self):
         self.start_brisel()
         stick = self.attach("StageData")
         folder = self.make_writable(stick)

@@ -99,12 +99,12 @@ TEST_F(AnAlert, OfTwoButtonsHasNoAnswerWhenItCannotBeShown) {
     expectToldOtherwise(Question);
 }
 
-TEST_F(AnAlert, IsToldOtherwiseWithoutAProgramForIt) {
+TEST_F(AnAlert, IsLoggedAndPostedWithoutADialogProgram) {
     EXPECT_EQ(ask(Question, "/nonexistent/dialog"), NothingPressed);
     expectToldOtherwise(Question);
 }
 
-TEST_F(AnAlert, IsToldOtherwiseWhenItsWindowDoesNotComeUp) {
+TEST_F(AnAlert, IsLoggedAndPostedIfItsWindowDoesNotAppear) {
     const DialogScript dialog("exec sleep 100");
     EXPECT_EQ(ask(Question, dialog.path(), Brief), NothingPressed);
     expectToldOtherwise(Question);
@@ -115,7 +115,7 @@ TEST_F(AnAlert, WaitsForAnAnswerAsLongAsItTakes) {
     EXPECT_EQ(ask(Question, dialog.path(), milliseconds(1000)), AlertFirstButtonReturn + 1);
 }
 
-TEST_F(AnAlert, TakesNonsenseForNoAnswer) {
+TEST_F(AnAlert, TreatsMalformedOutputAsNoAnswer) {
     for (const char* const word :
          {"hello", "pressed", "pressed x", "pressed 1x", "pressed 99999999999", "pressed 2",
           "pressed -1", "\377\000", "shown pressed 0"}) {
@@ -125,7 +125,7 @@ TEST_F(AnAlert, TakesNonsenseForNoAnswer) {
     expectNothingTold();
 }
 
-TEST_F(AnAlert, UnderstandsAWordThatComesInPieces) {
+TEST_F(AnAlert, ReadsAnAnswerInPieces) {
     const DialogScript dialog(
         "printf sho; sleep 0.05; printf 'wn\\npres'; sleep 0.05; "
         "printf 'sed 1\\n'; exec sleep 100");
@@ -163,7 +163,7 @@ TEST_F(AnAlert, LeavesNeitherProcessesNorDescriptors) {
     EXPECT_TRUE(pressed.isGone());
 }
 
-TEST_F(AnAlert, LetsTheMainThreadsUrgentWorkBeDone) {
+TEST_F(AnAlert, RunsTheMainThreadsUrgentWork) {
     const DialogScript dialog(
         "echo shown; for try in $(seq 500); do\n"
         "[ -e done ] && { echo pressed 0; exit; }; sleep 0.02; done");

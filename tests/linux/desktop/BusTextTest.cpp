@@ -10,7 +10,7 @@ namespace brisel::platform::desktop {
 
 namespace {
 
-TEST(BusText, IsTheTextWhereThatIsHarmless) {
+TEST(BusText, LeavesHarmlessTextUnchanged) {
     EXPECT_EQ(busText("Fotos \xc3\xa9t\xc3\xa9 \xf0\x9f\x93\xb7"),
               "Fotos \xc3\xa9t\xc3\xa9 \xf0\x9f\x93\xb7");
     EXPECT_EQ(busText("\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d"), "\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d");
@@ -31,7 +31,7 @@ TEST(BusText, IsAlwaysValid) {
               "b");
 }
 
-TEST(BusText, DoesNotTurnTheDirectionOfWriting) {
+TEST(BusText, HasNoBidirectionalControls) {
     for (const char* const turning :
          {"\xe2\x80\xaa", "\xe2\x80\xab", "\xe2\x80\xac", "\xe2\x80\xad", "\xe2\x80\xae",
           "\xe2\x81\xa6", "\xe2\x81\xa7", "\xe2\x81\xa8", "\xe2\x81\xa9"})
@@ -57,7 +57,7 @@ class NumberedItems : public testing::Test {
     NumberedMenu menu_;
 };
 
-TEST_F(NumberedItems, AreOfTheirKind) {
+TEST_F(NumberedItems, HaveTheirKind) {
     MenuItem separator;
     separator.separator = true;
     auto checked = item("Login");
@@ -69,13 +69,13 @@ TEST_F(NumberedItems, AreOfTheirKind) {
     EXPECT_TRUE(entries.at(2).checked);
 }
 
-TEST_F(NumberedItems, OfOneKindHaveNumbersOfTheirOwn) {
+TEST_F(NumberedItems, ThatAreEqualHaveDifferentNumbers) {
     const auto entries = menu_.update({item("Same"), item("Same"), item("Same")});
     EXPECT_NE(entries.at(0).number, entries.at(1).number);
     EXPECT_EQ(menu_.update({item("Same"), item("Same"), item("Same")}), entries);
 }
 
-TEST_F(NumberedItems, ForOtherThingsHaveOtherNumbers) {
+TEST_F(NumberedItems, OfOtherObjectsHaveOtherNumbers) {
     auto one = item("Data");
     one.representedObject = std::make_shared<RepresentedObject>();
     auto other = one;
@@ -93,7 +93,7 @@ TEST_F(NumberedItems, KeepTheirNumberWhenTheirCheckMarkChanges) {
     EXPECT_TRUE(menu_.itemWithNumber(before)->checked);
 }
 
-TEST_F(NumberedItems, ThatHaveGoneAreNotFound) {
+TEST_F(NumberedItems, ThatWereRemovedAreNotFound) {
     const auto number = menu_.update({item("Data")}).front().number;
     menu_.update({});
     EXPECT_EQ(menu_.itemWithNumber(number), nullptr);

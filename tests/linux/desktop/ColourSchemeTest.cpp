@@ -75,7 +75,7 @@ TEST_F(TheColourScheme, FollowsTheSetting) {
     EXPECT_THAT(changes_, ElementsAre(Scheme::Dark, Scheme::Light));
 }
 
-TEST_F(TheColourScheme, IsAskedForAgainWhenThePortalStartsAnew) {
+TEST_F(TheColourScheme, IsReadAgainWhenThePortalRestarts) {
     auto first = std::make_unique<FakePortal>(NoPreference);
     startWith(*first);
     first.reset();
@@ -95,7 +95,7 @@ TEST_F(TheColourScheme, StaysWhenThePortalGoes) {
     EXPECT_THAT(changes_, ElementsAre(Scheme::Dark));
 }
 
-TEST_F(TheColourScheme, UnderstandsAValueThatIsWrappedOnce) {
+TEST_F(TheColourScheme, AcceptsAValueInASingleVariant) {
     FakePortal portal(NoPreference);
     portal.service.on("Read", [](const tests::BusCall& call) {
         call.answer(g_variant_new("(v)", g_variant_new_uint32(PreferDark)));
@@ -106,7 +106,7 @@ TEST_F(TheColourScheme, UnderstandsAValueThatIsWrappedOnce) {
     EXPECT_THAT(changes_, ElementsAre(Scheme::Dark));
 }
 
-TEST_F(TheColourScheme, PassesOverAnswersOfOtherTypes) {
+TEST_F(TheColourScheme, IgnoresAnswersOfOtherTypes) {
     FakePortal portal(NoPreference);
     std::vector<const char*> answers{"(<'dark'>,)", "(<<int32 1>>,)", "(uint32 1, uint32 1)", "()",
                                      "('dark',)"};
@@ -125,7 +125,7 @@ TEST_F(TheColourScheme, PassesOverAnswersOfOtherTypes) {
     }
 }
 
-TEST_F(TheColourScheme, PassesOverErrors) {
+TEST_F(TheColourScheme, IgnoresErrors) {
     FakePortal portal(NoPreference);
     int asked = 0;
     portal.service.on("Read", [&asked](const tests::BusCall& call) {
@@ -140,7 +140,7 @@ TEST_F(TheColourScheme, PassesOverErrors) {
     EXPECT_THAT(changes_, ElementsAre(Scheme::Dark));
 }
 
-TEST_F(TheColourScheme, PassesOverOtherSettingsAndSignalsOfOtherTypes) {
+TEST_F(TheColourScheme, IgnoresOtherSettingsAndSignalsOfOtherTypes) {
     FakePortal portal(NoPreference);
     startWith(portal);
     auto* const dark = g_variant_new_variant(g_variant_new_uint32(PreferDark));
@@ -157,7 +157,7 @@ TEST_F(TheColourScheme, PassesOverOtherSettingsAndSignalsOfOtherTypes) {
     g_variant_unref(dark);
 }
 
-TEST_F(TheColourScheme, DoesNotListenToStrangers) {
+TEST_F(TheColourScheme, IgnoresOtherSenders) {
     FakePortal portal(NoPreference);
     FakePortal stranger(NoPreference);
     startWith(portal);
@@ -176,7 +176,7 @@ TEST_F(TheColourScheme, DoesNotListenToStrangers) {
     EXPECT_THAT(changes_, IsEmpty());
 }
 
-TEST_F(TheColourScheme, TellsNothingOnceItIsGone) {
+TEST_F(TheColourScheme, ReportsNothingAfterItsDestruction) {
     FakePortal portal(PreferDark);
     std::vector<tests::BusCall> waiting;
     portal.service.on("Read", [&](const tests::BusCall& call) { waiting.push_back(call); });

@@ -90,13 +90,13 @@ TEST_F(TheLoginItem, StartsTheProgramInWhateverFolder) {
     }
 }
 
-TEST_F(TheLoginItem, TakesThePlaceOfAnEarlierOne) {
+TEST_F(TheLoginItem, ReplacesAnEarlierOne) {
     ASSERT_TRUE(set("/old/brisel", true));
     ASSERT_TRUE(set("/new/brisel", true));
     EXPECT_EQ(value("TryExec"), "/new/brisel");
 }
 
-TEST_F(TheLoginItem, IsRemovedOnceAndForAll) {
+TEST_F(TheLoginItem, MayBeRemovedTwice) {
     ASSERT_TRUE(set("/usr/bin/brisel", true));
     EXPECT_TRUE(set("/usr/bin/brisel", false));
     EXPECT_FALSE(fs::exists(file_));
@@ -124,7 +124,7 @@ TEST_F(TheLoginItem, IsThisProgramsInTheUsersFolder) {
     EXPECT_EQ(entry.program, fs::read_symlink("/proc/self/exe").string());
 }
 
-TEST(TheExecWord, QuotesWhatTheDesktopWouldRead) {
+TEST(TheExecWord, EscapesReservedCharacters) {
     EXPECT_EQ(execWord("/usr/bin/brisel"), "\"/usr/bin/brisel\"");
     EXPECT_EQ(execWord("a b"), "\"a b\"");
     EXPECT_EQ(execWord("\"`$\\"), R"("\"\`\$\\")");

@@ -43,14 +43,14 @@ TEST_F(TheQueue, IsReadableWhileThereIsWork) {
     EXPECT_THAT(events_, ElementsAre("one", "two"));
 }
 
-TEST_F(TheQueue, IsWorkedOffByTheMainLoop) {
+TEST_F(TheQueue, IsProcessedByTheMainLoop) {
     post("one");
     turnUntil([this] { return !events_.empty(); });
     queue_->work();
     EXPECT_THAT(events_, ElementsAre("one"));
 }
 
-TEST_F(TheQueue, LetsWorkWaitThatComesFromWork) {
+TEST_F(TheQueue, DefersWorkPostedByWork) {
     queue_->post([this] {
         events_.emplace_back("first");
         post("second");
@@ -62,7 +62,7 @@ TEST_F(TheQueue, LetsWorkWaitThatComesFromWork) {
     EXPECT_THAT(events_, ElementsAre("first", "second"));
 }
 
-TEST_F(TheQueue, CanBeWorkedOffWithinWork) {
+TEST_F(TheQueue, CanBeProcessedWithinWork) {
     queue_->post([this] {
         post("inner");
         queue_->work();
@@ -73,7 +73,7 @@ TEST_F(TheQueue, CanBeWorkedOffWithinWork) {
     EXPECT_THAT(events_, ElementsAre("inner", "outer", "later"));
 }
 
-TEST_F(TheQueue, LosesNothingOfManyThreads) {
+TEST_F(TheQueue, LosesNoWorkOfManyThreads) {
     constexpr int Threads = 4;
     constexpr int Pieces = 500;
     int done = 0;
@@ -96,7 +96,7 @@ TEST_F(TheQueue, DropsItsWorkWithItself) {
     EXPECT_THAT(events_, IsEmpty());
 }
 
-TEST(TheDesk, WorksInOrderOnAThreadOfItsOwn) {
+TEST(TheDesk, RunsWorkInOrderOnItsOwnThread) {
     std::vector<int> done;
     std::thread::id worker;
     {
@@ -110,7 +110,7 @@ TEST(TheDesk, WorksInOrderOnAThreadOfItsOwn) {
     EXPECT_NE(worker, std::this_thread::get_id());
 }
 
-TEST(TheDesk, EndsEvenIfItHasHardlyBegun) {
+TEST(TheDesk, MayEndRightAfterItsStart) {
     for (int time = 0; time < 50; ++time)
         TrayThread desk;
 }

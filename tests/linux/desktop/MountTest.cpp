@@ -118,7 +118,7 @@ TEST_F(AWritableMount, ReportsTheDiskAsGoneBeforeItCompletes) {
                 ElementsAre("sdz1 disappeared", "completed"));
 }
 
-TEST_F(AMount, IsRefusedWhereThereIsNoDriver) {
+TEST_F(AMount, IsRefusedWithoutADriver) {
     for (const auto release : {FakeDisks::Release::V2_9, FakeDisks::Release::V2_10}) {
         disks_->behaveAs(release, FakeDisks::Drivers::None);
         const auto dissenter = mount();
@@ -128,31 +128,31 @@ TEST_F(AMount, IsRefusedWhereThereIsNoDriver) {
     }
 }
 
-TEST_F(AMount, IsRefusedWhereTheServiceGivesUpOnIt) {
+TEST_F(AMount, IsRefusedIfTheServiceCancelsIt) {
     // The error of a GIO service whose own operation was cancelled.
     EXPECT_TRUE(mountScripted({"org.gtk.GDBus.UnmappedGError.Quark._g_2dio_2derror_2dquark.Code19"})
                     .has_value());
 }
 
-TEST_F(AMount, IsRefusedOnceForAReasonThatNoDriverHas) {
+TEST_F(AMount, IsNotRetriedAfterAnErrorThatDoesNotDependOnTheDriver) {
     EXPECT_TRUE(mountScripted({NotAuthorized}).has_value());
     EXPECT_THAT(disks_->calls(), testing::SizeIs(1));
     EXPECT_THAT(log_.entries(), testing::Contains(HasSubstr("Refused.")));
 }
 
-TEST_F(AMount, IsRefusedForTheSecondReasonIfThatIsNoDrivers) {
+TEST_F(AMount, ReturnsTheSecondErrorIfItDoesNotDependOnTheDriver) {
     const auto dissenter = mountScripted({Failed, NotAuthorized});
     ASSERT_TRUE(dissenter.has_value());
     EXPECT_EQ(dissenter->status, DAReturn::NotPermitted);
 }
 
-TEST_F(AMount, IsRefusedForTheFirstReasonIfTheSecondIsADriversToo) {
+TEST_F(AMount, ReturnsTheFirstErrorIfBothDependOnTheDriver) {
     const auto dissenter = mountScripted({Refused, Failed});
     ASSERT_TRUE(dissenter.has_value());
     EXPECT_EQ(dissenter->status, DAReturn::BadArgument);
 }
 
-TEST_F(AMount, ThatTakesNoWritingIsUndone) {
+TEST_F(AMount, ThatIsNotWritableIsUndone) {
     disks_->mountAt(Unwritable);
     const auto dissenter = mount();
     ASSERT_TRUE(dissenter.has_value());
@@ -163,7 +163,7 @@ TEST_F(AMount, ThatTakesNoWritingIsUndone) {
                 testing::Contains(HasSubstr("sdz1 is unmounted again: it came up")));
 }
 
-TEST_F(AMount, OfAHibernatedVolumeIsUndoneThoughItTakesWriting) {
+TEST_F(AMount, OfAHibernatedVolumeIsUndoneThoughItIsWritable) {
     const tests::TemporaryFolder folder;
     const auto unmount = [](const std::string* path) { umount2(path->c_str(), MNT_DETACH); };
     const std::unique_ptr<const std::string, decltype(unmount)> mounted(&folder.path(), unmount);

@@ -16,7 +16,7 @@ using testing::UnorderedElementsAre;
 using tests::FakeNotifications;
 using tests::turnUntil;
 
-TEST_F(Notifications, SayWhoseTheyAre) {
+TEST_F(Notifications, NameTheApplication) {
     FakeNotifications desktop({});
     desktop.service.appear();
     desktop.numberFrom(7);
@@ -47,7 +47,7 @@ TEST_F(Notifications, HaveTheirButtonsInOrder) {
 }
 
 // This includes the first notifications, and those of a server that replaces another.
-TEST_F(Notifications, AskForASoundOnlyOfAServerThatCanSound) {
+TEST_F(Notifications, RequestASoundOnlyFromAServerWithSound) {
     auto notification = popUp("Found");
     notification.soundName = "device-added";
     FakeNotifications loud({"sound"});
@@ -62,7 +62,7 @@ TEST_F(Notifications, AskForASoundOnlyOfAServerThatCanSound) {
     EXPECT_FALSE(mute.calls().front().hints.contains("sound-name"));
 }
 
-TEST_F(Notifications, EscapeTheBodyOnlyForAServerThatReadsMarkup) {
+TEST_F(Notifications, EscapeTheBodyOnlyForAServerWithMarkup) {
     const auto notification = popUp("<b>A&B</b>", "<b>A&B</b>");
     FakeNotifications reader({"body-markup"});
     reader.service.appear();
@@ -86,7 +86,7 @@ TEST_F(Notifications, OfOutsideTextsAreHarmless) {
     EXPECT_EQ(desktop.calls().front().body, "bc^J");
 }
 
-TEST_F(Notifications, ThatAreCriticalAreThereAtOnce) {
+TEST_F(Notifications, ThatAreCriticalAreSentBeforeReturning) {
     const tests::BusyNotifications desktop({"body-markup"});
     server_.showCritical("Bad", "<Very>");
     const auto calls = desktop.calls();
@@ -96,7 +96,7 @@ TEST_F(Notifications, ThatAreCriticalAreThereAtOnce) {
     EXPECT_THAT(calls.front().hints, testing::Contains(Pair("urgency", "0x02")));
 }
 
-TEST_F(Notifications, ThatAreCriticalWaitForNobodyWithoutAServer) {
+TEST_F(Notifications, ThatAreCriticalDoNotWaitWithoutAServer) {
     const auto start = std::chrono::steady_clock::now();
     server_.showCritical("Bad", "Very");
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4));
@@ -119,7 +119,7 @@ TEST_F(Notifications, FailWithTheServersError) {
     EXPECT_THAT(shown.error->localizedDescription, HasSubstr("It is refused."));
 }
 
-TEST_F(Notifications, FailWhenTheServerGivesUpOnThem) {
+TEST_F(Notifications, FailWhenTheServerCancelsThem) {
     FakeNotifications desktop({});
     // The error of a GIO server whose own operation was cancelled.
     desktop.service.on("Notify", [](const auto& call) {
@@ -152,7 +152,7 @@ TEST_F(Notifications, FailWhenTheServerEndsBeforeItsAnswer) {
     turnUntil([&failure] { return failure.has_value(); });
 }
 
-TEST_F(Notifications, PassOverCapabilitiesOfAnotherType) {
+TEST_F(Notifications, IgnoreCapabilitiesOfAnotherType) {
     FakeNotifications desktop({});
     desktop.service.on("GetCapabilities",
                        [](const auto& call) { call.answer(g_variant_new_parsed("('sound',)")); });
@@ -163,7 +163,7 @@ TEST_F(Notifications, PassOverCapabilitiesOfAnotherType) {
     EXPECT_FALSE(desktop.calls().front().hints.contains("sound-name"));
 }
 
-TEST_F(Notifications, GoToTheServerThatAnswersAtLast) {
+TEST_F(Notifications, WaitForASlowServer) {
     FakeNotifications desktop({});
     std::optional<tests::BusCall> waiting;
     desktop.service.on("Notify", [&](const auto& call) { waiting = call; });

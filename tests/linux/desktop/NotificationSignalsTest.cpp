@@ -28,14 +28,14 @@ class NotificationSignals : public Notifications {
     });
 };
 
-TEST_F(NotificationSignals, AreHeard) {
+TEST_F(NotificationSignals, AreReported) {
     desktop_.invoke(3, "DO");
     desktop_.close(3, 2);
     turnUntil([this] { return heard_.size() == 2; });
     EXPECT_THAT(heard_, ElementsAre("3 DO", "3 closed 2"));
 }
 
-TEST_F(NotificationSignals, OfOtherTypesArePassedOver) {
+TEST_F(NotificationSignals, OfOtherTypesAreIgnored) {
     desktop_.service.emit("ActionInvoked", g_variant_new("(s)", "DO"));
     desktop_.service.emit("ActionInvoked", nullptr);
     desktop_.service.emit("NotificationClosed", g_variant_new("(u)", 3));
@@ -43,7 +43,7 @@ TEST_F(NotificationSignals, OfOtherTypesArePassedOver) {
     EXPECT_THAT(heard_, IsEmpty());
 }
 
-TEST_F(NotificationSignals, FromStrangersArePassedOver) {
+TEST_F(NotificationSignals, FromOtherSendersAreIgnored) {
     const FakeNotifications stranger({});
     stranger.invoke(3, "DO");
     g_dbus_connection_flush_sync(stranger.service.bus(), nullptr, nullptr);
@@ -51,7 +51,7 @@ TEST_F(NotificationSignals, FromStrangersArePassedOver) {
     EXPECT_THAT(heard_, IsEmpty());
 }
 
-TEST_F(NotificationSignals, AreNotHeardAfterTheEndOfTheSubscription) {
+TEST_F(NotificationSignals, AreNotReportedAfterTheSubscription) {
     actions_.reset();
     desktop_.invoke(3, "DO");
     catchUp();

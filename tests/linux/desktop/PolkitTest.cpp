@@ -121,7 +121,7 @@ TEST_F(ThePasswordQuestion, FailsWithoutAnAuthority) {
     EXPECT_THAT(log_.entries(), ElementsAre(HasSubstr("polkit")));
 }
 
-TEST_F(ThePasswordQuestion, IsTakenBackWhenTheProgramIsToEnd) {
+TEST_F(ThePasswordQuestion, IsCancelledOnTermination) {
     authorityDoes([this](const auto& call) {
         waiting_ = call;
         EXPECT_EQ(write(terminationSignals_[1], "x", 1), 1);

@@ -38,7 +38,7 @@ TEST_F(ShownPrompts, IgnoreTheNumbersOfOthers) {
     EXPECT_THAT(responses_, IsEmpty());
 }
 
-TEST_F(ShownPrompts, TellOfADismissal) {
+TEST_F(ShownPrompts, ReportADismissal) {
     prompt("mount", "Data");
     desktop_.close(1, Dismissed);
     turnUntil([this] { return !responses_.empty(); });
@@ -47,7 +47,7 @@ TEST_F(ShownPrompts, TellOfADismissal) {
 }
 
 // Some desktops keep expired notifications in a list where they can still be answered.
-TEST_F(ShownPrompts, SayNothingWhenTheyExpireButCanStillBeAnswered) {
+TEST_F(ShownPrompts, ReportNothingWhenTheyExpireButCanStillBeAnswered) {
     prompt("mount", "Data");
     desktop_.close(1, Expired);
     desktop_.close(1, ClosedByCall);

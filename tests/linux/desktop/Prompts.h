@@ -45,7 +45,7 @@ class Prompts : public testing::Test {
         add(request(identifier, volume));
         waitForResults(results_.size() + 1);
     }
-    /// What was sent to the program before has arrived after this.
+    /// Waits until the program has handled all messages sent to it.
     void catchUp() { static_cast<void>(observer_.newSignals()); }
 
     tests::TestLoop loop_;
@@ -65,7 +65,7 @@ class ShownPrompts : public Prompts {
   protected:
     ShownPrompts() { desktop_.service.appear(); }
 
-    /// Replaces the server by one that numbers from 1 on again.
+    /// Replaces the server; the new one numbers notifications from 1 again.
     void restartServer(tests::FakeNotifications& other) {
         bool gone = false;
         const auto leaving = server_.onVanished([&gone] { gone = true; });

@@ -38,7 +38,7 @@ TEST_F(AStart, IsTheFirstOrTheSecond) {
     EXPECT_EQ(second.place(), Place::Second);
 }
 
-TEST_F(AStart, TurnsToTheFirst) {
+TEST_F(AStart, ActivatesTheFirst) {
     SingleInstance first(first_.get());
     int activated = 0;
     first.listen([&activated] { ++activated; });
@@ -72,7 +72,7 @@ TEST_F(AStart, BeforeTheFirstListensIsNotLost) {
     EXPECT_EQ(activated, 1);
 }
 
-TEST_F(AStart, KnowsNoPlaceWithoutABus) {
+TEST_F(AStart, IsUnknownWithoutABus) {
     g_dbus_connection_close_sync(first_.get(), nullptr, nullptr);
     EXPECT_EQ(SingleInstance(first_.get()).place(), Place::Unknown);
 }

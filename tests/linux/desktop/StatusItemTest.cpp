@@ -31,7 +31,7 @@ TEST_F(TheStatusItem, ShowsTheImageAndWhatItMeans) {
     EXPECT_EQ(icon_.text("Title"), "Brisel: a volume is writable");
 }
 
-TEST_F(TheStatusItem, SaysItInTheUsersLanguage) {
+TEST_F(TheStatusItem, IsDescribedInTheUsersLanguage) {
     bundle_.setLanguage("de");
     item_->setImage("brisel-status-grey-light");
     tests::waitForDesk();
@@ -97,7 +97,7 @@ TEST_F(TheAppearance, FollowsTheDesktopFromTheStart) {
     EXPECT_THAT(seen_, ElementsAre("NSAppearanceNameDarkAqua", "NSAppearanceNameAqua"));
 }
 
-TEST_F(TheAppearance, IsNotToldToWhoHasStoppedListening) {
+TEST_F(TheAppearance, IsNotReportedAfterTheSubscription) {
     observation_.reset();
     portal_.change(PreferDark);
     portal_.service.appear();
@@ -108,7 +108,7 @@ TEST_F(TheAppearance, IsNotToldToWhoHasStoppedListening) {
 }
 
 // The queue may outlive the item and still hold the change.
-TEST_F(TheAppearance, ThatChangesAtTheEndIsToldToNobody) {
+TEST_F(TheAppearance, ThatChangesAtTheEndIsNotReported) {
     item_->setImage("brisel-status-blue-light");
     portal_.change(PreferDark);
     portal_.service.appear();

@@ -109,7 +109,7 @@ TEST_F(TheStatusMenu, ShowsHostileLabelsHarmlessly) {
     EXPECT_EQ(labelOf(std::string(5000, 'x')), std::string(5000, 'x'));
 }
 
-TEST_F(TheStatusMenu, TellsPanelsOfNewItems) {
+TEST_F(TheStatusMenu, EmitsASignalForNewItems) {
     const auto before = read().revision;
     static_cast<void>(host_.newSignals());
     insertVolumes({"Data"});
@@ -118,14 +118,14 @@ TEST_F(TheStatusMenu, TellsPanelsOfNewItems) {
     EXPECT_THAT(host_.newSignals(), Contains("LayoutUpdated"));
 }
 
-TEST_F(TheStatusMenu, TellsPanelsOfAChangedCheckMark) {
+TEST_F(TheStatusMenu, EmitsASignalForAChangedCheckMark) {
     static_cast<void>(read());
     menu_.setChecked("toggle:", false);
     turn();
     EXPECT_THAT(host_.newSignals(), Contains("ItemsPropertiesUpdated"));
 }
 
-TEST_F(TheStatusMenu, TellsPanelsNothingWhenItIsTheSameAsBefore) {
+TEST_F(TheStatusMenu, EmitsNoSignalIfItIsUnchanged) {
     insertVolumes({"Data"});
     const auto before = read();
     static_cast<void>(host_.newSignals());
@@ -179,14 +179,14 @@ TEST_F(TheStatusMenu, NeverUsesANumberAgain) {
         EXPECT_TRUE(volume.expired());
 }
 
-TEST_F(TheStatusMenu, DoesWhatIsClickedOnTheMainThread) {
+TEST_F(TheStatusMenu, HandlesClicksOnTheMainThread) {
     click(read().idOf("Quit"));
     turnUntil([this] { return !chosen_.empty(); });
     EXPECT_THAT(chosen_, ElementsAre("Quit"));
     EXPECT_THAT(threads_, ElementsAre(std::this_thread::get_id()));
 }
 
-TEST_F(TheStatusMenu, DoesNothingForAClickOnWhatHasGone) {
+TEST_F(TheStatusMenu, IgnoresAClickOnARemovedItem) {
     insertVolumes({"Data"});
     const auto shown = read();
     // The click arrives first, but the main thread handles it after the removal.
@@ -198,13 +198,13 @@ TEST_F(TheStatusMenu, DoesNothingForAClickOnWhatHasGone) {
     EXPECT_THAT(chosen_, IsEmpty());
 }
 
-TEST_F(TheStatusMenu, DoesNothingForAClickOnAText) {
+TEST_F(TheStatusMenu, IgnoresAClickOnAnItemWithoutAction) {
     click(read().idOf("Brisel 1.0"));
     click(0);
     EXPECT_THAT(chosen_, IsEmpty());
 }
 
-TEST_F(TheStatusMenu, ForgetsAClickThatComesTooLate) {
+TEST_F(TheStatusMenu, IgnoresAClickAfterItsEnd) {
     host_.click(read().idOf("Quit"));
     item_.reset();
     turn();

@@ -60,7 +60,7 @@ TEST_F(TheTrayIcon, RegistersWithATrayThatStartsLater) {
     EXPECT_THAT(tray.registered(), ElementsAre(name_));
 }
 
-TEST_F(TheTrayIcon, RegistersAgainWithATrayThatStartsAnew) {
+TEST_F(TheTrayIcon, RegistersAgainWithARestartedTray) {
     auto first = std::make_unique<FakeTray>(FakeTray::Host::There);
     first->service.appear();
     start();
@@ -96,14 +96,14 @@ TEST_F(TheTrayIcon, HasItsNameOnTheBusAsLongAsItLives) {
     turnUntil([&] { return !hasOwner(); });
 }
 
-TEST_F(TheTrayIcon, SaysOnceThatNothingShowsIt) {
+TEST_F(TheTrayIcon, ReportsOnceThatNothingShowsIt) {
     start(Brief);
     turnUntil([this] { return !log_.entries().empty(); });
     waitLongEnough();
     EXPECT_THAT(log_.entries(), ElementsAre(HasSubstr("No tray shows status icons here.")));
 }
 
-TEST_F(TheTrayIcon, SaysThatNothingShowsItWhenAWatcherHasNoPanel) {
+TEST_F(TheTrayIcon, ReportsThatNothingShowsItIfTheWatcherHasNoHost) {
     FakeTray tray(FakeTray::Host::None);
     tray.service.appear();
     start(milliseconds(30));
@@ -111,7 +111,7 @@ TEST_F(TheTrayIcon, SaysThatNothingShowsItWhenAWatcherHasNoPanel) {
     EXPECT_THAT(tray.registered(), ElementsAre(name_));
 }
 
-TEST_F(TheTrayIcon, SaysNothingWhenItIsShown) {
+TEST_F(TheTrayIcon, ReportsNothingWhenItIsShown) {
     FakeTray tray(FakeTray::Host::There);
     tray.service.appear();
     start(milliseconds(40));
@@ -167,7 +167,7 @@ TEST_F(TheTrayIconsFace, IsCalledByThePlainNameWithoutAState) {
     EXPECT_EQ(host_.text("Title"), "Brisel");
 }
 
-TEST_F(TheTrayIconsFace, TellsHostsOfAChangeAndOnlyOfAChange) {
+TEST_F(TheTrayIconsFace, EmitsASignalOnlyForAChange) {
     icon_->show({.iconName = "blue", .words = "writable"});
     EXPECT_THAT(host_.newSignals(), ElementsAre("NewIcon", "NewTitle", "NewToolTip"));
     icon_->show({.iconName = "blue", .words = "writable"});

@@ -36,7 +36,7 @@ class AWindow : public testing::Test {
     std::vector<int> pressed_;
 };
 
-TEST_F(AWindow, TellsWhatIsPressedInIt) {
+TEST_F(AWindow, ReportsThePressedItem) {
     const DialogScript dialog("cat >input; echo \"$@\" >given; echo shown; echo pressed 42");
     ModelessWindow window(log_, dialog.path());
     window.show({"menu", "Title"}, "some input\n", note());
@@ -47,7 +47,7 @@ TEST_F(AWindow, TellsWhatIsPressedInIt) {
     waitForEnd(dialog);
 }
 
-TEST_F(AWindow, TellsNothingWhenItIsClosed) {
+TEST_F(AWindow, ReportsNothingWhenItIsClosed) {
     const DialogScript dialog("echo shown");
     ModelessWindow window(log_, dialog.path());
     window.show({"menu"}, {}, note());
@@ -56,7 +56,7 @@ TEST_F(AWindow, TellsNothingWhenItIsClosed) {
     EXPECT_THAT(log_.entries(), IsEmpty());
 }
 
-TEST_F(AWindow, GivesWayToANewerOne) {
+TEST_F(AWindow, IsReplacedByANewerOne) {
     const DialogScript dialog(
         "echo shown; echo $$ >>pids; [ -e second ] && echo pressed 2; exec sleep 100");
     ModelessWindow window(log_, dialog.path());
@@ -71,7 +71,7 @@ TEST_F(AWindow, GivesWayToANewerOne) {
     waitForEnd(dialog);
 }
 
-TEST_F(AWindow, GoesWithItsOwner) {
+TEST_F(AWindow, ClosesWithItsOwner) {
     const DialogScript dialog("exec sleep 100");
     {
         ModelessWindow window(log_, dialog.path());
@@ -82,7 +82,7 @@ TEST_F(AWindow, GoesWithItsOwner) {
     EXPECT_TRUE(dialog.isGone());
 }
 
-TEST_F(AWindow, WithoutAProgramIsNothing) {
+TEST_F(AWindow, WithoutADialogProgramIsOnlyLogged) {
     ModelessWindow window(log_, "/nonexistent/dialog");
     const auto before = tests::openDescriptors();
     constexpr int Times = 20;
@@ -113,7 +113,7 @@ TEST_F(AWindow, MayBeShownAgainByWhatIsPressedInIt) {
     waitForEnd(dialog);
 }
 
-TEST_F(AWindow, ShowsWhatTheProgramIs) {
+TEST_F(AWindow, ShowsTheAboutPanel) {
     const DialogScript dialog("echo \"$@\" >given; echo shown");
     Application application(log_, dialog.path());
     application.orderFrontStandardAboutPanel();

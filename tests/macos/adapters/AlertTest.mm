@@ -31,13 +31,13 @@ TEST_F(AlertAdapter, NumbersItsButtonsFromTheFirstOn) {
     }
 }
 
-TEST_F(AlertAdapter, HasTheSystemsOwnButtonWhereNoneIsGiven) {
+TEST_F(AlertAdapter, HasTheDefaultButtonIfNoneIsGiven) {
     EXPECT_EQ(adapter.runModal({.messageText = "!", .informativeText = "", .buttons = {}}),
               platform::AlertFirstButtonReturn);
     EXPECT_EQ(lines().back(), "buttons: OK");
 }
 
-TEST_F(AlertAdapter, TakesAnExceptionForNoButton) {
+TEST_F(AlertAdapter, TreatsAnExceptionAsNoButton) {
     orders().nextCallRaises = true;
     EXPECT_LT(adapter.runModal({.messageText = "?", .informativeText = "", .buttons = {"a"}}),
               platform::AlertFirstButtonReturn);

@@ -51,7 +51,7 @@ TEST_F(AuthorizationAdapter, CreatesReferencesAndFreesThem) {
     EXPECT_EQ(mac.authorization.unfreed(), 0U);
 }
 
-TEST_F(AuthorizationAdapter, HandsOnThatNoneIsCreated) {
+TEST_F(AuthorizationAdapter, ReturnsTheStatusOfAFailedCreation) {
     mac.faults.failCall(1);
     const auto refused = adapter.create(0);
     EXPECT_EQ(refused.status, platform::errAuthorizationInternal);
@@ -67,14 +67,14 @@ TEST_F(AuthorizationAdapter, AsksForOneRightWithItsValue) {
     EXPECT_EQ(asked.flags, 0x13U);
 }
 
-TEST_F(AuthorizationAdapter, HandsOnWhyARightWasRefused) {
+TEST_F(AuthorizationAdapter, ReturnsTheStatusOfARefusedRight) {
     for (const OSStatus status : {-60006, -60005, -60007, 1}) {
         person.whenPasswordIsAsked = [status] { return status; };
         EXPECT_EQ(ask(), status);
     }
 }
 
-TEST_F(AuthorizationAdapter, HandsOnWhyAToolWasNotStarted) {
+TEST_F(AuthorizationAdapter, ReturnsTheStatusOfAFailedStart) {
     mac.authorization.failLaunch(-12345);
     const auto refused = started({"/bin/tool"});
     EXPECT_EQ(refused.status, -12345);
@@ -103,7 +103,7 @@ TEST_F(AuthorizationAdapter, GivesAStreamWithoutAnOwner) {
     std::fclose(tool.communicationsPipe);
 }
 
-TEST_F(AuthorizationAdapter, LetsAToolEndThatNobodyReads) {
+TEST_F(AuthorizationAdapter, LetsAToolEndWithItsOutputUnread) {
     orders().startsRealTools = true;
     const auto tool =
         started({"/bin/sh", "-c", "head -c 1000000 /dev/zero | tr '\\0' x; printf end; exit 6"});
@@ -123,7 +123,7 @@ class PrivilegedTaskOnAMac : public AuthorizationAdapter {
     }
 };
 
-TEST_F(PrivilegedTaskOnAMac, GetsTheExitStatusThoughItKnowsNoProcess) {
+TEST_F(PrivilegedTaskOnAMac, GetsTheExitStatusWithoutAProcessID) {
     mac.authorization.setToolEnd({.exitStatus = 3, .output = "no such volume"});
     const auto made = task();
     EXPECT_EQ(made->launch(), 0);

@@ -32,7 +32,7 @@ TEST_F(BareProcess, DoesNotOfferACallThatIsNotFound) {
     EXPECT_EQ(tool.communicationsPipe, nullptr);
 }
 
-TEST_F(BareProcess, HasATaskSayThatTheCallIsNotFound) {
+TEST_F(BareProcess, ReportsTheMissingCallInATask) {
     const auto withAdapter = platformWith(mac.platform, {.authorization = &authorization});
     const auto task = KJPrivilegedTask::initWithLaunchPath(withAdapter, "/bin/tool");
     EXPECT_EQ(task->launch(), -70001);
@@ -44,7 +44,7 @@ TEST_F(BareProcess, KnowsAnOlderSystem) {
     EXPECT_FALSE(platform::macos::SystemVersion().isMacOS12OrLater());
 }
 
-TEST_F(BareProcess, IsNoApplicationWhetherItHasAnIdentifierOrNot) {
+TEST_F(BareProcess, IsNoApplicationWithOrWithoutAnIdentifier) {
 #ifdef HAS_IDENTIFIER
     EXPECT_NE([[NSBundle mainBundle] bundleIdentifier], nil);
 #else

@@ -11,7 +11,7 @@ using testing::IsEmpty;
 
 class DiskReports : public DiskArbitrationAdapter {};
 
-TEST_F(DiskReports, TellOfDisksThatAreThereAndThatComeAndGo) {
+TEST_F(DiskReports, ReportDisksThatArePresentAppearAndDisappear) {
     attach("disk4s1");
     start();
     deliver();
@@ -78,7 +78,7 @@ TEST_F(DiskReports, ThatWaitAreDroppedWithTheirSubscription) {
     EXPECT_THAT(reports, IsEmpty());
 }
 
-TEST_F(DiskReports, LetGoOfWhatTheyCalledWhenTheyEnd) {
+TEST_F(DiskReports, ReleaseTheirCallbacksWhenTheyEnd) {
     start();
     const auto held = std::make_shared<int>();
     auto extra = adapter.registerDiskAppearedCallback([held](const Disk&) {});

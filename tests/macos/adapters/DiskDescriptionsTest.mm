@@ -15,7 +15,7 @@ class DiskDescriptions : public DiskArbitrationAdapter {
     DiskDescriptions() { start(); }
 };
 
-TEST_F(DiskDescriptions, HaveAllThatTheSystemKnows) {
+TEST_F(DiskDescriptions, HaveAllValuesOfTheSystem) {
     const DiskDescription full{.volumeMountable = true,
                                .volumeKind = "ntfs",
                                .volumeName = "Größe 💾",
@@ -27,14 +27,14 @@ TEST_F(DiskDescriptions, HaveAllThatTheSystemKnows) {
     EXPECT_EQ(description("disk4s1"), full);
 }
 
-TEST_F(DiskDescriptions, LackWhatTheSystemDoesNotKnow) {
+TEST_F(DiskDescriptions, LackValuesAbsentInTheSystem) {
     mac.diskArbitration.attach("disk4s1", {});
     DiskDescription nameAlone;
     nameAlone.mediaBSDName = "disk4s1";
     EXPECT_EQ(description("disk4s1"), nameAlone);
 }
 
-TEST_F(DiskDescriptions, TellNoFromAbsent) {
+TEST_F(DiskDescriptions, DistinguishFalseFromAbsent) {
     DiskDescription notMountable;
     notMountable.volumeMountable = false;
     mac.diskArbitration.attach("disk4s1", {.description = notMountable});
@@ -65,7 +65,7 @@ TEST_F(DiskDescriptions, TakeAValueOfAnotherTypeAsAbsent) {
     EXPECT_EQ(description("disk4s1"), DiskDescription());
 }
 
-TEST_F(DiskDescriptions, LackAPathThatNoPathCanBe) {
+TEST_F(DiskDescriptions, LackAPathThatIsTooLong) {
     attach("disk4s1");
     const auto path = "/" + std::string(PATH_MAX, 'x');
     describeWith(kDADiskDescriptionVolumePathKey,
@@ -78,7 +78,7 @@ class Disks : public DiskArbitrationAdapter {
     Disks() { start(); }
 };
 
-TEST_F(Disks, AreMadeOfAnyNameButNotOfNone) {
+TEST_F(Disks, AreCreatedFromAnyNameButNotFromNull) {
     const auto disk = adapter.diskFromBSDName("disk9s9");
     ASSERT_TRUE(disk);
     EXPECT_EQ(disk->bsdName, "disk9s9");
@@ -86,7 +86,7 @@ TEST_F(Disks, AreMadeOfAnyNameButNotOfNone) {
     EXPECT_FALSE(adapter.diskFromBSDName(std::nullopt));
 }
 
-TEST_F(Disks, ThatTheSystemDoesNotMakeAreNone) {
+TEST_F(Disks, ThatTheSystemCannotCreateAreAbsent) {
     mac.faults.failCall(mac.faults.calls() + 1);
     EXPECT_FALSE(adapter.diskFromBSDName("disk4s1"));
     EXPECT_TRUE(adapter.diskFromBSDName("disk4s1"));

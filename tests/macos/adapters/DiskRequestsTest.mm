@@ -56,7 +56,7 @@ TEST_F(DiskRequests, MayCompleteBeforeTheCallReturns) {
     EXPECT_THAT(completed, ElementsAre("disk4s1", "disk4s1"));
 }
 
-TEST_F(DiskRequests, HandOnEveryStatusToTheBit) {
+TEST_F(DiskRequests, PreserveEveryBitOfTheStatus) {
     // The second is EBUSY as a Mach error, the status of a volume in use.
     const std::vector<std::uint32_t> values{DAReturn::Busy, 0x0000C010, DAReturn::Unsupported,
                                             0xFFFFFFFF,     0x80000000, 1};
@@ -86,7 +86,7 @@ TEST_F(DiskRequests, MountWithoutArguments) {
     EXPECT_THAT(lines(), ElementsAre("mount: disk4s1"));
 }
 
-TEST_F(DiskRequests, ForWhichNoDiskIsMadeAreRefusedAtOnce) {
+TEST_F(DiskRequests, WithoutADiskAreRefusedAtOnce) {
     attach("disk4s1");
     mac.faults.failCall(mac.faults.calls() + 1);
     unmount("disk4s1");
@@ -96,7 +96,7 @@ TEST_F(DiskRequests, ForWhichNoDiskIsMadeAreRefusedAtOnce) {
     EXPECT_THAT(lines(), IsEmpty());
 }
 
-TEST_F(DiskRequests, LetGoOfTheirCompletionsWhenTheyHaveCalledThem) {
+TEST_F(DiskRequests, ReleaseTheirCompletionsAfterTheCall) {
     attach("disk4s1");
     const auto held = std::make_shared<int>();
     adapter.unmount({.bsdName = "disk4s1", .reported = {}}, [held](const auto&, const auto&) {});
@@ -105,7 +105,7 @@ TEST_F(DiskRequests, LetGoOfTheirCompletionsWhenTheyHaveCalledThem) {
     EXPECT_EQ(held.use_count(), 1);
 }
 
-TEST_F(DiskRequests, AreForgottenByNobodyWhenTheyTakeLong) {
+TEST_F(DiskRequests, MayCompleteMuchLater) {
     attach("disk4s1");
     mac.diskArbitration.hold();
     unmount("disk4s1");
@@ -154,18 +154,18 @@ class MountedReadOnly : public DiskRequests {
     }
 };
 
-TEST_F(MountedReadOnly, IsToldFromMountedReadWrite) {
+TEST_F(MountedReadOnly, IsDistinguishedFromMountedReadWrite) {
     EXPECT_TRUE(platform::macos::isMountedReadOnly(readOnly));
     EXPECT_FALSE(platform::macos::isMountedReadOnly(writable.path()));
     EXPECT_FALSE(platform::macos::isMountedReadOnly(writable.path() + "/nothing"));
 }
 
-TEST_F(MountedReadOnly, CountsAsRefusedWhereReadWriteWasAskedFor) {
+TEST_F(MountedReadOnly, CountsAsRefusedIfReadWriteWasRequested) {
     mountAt(readOnly, {"auto", "rw", "nobrowse"});
     EXPECT_THAT(statuses, ElementsAre(DAReturn::NotWritable));
 }
 
-TEST_F(MountedReadOnly, IsFineWhereNothingElseWasAskedFor) {
+TEST_F(MountedReadOnly, IsAcceptedIfReadWriteWasNotRequested) {
     mountAt(readOnly, {"rdonly"});
     EXPECT_THAT(statuses, ElementsAre(std::nullopt));
 }
@@ -176,7 +176,7 @@ TEST_F(MountedReadOnly, DoesNotHideAnotherRefusal) {
     EXPECT_THAT(statuses, ElementsAre(DAReturn::Busy));
 }
 
-TEST_F(MountedReadOnly, IsNotSaidOfAWritableVolume) {
+TEST_F(MountedReadOnly, IsNotReportedForAWritableVolume) {
     mountAt(writable.path(), {"rw"});
     EXPECT_THAT(statuses, ElementsAre(std::nullopt));
 }

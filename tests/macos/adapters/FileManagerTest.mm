@@ -22,7 +22,7 @@ class FileManagerAdapter : public AdapterTest {
     platform::macos::FileManager adapter;
 };
 
-TEST_F(FileManagerAdapter, KnowsWhereThingsAre) {
+TEST_F(FileManagerAdapter, KnowsTheStandardFolders) {
     mac.fileManager.setHomeDirectory("/Users/größe");
     EXPECT_EQ(adapter.homeDirectory(), "/Users/größe");
     EXPECT_EQ(adapter.volumesDirectory(), "/Volumes");
@@ -47,7 +47,7 @@ TEST_F(FileManagerAdapter, CountsWhatIsInAFolder) {
     EXPECT_FALSE(listing.error);
 }
 
-TEST_F(FileManagerAdapter, TellsAnEmptyFolderFromNone) {
+TEST_F(FileManagerAdapter, DistinguishesAnEmptyFolderFromAMissingOne) {
     mac.fileSystem.makeFolder("/Users/user/empty");
     const auto empty = adapter.contentsOfDirectory(FileURL("/Users/user/empty"));
     EXPECT_EQ(empty.entryCount, 0U);
@@ -63,7 +63,7 @@ TEST_F(FileManagerAdapter, MakesAFolderWithThoseAboveIt) {
     EXPECT_FALSE(adapter.createDirectory("/Users/user/.brisel/Größe 💾"));
 }
 
-TEST_F(FileManagerAdapter, HandsOnWhatAnErrorSays) {
+TEST_F(FileManagerAdapter, ConvertsErrors) {
     const Error error{.localizedDescription = "It cannot be.",
                       .localizedFailureReason = "It must not be."};
     for (const auto call : {Call::Create, Call::List, Call::Delete})
@@ -76,7 +76,7 @@ TEST_F(FileManagerAdapter, HandsOnWhatAnErrorSays) {
     }
 }
 
-TEST_F(FileManagerAdapter, HasNoReasonWhereTheSystemHasNone) {
+TEST_F(FileManagerAdapter, HasNoReasonIfTheSystemGivesNone) {
     mac.fileManager.fail(Call::Create,
                          {.localizedDescription = "No.", .localizedFailureReason = {}});
     const auto error = adapter.createDirectory("/a");
@@ -85,7 +85,7 @@ TEST_F(FileManagerAdapter, HasNoReasonWhereTheSystemHasNone) {
     EXPECT_EQ(error->localizedFailureReason, std::nullopt);
 }
 
-TEST_F(FileManagerAdapter, MakesAnErrorOfAnException) {
+TEST_F(FileManagerAdapter, TurnsAnExceptionIntoAnError) {
     orders().nextCallRaises = true;
     EXPECT_TRUE(adapter.createDirectory("/a"));
     orders().nextCallRaises = true;
@@ -99,7 +99,7 @@ TEST_F(FileManagerAdapter, MakesAnErrorOfAnException) {
                                         "The system refused to list a folder: raised as told"));
 }
 
-TEST_F(FileManagerAdapter, MakesAnErrorOfAFolderThatIsStillThereWhenItIsSaidToBeDeleted) {
+TEST_F(FileManagerAdapter, ReportsAnErrorIfADeletedFolderStillExists) {
     mac.fileSystem.makeFolder("/Users/user/.brisel/Data");
     orders().onlySaysItDeletes = true;
     EXPECT_TRUE(adapter.removeItem("/Users/user/.brisel/Data"));
@@ -115,13 +115,13 @@ class RealFolder : public FileManagerAdapter {
     void SetUp() override { fs::create_directory(path); }
 };
 
-TEST_F(RealFolder, GoesWhenItIsEmpty) {
+TEST_F(RealFolder, IsRemovedIfItIsEmpty) {
     EXPECT_FALSE(adapter.removeItem(path));
     EXPECT_FALSE(fs::exists(path));
     EXPECT_TRUE(fs::exists(folder.path()));
 }
 
-TEST_F(RealFolder, StaysWithAllThatIsInIt) {
+TEST_F(RealFolder, IsKeptWithItsContents) {
     fs::create_directories(path + "/deep/er");
     std::ofstream(path + "/precious") << "x";
     std::ofstream(path + "/deep/er/precious") << "x";
@@ -132,13 +132,13 @@ TEST_F(RealFolder, StaysWithAllThatIsInIt) {
     EXPECT_TRUE(fs::exists(path + "/deep/er/precious"));
 }
 
-TEST_F(RealFolder, StaysWithAnEmptyFolderInIt) {
+TEST_F(RealFolder, IsKeptIfItContainsAnEmptyFolder) {
     fs::create_directory(path + "/empty");
     EXPECT_TRUE(adapter.removeItem(path));
     EXPECT_TRUE(fs::exists(path + "/empty"));
 }
 
-TEST_F(RealFolder, IsGuardedAnewInEachCall) {
+TEST_F(RealFolder, IsCheckedInEachCall) {
     EXPECT_FALSE(adapter.removeItem(path));
     fs::create_directory(path);
     fs::create_directory(path + "/empty");

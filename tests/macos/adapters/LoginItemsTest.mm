@@ -19,7 +19,7 @@ TEST_F(LoginItemsAdapter, RegistersAndRemovesAHelper) {
                                               "login-item: org.brisel.Helper off"));
 }
 
-TEST_F(LoginItemsAdapter, TellsThatTheSystemRefused) {
+TEST_F(LoginItemsAdapter, ReportsARefusal) {
     mac.loginItems.setAnswer(platform::simulated::LoginItems::Answer::Refuse);
     EXPECT_FALSE(adapter.setEnabled("org.brisel.Helper", true));
     EXPECT_FALSE(adapter.setEnabled("org.brisel.Helper", false));

@@ -69,7 +69,7 @@ TEST_F(MenuAdapter, PutsItemsWhereTheyBelong) {
     EXPECT_THAT(titles(), ElementsAre("a", "b", "c", "Start at Login", "Quit", "end"));
 }
 
-TEST_F(MenuAdapter, GivesItemsAllThatTheyHave) {
+TEST_F(MenuAdapter, SetsAllPropertiesOfItems) {
     auto made = item("re-mount Größe 💾", 105);
     made.alignment = 1;
     made.checked = true;
@@ -85,7 +85,7 @@ TEST_F(MenuAdapter, GivesItemsAllThatTheyHave) {
     EXPECT_FALSE(seen.separator);
 }
 
-TEST_F(MenuAdapter, AlignsTheWholeTitleAsItStands) {
+TEST_F(MenuAdapter, AlignsTheWholeTitle) {
     auto made = item("Größe 💾 end");
     made.alignment = 1;
     adapter->insertItem(made, 0);
@@ -96,7 +96,7 @@ TEST_F(MenuAdapter, AlignsTheWholeTitleAsItStands) {
     EXPECT_EQ(range.length, [title length]);
 }
 
-TEST_F(MenuAdapter, LeavesItemsWithoutWhatTheyLack) {
+TEST_F(MenuAdapter, LeavesUnsetPropertiesUnset) {
     MenuItem made;
     made.title = "plain";
     adapter->insertItem(made, 0);
@@ -129,7 +129,7 @@ TEST_F(MenuAdapter, RemovesByTagsAndKeepsTheOthersInOrder) {
     EXPECT_EQ(titles().size(), 4U);
 }
 
-TEST_F(MenuAdapter, LogsAnIndexThatIsNoneAndGoesOn) {
+TEST_F(MenuAdapter, LogsAnInvalidIndexAndContinues) {
     adapter->insertItem(item("too far"), 3);
     EXPECT_THAT(titles(), ElementsAre("Start at Login", "Quit"));
     EXPECT_THAT(logLines(), ElementsAre(testing::StartsWith("The system refused to insert")));
@@ -158,7 +158,7 @@ TEST_F(MenuAdapter, CarriesOutTheItemThatIsChosen) {
     EXPECT_THAT(performed, ElementsAre("other", "first", "second"));
 }
 
-TEST_F(MenuAdapter, HandsTheItemItselfToItsTarget) {
+TEST_F(MenuAdapter, PassesTheItemToItsTarget) {
     auto made = item("a", 105);
     made.representedObject = std::make_shared<platform::RepresentedObject>();
     std::optional<MenuItem> sender;
@@ -199,7 +199,7 @@ TEST_F(MenuAdapter, DoesNothingForAnItemWithoutATarget) {
     EXPECT_THAT(logLines(), ElementsAre());
 }
 
-TEST_F(MenuAdapter, LetsGoOfItemsThatAreRemoved) {
+TEST_F(MenuAdapter, ReleasesRemovedItems) {
     auto made = item("a");
     const auto held = made.representedObject = std::make_shared<platform::RepresentedObject>();
     @autoreleasepool {

@@ -80,7 +80,7 @@ TEST_F(Responses, AreNotAnsweredUnlessTheHandlerDoes) {
     EXPECT_THAT(takeComplaints(), IsEmpty());
 }
 
-TEST_F(Responses, AreAnsweredOnceByTheHandlerThatIsHandedOn) {
+TEST_F(Responses, AreAnsweredOnceByTheCompletionHandler) {
     listen();
     deliver();
     turn(NSDefaultRunLoopMode, Patience, &arrived);
@@ -89,7 +89,7 @@ TEST_F(Responses, AreAnsweredOnceByTheHandlerThatIsHandedOn) {
     EXPECT_THAT(takeComplaints(), ElementsAre("a response was answered: yes"));
 }
 
-TEST_F(Responses, LeaveOutWhatIsNoText) {
+TEST_F(Responses, OmitValuesThatAreNotStrings) {
     listen();
     NSNumber* const number = [NSNumber numberWithInt:1];
     deliverHere([NSDictionary dictionaryWithObjectsAndKeys:@"disk4s1", @"volume", number, @"number",
@@ -114,7 +114,7 @@ TEST_F(Responses, OnTheirWayAreDroppedWithTheSubscription) {
     EXPECT_THAT(seen, IsEmpty());
 }
 
-TEST_F(Responses, GoToTheHandlerThatTookThePlaceOfAnother) {
+TEST_F(Responses, GoToTheHandlerSetLast) {
     delegate = adapter.setDelegate([this](const auto&, const auto&) { ++answers; });
     listen();
     deliverHere();
@@ -134,7 +134,7 @@ TEST_F(Responses, MayEndTheirOwnSubscription) {
     EXPECT_EQ(held.use_count(), 1);
 }
 
-TEST_F(Responses, FindTheDelegateAlive) {
+TEST_F(Responses, KeepTheDelegateAlive) {
     @autoreleasepool {
         listen();
     }

@@ -37,7 +37,7 @@ TEST_F(OwnedReference, MovesOnWithoutBeingReleased) {
     EXPECT_EQ(live(), 1);
 }
 
-TEST_F(OwnedReference, TakesThePlaceOfAnotherWhichGoesWithTheOwnerOfOld) {
+TEST_F(OwnedReference, IsSwappedOnMoveAssignment) {
     auto first = made();
     {
         auto second = made();
@@ -56,7 +56,7 @@ TEST_F(OwnedReference, SurvivesBeingMovedOntoItself) {
     EXPECT_EQ(live(), 1);
 }
 
-TEST_F(OwnedReference, ToNothingIsNone) {
+TEST_F(OwnedReference, MayBeNull) {
     const Owned<Object> none;
     const Owned<Object> null(nil);
     EXPECT_FALSE(none);
@@ -65,7 +65,7 @@ TEST_F(OwnedReference, ToNothingIsNone) {
     EXPECT_EQ(null.get(), nil);
 }
 
-TEST_F(OwnedReference, ToAnObjectOfSomebodyElseIsAFurtherOne) {
+TEST_F(OwnedReference, ToABorrowedObjectRetainsIt) {
     const auto theirs = made();
     EXPECT_EQ([theirs.get() retainCount], 1U);
     {

@@ -59,7 +59,7 @@ TEST_F(Timer, MayEndItself) {
     EXPECT_EQ(fired, 1);
 }
 
-TEST_F(Timer, LetsGoOfWhatItCalledWhenItEnds) {
+TEST_F(Timer, ReleasesItsCallbackWhenItEnds) {
     const auto held = std::make_shared<int>();
     @autoreleasepool {
         timer = adapter.scheduledTimer(1ms, [this, held] { ++fired; });

@@ -32,13 +32,13 @@ TEST_F(ScriptRunnerAdapter, HandsOnTheErrorInItsOrder) {
                                      Pair("NSAppleScriptErrorBriefMessage", "%s"))));
 }
 
-TEST_F(ScriptRunnerAdapter, TellsAnEmptyErrorFromSuccess) {
+TEST_F(ScriptRunnerAdapter, DistinguishesAnEmptyErrorFromSuccess) {
     mac.scriptRunner.failNext({});
     EXPECT_THAT(adapter.execute("x").error, Optional(IsEmpty()));
     EXPECT_FALSE(adapter.execute("x").error);
 }
 
-TEST_F(ScriptRunnerAdapter, TakesAnExceptionForAFailure) {
+TEST_F(ScriptRunnerAdapter, TreatsAnExceptionAsAFailure) {
     orders().nextCallRaises = true;
     EXPECT_THAT(adapter.execute("x").error, Optional(IsEmpty()));
     EXPECT_THAT(logLines(), ElementsAre("The system refused to run a script: raised as told"));

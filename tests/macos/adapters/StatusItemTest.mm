@@ -75,7 +75,7 @@ TEST_F(StatusItemAdapter, SaysEachStateInWordsOfTheUsersLanguage) {
     EXPECT_EQ(labelOf("red"), "Brisel: etwas ist fehlgeschlagen");
 }
 
-TEST_F(StatusItemAdapter, SaysItsNameAloneOfNoState) {
+TEST_F(StatusItemAdapter, IsLabelledWithTheNameAloneWithoutAState) {
     create();
     EXPECT_EQ(labelOf("pink"), "Brisel");
     adapter.setImage(std::nullopt);
@@ -136,7 +136,7 @@ TEST_F(StatusItemAdapter, LetsGoOfWhatObservedIt) {
     EXPECT_EQ(held.use_count(), 1);
 }
 
-TEST_F(StatusItemAdapter, EndsAnObservationThatNeverBegan) {
+TEST_F(StatusItemAdapter, EndsAnObservationMadeBeforeItsCreation) {
     auto observation = observe();
     create();
     mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");

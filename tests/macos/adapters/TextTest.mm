@@ -19,19 +19,19 @@ TEST_F(Text, GoesThereAndBack) {
         EXPECT_EQ(stdString(nsString(text)), text);
 }
 
-TEST_F(Text, OfAnEmojiIsOneCharacterOfTheSystems) {
+TEST_F(Text, OfAnEmojiIsASurrogatePair) {
     EXPECT_EQ([nsString("💾") length], 2U);
     EXPECT_TRUE([nsString("Größe") isEqualToString:@"Größe"]);
 }
 
-TEST_F(Text, ThatIsNoneIsStillThere) {
+TEST_F(Text, ThatIsInvalidUTF8IsKeptAsLatin1) {
     NSString* const text = nsString("a\xFF\xC3");
     ASSERT_NE(text, nil);
     EXPECT_EQ(stdString(text), "aÿÃ");
     EXPECT_NE(nsString("\xED\xA0\x80"), nil);
 }
 
-TEST_F(Text, OfNilIsEmptyOrNone) {
+TEST_F(Text, OfNilIsEmptyOrAbsent) {
     EXPECT_EQ(stdString(nil), "");
     EXPECT_EQ(optionalString(nil), std::nullopt);
     EXPECT_EQ(optionalString(@""), "");

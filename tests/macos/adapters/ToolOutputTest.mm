@@ -109,7 +109,7 @@ TEST_F(ToolOutput, EndsForAToolThatSaysNothing) {
     EXPECT_EQ(readAll(stream), "");
 }
 
-TEST_F(ToolOutput, LetsItsReaderGoEarly) {
+TEST_F(ToolOutput, MayBeClosedBeforeReading) {
     auto* const stream = toolThatSays(muchText(), 4);
     std::fclose(stream);
     EXPECT_EQ(exitStatusOfChild(), 4);
@@ -117,7 +117,7 @@ TEST_F(ToolOutput, LetsItsReaderGoEarly) {
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
 }
 
-TEST_F(ToolOutput, LetsItsReaderGoInTheMiddle) {
+TEST_F(ToolOutput, MayBeClosedWhileReading) {
     auto* const stream = toolThatSays(muchText(), 4);
     EXPECT_EQ(exitStatusOfChild(), 4);
     char first = 0;
@@ -127,7 +127,7 @@ TEST_F(ToolOutput, LetsItsReaderGoInTheMiddle) {
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
 }
 
-TEST_F(ToolOutput, DoesNotChangeHowTheProcessTakesABrokenPipe) {
+TEST_F(ToolOutput, DoesNotChangeTheHandlingOfSIGPIPE) {
     auto* const stream = toolThatSays("x");
     EXPECT_EQ(exitStatusOfChild(), 0);
     readAll(stream);
@@ -160,7 +160,7 @@ TEST_F(ToolOutput, IsKeptFromToolsThatAreStartedLater) {
     std::fclose(stream);
 }
 
-TEST_F(ToolOutput, IsTheToolsOwnStreamWhereThereAreNoDescriptorsLeft) {
+TEST_F(ToolOutput, IsTheToolsOwnStreamIfNoDescriptorIsFree) {
     auto* const own = platform::common::startToolProcess([] { sayAll("said"); }).communicationsPipe;
     rlimit before{};
     getrlimit(RLIMIT_NOFILE, &before);

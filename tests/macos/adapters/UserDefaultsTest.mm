@@ -43,7 +43,7 @@ TEST_F(UserDefaultsAdapter, KeepsAListInItsOrder) {
                 Pointee(ElementsAre("b", "a", "", "Größe 💾", "b")));
 }
 
-TEST_F(UserDefaultsAdapter, TellsAnEmptyListFromNone) {
+TEST_F(UserDefaultsAdapter, DistinguishesAnEmptyListFromAnAbsentOne) {
     EXPECT_EQ(adapter.stringArrayForKey("List"), nullptr);
     setList({});
     EXPECT_THAT(adapter.stringArrayForKey("List"), Pointee(IsEmpty()));
@@ -56,7 +56,7 @@ TEST_F(UserDefaultsAdapter, TakesAValueOfAnotherTypeAsAbsent) {
     EXPECT_FALSE(adapter.boolForKey("Flag"));
 }
 
-TEST_F(UserDefaultsAdapter, WritesToDiskWhenTold) {
+TEST_F(UserDefaultsAdapter, WritesToDiskOnSynchronize) {
     adapter.setBool("Yes", true);
     const auto before = lines().size();
     adapter.synchronize();

@@ -43,7 +43,7 @@ TEST_F(Notifications, ThatAreNotAllowedEndInAnError) {
     EXPECT_FALSE(error);
 }
 
-TEST_F(Notifications, ThatTheSystemRaisesForEndInAnErrorOnce) {
+TEST_F(Notifications, ThatRaiseAnExceptionEndInAnErrorOnce) {
     orders().nextCallRaises = true;
     add();
     EXPECT_EQ(answers, 1);

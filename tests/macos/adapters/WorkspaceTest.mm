@@ -19,7 +19,7 @@ TEST_F(WorkspaceAdapter, OpensAFolder) {
     EXPECT_THAT(lines(), ElementsAre("open: file:///Volumes/Gr%C3%B6%C3%9Fe%20100%25/"));
 }
 
-TEST_F(WorkspaceAdapter, AsksTheSystemForNoneToo) {
+TEST_F(WorkspaceAdapter, PassesNilOn) {
     adapter.openURL(std::nullopt);
     EXPECT_THAT(lines(), ElementsAre("open: (null)"));
 }

@@ -133,7 +133,7 @@ class Bundle(Build):
         self.must(self.build())
         self.assertEqual(self.seals(), [])
 
-    def test_is_not_sealed_with_a_file_that_nobody_knows(self):
+    def test_is_not_sealed_with_an_unknown_file(self):
         stranger = self.application / "Contents/Resources/old.png"
         stranger.write_text("")
         self.change("helper/main.mm")
@@ -165,20 +165,20 @@ class Compilation(Build):
                 self.assertIn("-arch arm64 -arch x86_64", call)
                 self.assertIn("-mmacosx-version-min=11.0", call)
 
-    def test_links_every_framework_that_the_program_asks(self):
+    def test_links_every_framework_that_the_program_uses(self):
         for framework in ("AppKit", "DiskArbitration", "Security", "ServiceManagement",
                           "UserNotifications"):
             with self.subTest(framework=framework):
                 self.assertIn(f"-framework {framework}", self.links()["Brisel"])
 
-    def test_tells_the_linker_nothing_that_only_others_know(self):
+    def test_passes_the_linker_no_option_of_other_systems(self):
         for program, call in self.links().items():
             with self.subTest(program=program):
                 self.assertNotIn("-z,", call)
 
 
 class Surroundings(Build):
-    def test_without_xcode_are_told(self):
+    def test_without_xcode_are_reported(self):
         result = self.configure("without-xcode", MISSING="ibtool")
         self.assertNotEqual(result.returncode, 0)
         self.assertIn("ibtool is missing", result.stdout)

@@ -99,25 +99,25 @@ class DiskImage(Release):
 
 
 class Refusals(Release):
-    def test_are_told_where_there_is_no_mac(self):
+    def test_are_reported_without_a_mac(self):
         (self.mac.tools / "uname").write_text("#!/bin/sh\necho Linux\n")
         self.assert_fails("Only a Mac can sign an application.", self.sign())
 
-    def test_are_told_where_words_are_missing(self):
+    def test_are_reported_for_missing_arguments(self):
         self.assert_fails("usage: sign-macos IDENTITY PROFILE", self.sign(IDENTITY))
 
-    def test_are_told_where_nothing_was_built(self):
+    def test_are_reported_for_a_missing_build(self):
         self.assert_fails("cmake --build --preset macos",
                           self.sign(IDENTITY, "profile", self.application / "x", self.image))
 
-    def test_are_told_where_the_keychain_has_no_such_certificate(self):
+    def test_are_reported_for_a_missing_certificate(self):
         self.assert_fails("The keychain has no valid certificate of the name Nobody.",
                           self.sign("Nobody", "profile", self.application, self.image))
 
-    def test_are_told_where_xcode_is_too_old(self):
+    def test_are_reported_for_an_old_xcode(self):
         self.assert_fails("notarytool is missing", self.sign(MISSING="notarytool"))
 
-    def test_are_told_where_the_version_is_missing(self):
+    def test_are_reported_for_a_missing_version(self):
         (self.application / "Contents/Info.plist").write_text("<dict/>")
         self.assert_fails("does not tell its version", self.sign())
 

@@ -91,7 +91,7 @@ class BrokenNibs(unittest.TestCase):
         self.assert_found("AppDelegate has no outlet startAtLogin",
                           header=HEADER.replace("startAtLogin", "loginItem"))
 
-    def test_are_found_by_an_outlet_that_is_one_no_more(self):
+    def test_are_found_by_an_outlet_that_is_a_plain_member_now(self):
         self.assert_found("AppDelegate has no outlet statusMenu",
                           header=HEADER.replace("IBOutlet", ""))
 

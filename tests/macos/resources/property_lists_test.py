@@ -80,7 +80,7 @@ class Application(unittest.TestCase):
         self.assertEqual(len(languages), 8)
         self.assertIn(APPLICATION["CFBundleDevelopmentRegion"], languages)
 
-    def test_tells_why_it_asks_for_permission(self):
+    def test_states_why_it_asks_for_permission(self):
         for key in ("NSAppleEventsUsageDescription", "NSRemovableVolumesUsageDescription"):
             with self.subTest(key=key):
                 self.assertIn("Brisel", APPLICATION[key])

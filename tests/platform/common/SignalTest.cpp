@@ -33,7 +33,7 @@ TEST_F(Signal, CallsInTheOrderOfSubscribing) {
     EXPECT_THAT(heard, ElementsAre("b!", "a!"));
 }
 
-TEST_F(Signal, CallsNobodyWhoseSubscriptionEnded) {
+TEST_F(Signal, DoesNotCallEndedSubscriptions) {
     auto one = listen("one");
     const auto other = listen("other");
     one.reset();
@@ -41,7 +41,7 @@ TEST_F(Signal, CallsNobodyWhoseSubscriptionEnded) {
     EXPECT_THAT(heard, ElementsAre("other"));
 }
 
-TEST_F(Signal, KnowsWhetherAnyoneListens) {
+TEST_F(Signal, ReportsWhetherItHasSubscribers) {
     EXPECT_TRUE(signal.empty());
     {
         const auto one = listen("one");
@@ -69,7 +69,7 @@ TEST_F(Signal, LetsACallbackEndALaterOne) {
     EXPECT_THAT(heard, ElementsAre());
 }
 
-TEST_F(Signal, DoesNotCallWhoSubscribesMeanwhile) {
+TEST_F(Signal, DoesNotCallSubscriptionsAddedDuringTheCall) {
     std::vector<Subscription> added;
     const auto one = signal.subscribe([&](const std::string&) { added.push_back(listen("new")); });
     signal("");
@@ -103,7 +103,7 @@ TEST_F(Notifications, ReachTheObserversOfTheirName) {
     EXPECT_THAT(heard, ElementsAre("Other of this"));
 }
 
-TEST_F(Notifications, NobodyObservesAreHarmless) {
+TEST_F(Notifications, WithoutObserversAreHarmless) {
     center.postNotificationName("Unknown", nullptr);
     EXPECT_THAT(heard, ElementsAre());
 }

@@ -31,7 +31,7 @@ TEST(StatusWords, SayWhatTheColourOfTheImageMeans) {
     }
 }
 
-TEST(StatusWords, AreNoneForAnyOtherImage) {
+TEST(StatusWords, AreAbsentForAnyOtherImage) {
     EXPECT_EQ(statusWords(""), "");
     EXPECT_EQ(statusWords("blue"), "");
     EXPECT_EQ(statusWords("brisel-status"), "");

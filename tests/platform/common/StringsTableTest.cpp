@@ -51,12 +51,12 @@ TEST(StringsTable, KeepsTheLastOfEqualKeys) {
     EXPECT_THAT(parsed(R"("a" = "1"; "a" = "2";)").texts(), ElementsAre(Pair("a", "2")));
 }
 
-TEST(StringsTable, AnswersAnUnknownKeyWithTheKey) {
+TEST(StringsTable, ReturnsTheKeyIfItIsUnknown) {
     EXPECT_EQ(parsed(R"("a" = "1";)").localizedString("a"), "1");
     EXPECT_EQ(parsed(R"("a" = "1";)").localizedString("%@ b"), "%@ b");
 }
 
-TEST(StringsTable, IsNoneWhereTheTextIsMalformed) {
+TEST(StringsTable, IsAbsentIfTheTextIsMalformed) {
     for (const auto* const text :
          {"a", "\"a\"", "\"a\" =", "\"a\" = \"1\"", "\"a\" = \"1\", \"b\"", "\"a\" \"1\";",
           "\"a\" = \"1;", "\"a = 1;", "/* no end", "\"a\" = \"1\"; /* no end", "/", "\"a\" = 1;",
@@ -87,7 +87,7 @@ std::string textIn(const std::string& language) {
     return bundle.localizedString("mount manually");
 }
 
-TEST(Bundle, HoldsEnglishUnlessTold) {
+TEST(Bundle, DefaultsToEnglish) {
     EXPECT_EQ(Bundle().localizedString("mount manually"), "mount manually");
     EXPECT_EQ(someLanguage("en"), "en");
 }

@@ -44,7 +44,7 @@ TEST_F(ToolProcess, OwnsItsSocket) {
     EXPECT_EQ(WEXITSTATUS(waitForTheEnd()), 3);
 }
 
-TEST_F(ToolProcess, HandsItsSocketToNoOtherProgram) {
+TEST_F(ToolProcess, DoesNotLetOtherProgramsInheritItsSocket) {
     run([] { _exit(0); });
     EXPECT_NE(fcntl(fileno(stream), F_GETFD) & FD_CLOEXEC, 0);
     EXPECT_EQ(waitForTheEnd(), 0);
@@ -72,7 +72,7 @@ TEST_F(ToolProcess, EndsWhereItsBodyReturns) {
     EXPECT_EQ(WEXITSTATUS(waitForTheEnd()), 127);
 }
 
-TEST_F(ToolProcess, HandsTheOtherEndToNoToolThatItBecomes) {
+TEST_F(ToolProcess, DoesNotPassTheParentsEndToItsProgram) {
     run([] { execl("/bin/ls", "ls", "-l", "/proc/self/fd", nullptr); });
     EXPECT_EQ(waitForTheEnd(), 0);
     const auto link = "/proc/self/fd/" + std::to_string(fileno(stream));

@@ -63,7 +63,7 @@ TEST_F(Disks, AreNotReportedUnlessMountable) {
     EXPECT_THAT(heard, ElementsAre());
 }
 
-TEST_F(Disks, AreNotReportedToWhoStoppedListening) {
+TEST_F(Disks, AreNotReportedToEndedSubscriptions) {
     listen();
     attachNTFS("disk4", "Data");
     appeared.reset();
@@ -81,13 +81,13 @@ TEST_F(Disks, AreSilentWithoutASession) {
     EXPECT_FALSE(disks.diskFromVolumePath(platform::FileURL("/Volumes/Data")));
 }
 
-TEST_F(Disks, AreMadeFromANameWhetherThereOrNot) {
+TEST_F(Disks, AreCreatedFromAnyName) {
     EXPECT_EQ(disks.diskFromBSDName("disk77")->bsdName, "disk77");
     EXPECT_FALSE(disks.diskFromBSDName(std::nullopt));
     EXPECT_EQ(disks.copyDescription(disk("disk77")), platform::DiskDescription());
 }
 
-TEST_F(Disks, AreMadeFromThePathTheyAreMountedOnNow) {
+TEST_F(Disks, AreFoundByTheirCurrentMountPoint) {
     attachNTFS("disk4", "Data");
     const platform::FileURL path("/Volumes/Data");
     EXPECT_EQ(disks.diskFromVolumePath(path)->bsdName, "disk4");
@@ -97,7 +97,7 @@ TEST_F(Disks, AreMadeFromThePathTheyAreMountedOnNow) {
     EXPECT_FALSE(disks.diskFromVolumePath(path));
 }
 
-TEST_F(Disks, OnOnePathCountByTheLaterMount) {
+TEST_F(Disks, OnOnePathResolveToTheLaterMount) {
     const platform::FileURL path("/Volumes/Data");
     attachNTFS("disk4", "Data");
     attachNTFS("disk1", "Data");
@@ -110,7 +110,7 @@ TEST_F(Disks, OnOnePathCountByTheLaterMount) {
     EXPECT_FALSE(disks.isWritable("/Volumes/Data"));
 }
 
-TEST_F(Disks, CountAsMountedAnewOnlyWhereTheirPathChanges) {
+TEST_F(Disks, CountAsNewlyMountedOnlyIfTheirPathChanges) {
     attachNTFS("disk4", "Data");
     attachNTFS("disk5", "Data");
     auto changed = properties("disk4");

@@ -16,7 +16,7 @@ class Requests : public Disks {
     }
 };
 
-TEST_F(Requests, ToUnmountTakePathContentsAndWritabilityAway) {
+TEST_F(Requests, ToUnmountRemovePathContentsAndWritability) {
     disks.mountBehind("disk4", "/Users/user/.brisel/Data");
     mac.fileSystem.makeFile("/Users/user/.brisel/Data/file");
     EXPECT_EQ(unmount("disk4"), 0);
@@ -105,7 +105,7 @@ TEST_F(Requests, MadeWhileHeldCompleteAfterTheRelease) {
     EXPECT_EQ(unmount("disk4"), 0);
 }
 
-TEST_F(Requests, MadeBeforeTheHoldCompleteAllTheSame) {
+TEST_F(Requests, MadeBeforeTheHoldStillComplete) {
     bool completed = false;
     disks.unmount(disk("disk4"), [&](const auto&, const auto&) { completed = true; });
     disks.hold();
@@ -113,7 +113,7 @@ TEST_F(Requests, MadeBeforeTheHoldCompleteAllTheSame) {
     EXPECT_TRUE(completed);
 }
 
-TEST_F(Requests, KeptBackSeeTheDiskAttachedAgainUnderTheName) {
+TEST_F(Requests, HeldSeeTheDiskAttachedLaterUnderTheName) {
     std::optional<std::string> seen;
     disks.hold();
     disks.unmount(disk("disk4"), [&](const Disk& unmounted, const auto&) {
@@ -126,7 +126,7 @@ TEST_F(Requests, KeptBackSeeTheDiskAttachedAgainUnderTheName) {
     EXPECT_EQ(seen, "Another");
 }
 
-TEST_F(Requests, BehindTheServiceNeedADisk) {
+TEST_F(Requests, ThatBypassTheServiceNeedADisk) {
     disks.mountBehind("disk77", "/somewhere");
     EXPECT_FALSE(mac.fileSystem.hasFolder("/somewhere"));
     disks.detach("disk4");

@@ -41,7 +41,7 @@ TEST_F(Folders, CountWhatIsDirectlyInThem) {
     EXPECT_EQ(files.entryCount("/none"), 0U);
 }
 
-TEST_F(Folders, GoWithAllThatIsInThem) {
+TEST_F(Folders, AreRemovedWithTheirContents) {
     files.makeFile("/h/inner/deep");
     files.makeFolder("/hx");
     files.removeFolder("/h");
@@ -76,7 +76,7 @@ class Files : public testing::Test, public SimulatedProgram {
     }
 };
 
-TEST_F(Files, TellEachRequestWhateverItsOutcome) {
+TEST_F(Files, RecordEachRequestRegardlessOfItsOutcome) {
     manager.fail(Call::Create, error("x"));
     EXPECT_TRUE(manager.createDirectory("/a"));
     EXPECT_FALSE(manager.createDirectory("/a"));
@@ -98,7 +98,7 @@ TEST_F(Files, FailForAFolderThatIsNotThere) {
     EXPECT_EQ(removal->localizedFailureReason, std::nullopt);
 }
 
-TEST_F(Files, FailAsToldInTheOrderTold) {
+TEST_F(Files, FailAsScriptedInOrder) {
     mac.fileSystem.makeFolder("/a");
     manager.fail(Call::List, error("one"));
     manager.fail(Call::List, error("two"));
@@ -108,7 +108,7 @@ TEST_F(Files, FailAsToldInTheOrderTold) {
     EXPECT_FALSE(manager.contentsOfDirectory(folder).error);
 }
 
-TEST_F(Files, FailForTheToldCallOnly) {
+TEST_F(Files, FailOnlyTheScriptedCall) {
     manager.fail(Call::Delete, error("busy"));
     EXPECT_FALSE(manager.createDirectory("/a"));
     EXPECT_FALSE(manager.contentsOfDirectory(platform::FileURL("/a")).error);
@@ -116,7 +116,7 @@ TEST_F(Files, FailForTheToldCallOnly) {
     EXPECT_TRUE(mac.fileSystem.hasFolder("/a"));
 }
 
-TEST_F(Files, AreWritableAsTheirDiskSays) {
+TEST_F(Files, AreWritableIfTheirDiskIs) {
     auto disk = ntfsDisk("Data");
     disk.writable = true;
     mac.diskArbitration.attach("disk4", disk);

@@ -24,7 +24,7 @@ class MainLoop : public testing::Test {
     }
 };
 
-TEST_F(MainLoop, RunsWhatWaitsInOrder) {
+TEST_F(MainLoop, RunsPostedWorkInOrder) {
     loop.post([this] {
         order.push_back(1);
         loop.post([this] { order.push_back(3); });
@@ -61,14 +61,14 @@ TEST_F(MainLoop, FiresTimersAsTheyComeDue) {
     EXPECT_THAT(order, ElementsAre(2, 3, 2, 3, 2));
 }
 
-TEST_F(MainLoop, StartsATimerAtTheTimeItHas) {
+TEST_F(MainLoop, StartsATimerAtItsCurrentTime) {
     loop.advanceClock(milliseconds(40));
     const auto timer = every(50, 1);
     loop.advanceClock(milliseconds(49));
     EXPECT_THAT(order, ElementsAre());
 }
 
-TEST_F(MainLoop, RunsWhatATimerLetsWait) {
+TEST_F(MainLoop, RunsWorkPostedByATimer) {
     const auto timer = loop.scheduledTimer(milliseconds(10),
                                            [this] { loop.post([this] { order.push_back(1); }); });
     loop.advanceClock(milliseconds(10));
@@ -101,7 +101,7 @@ TEST(MainLoopTimer, MayOutliveItsLoop) {
     timer.reset();
 }
 
-TEST(Faults, StrikeTheCallOfThatNumberOnce) {
+TEST(Faults, FailTheNumberedCallOnce) {
     platform::simulated::Faults faults;
     faults.failCall(2);
     EXPECT_FALSE(faults.strikes("one"));
@@ -112,7 +112,7 @@ TEST(Faults, StrikeTheCallOfThatNumberOnce) {
     EXPECT_EQ(faults.calls(), 3U);
 }
 
-TEST(Faults, StrikeNothingUnlessTold) {
+TEST(Faults, FailNothingByDefault) {
     platform::simulated::Faults faults;
     for (int call = 0; call < 10; ++call)
         EXPECT_FALSE(faults.strikes("call"));

@@ -33,7 +33,7 @@ TEST_F(Transcript, EscapesLineBreaksAndNothingElse) {
     EXPECT_THAT(newLines(), ElementsAre("a\\nb\\n\t\""));
 }
 
-TEST_F(Transcript, IsHeardAsItIsWritten) {
+TEST_F(Transcript, IsReportedAsItIsWritten) {
     std::vector<std::string> heard;
     mac.transcript.setListener([&](const std::string& line) { heard.push_back(line); });
     mac.transcript.record("x %@", "y");
@@ -69,7 +69,7 @@ TEST_F(Application, EndsTheProgramAfterItsTerminationStep) {
 
 class Services : public Simulated {};
 
-TEST_F(Services, AnswerForLoginItems) {
+TEST_F(Services, AnswerLoginItemRequests) {
     EXPECT_TRUE(mac.loginItems.setEnabled("x.y", true));
     mac.loginItems.setAnswer(platform::simulated::LoginItems::Answer::Refuse);
     EXPECT_FALSE(mac.loginItems.setEnabled("x.y", false));
@@ -86,7 +86,7 @@ TEST_F(Services, FailTheNextScriptAlone) {
     EXPECT_THAT(newLines(), ElementsAre("script: source", "script: source"));
 }
 
-TEST_F(Services, OpenFoldersAndNone) {
+TEST_F(Services, OpenAFolderOrNil) {
     mac.workspace.openURL(platform::FileURL("/a b"));
     mac.workspace.openURL(std::nullopt);
     EXPECT_THAT(newLines(), ElementsAre("open: file:///a%20b/", "open: (null)"));
@@ -104,7 +104,7 @@ TEST_F(StatusItem, ShowsTheMenuOnlyWhereItWasRebuilt) {
     EXPECT_THAT(newLines(), ElementsAre("menu: Item [x]", "icon: image", "icon: (none)"));
 }
 
-TEST_F(StatusItem, TellsItsObserversAtOnce) {
+TEST_F(StatusItem, NotifiesItsObserversAtOnce) {
     int changes = 0;
     auto observer = mac.statusItem.observeEffectiveAppearance([&] { ++changes; });
     mac.statusItem.setAppearance("Dark");
@@ -197,7 +197,7 @@ TEST_F(Tools, PrintTheirCommandWithQuotesWhereNeeded) {
     EXPECT_THAT(newLines(), ElementsAre(R"(run: /tool "a b" "q""  x)"));
 }
 
-TEST_F(Tools, EndAsTold) {
+TEST_F(Tools, EndAsScripted) {
     mac.authorization.setToolEnd({.exitStatus = 9, .signal = 0, .output = ""});
     EXPECT_EQ(WEXITSTATUS(endOf(start({"/tool"}))), 9);
     mac.authorization.setToolEnd({.exitStatus = 0, .signal = 15, .output = ""});
@@ -235,7 +235,7 @@ TEST_F(Tools, PrintAllThatASocketHoldsWithoutBlocking) {
     std::fclose(tool.communicationsPipe);
 }
 
-TEST_F(Tools, AreAskedForAtThePrompt) {
+TEST_F(Tools, RequireThePasswordPrompt) {
     person.whenPasswordIsAsked = [] { return -60005; };
     const auto created = mac.authorization.create(0);
     EXPECT_EQ(mac.authorization.copyRights(

@@ -58,7 +58,7 @@ TEST(AMenu, LeavesOutLinesThatAreNoEntries) {
     EXPECT_THAT(titles, ElementsAre("one", "two"));
 }
 
-TEST(ALineToTheStarter, TellsWhatHappened) {
+TEST(ALineToTheStarter, ReportsTheEvent) {
     EXPECT_EQ(shownLine(), "shown\n");
     EXPECT_EQ(answerLine("12"), "pressed 12\n");
     EXPECT_EQ(answerLine(std::nullopt), "closed\n");

@@ -21,7 +21,7 @@ TEST(ARequest, ForAnAlertHasTextsAndButtons) {
     EXPECT_THAT(alert.buttons, ElementsAre("Yes", "N\xef\xbf\xbd"));
 }
 
-TEST(ARequest, TakesTextsForTextsHoweverTheyBegin) {
+TEST(ARequest, DoesNotTakeTextsForOptions) {
     const auto request = requestFrom(Words{"alert", "--help", "", "--display=:7"});
     ASSERT_TRUE(request.has_value());
     EXPECT_EQ(std::get<AlertRequest>(*request).message, "--help");

@@ -15,7 +15,7 @@ TEST(AText, StaysAsItIsWhenItCanBeShown) {
     EXPECT_EQ(textOf(text), text);
 }
 
-TEST(AText, LosesBytesThatAreNoLetters) {
+TEST(AText, ReplacesInvalidUTF8) {
     EXPECT_EQ(textOf("a\xff\xc3z"), "a" + Replacement + Replacement + "z");
     EXPECT_EQ(textOf("cut \xe2\x82"), "cut " + Replacement + Replacement);
 }
@@ -30,7 +30,7 @@ TEST(AText, LosesControlCharacters) {
               "a b c");
 }
 
-TEST(AText, CannotTurnTheDirectionOfTheTextAroundIt) {
+TEST(AText, HasNoBidirectionalControls) {
     EXPECT_EQ(textOf("\xe2\x80\xaa\xe2\x80\xae\xe2\x81\xa6\xe2\x81\xa9"),
               Replacement + Replacement + Replacement + Replacement);
     EXPECT_EQ(textOf("\xe2\x80\xa7\xe2\x80\xaf\xe2\x81\xa5\xe2\x81\xaa"),

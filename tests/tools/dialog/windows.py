@@ -44,12 +44,12 @@ class Alert(Windows):
         dialog.press("Tab", "Return")
         self.assert_answers(dialog, "pressed 1")
 
-    def test_first_button_stands_last(self):
+    def test_first_button_is_rightmost(self):
         dialog = self.shown("alert", "Message", "", "Yes", "No")
         dialog.click(from_right=40, from_bottom=40)
         self.assert_answers(dialog, "pressed 0")
 
-    def test_second_button_stands_before_it(self):
+    def test_second_button_is_left_of_the_first(self):
         # Within the wide button, in every font.
         dialog = self.shown("alert", "Message", "", "A", "B" * 40)
         dialog.click(from_right=180, from_bottom=40)
@@ -164,7 +164,7 @@ class AssistiveTechnology(unittest.TestCase):
                      r"(push )?button\|No\|"):
             self.assertRegex(heard, "(?m)^" + line)
 
-    def test_hears_which_item_is_checked(self):
+    def test_reads_which_item_is_checked(self):
         heard = self.read("menu", "Title", entries=MENU)
         self.assertRegex(heard, r"(?m)^frame\|Title\|")
         self.assertRegex(heard, r"(?m)^check menu item\|Start at Login\|checked ")
@@ -192,18 +192,18 @@ class Process(Windows):
         self.assertEqual((said, status), ("", 3))
         self.assertRegex(complaint, r"\Abrisel-dialog: .*display.*\.\n\Z")
 
-    def test_must_be_told_what_to_show(self):
+    def test_rejects_invalid_arguments(self):
         for arguments in ([], ["alert", "Message", ""], ["menu"], ["window"]):
             said, status, complaint = started(*arguments).end()
             self.assertEqual((said, status), ("", 2), arguments)
             self.assertTrue(complaint.startswith("usage: brisel-dialog "), complaint)
 
-    def test_ends_when_told_to(self):
+    def test_ends_on_sigterm(self):
         dialog = self.shown("alert", "Message", "", "Yes")
         dialog.process.terminate()
         self.assertEqual(dialog.end(), ("", -15, ""))
 
-    def test_ends_when_nobody_listens(self):
+    def test_ends_when_its_output_is_closed(self):
         dialog = self.shown("alert", "Message", "", "Yes")
         dialog.process.stdout.close()
         deadline = time.monotonic() + PATIENCE

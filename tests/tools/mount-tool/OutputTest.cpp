@@ -16,7 +16,7 @@ TEST(Output, HasNoControlCharacters) {
     EXPECT_EQ(withoutControlCharacters("a\x1B[2J\rb\x7F\tc"), "a?[2J?b??c");
 }
 
-TEST(Output, HasNoneOfTheFurtherOnesThatSomeTerminalsObey) {
+TEST(Output, HasNoC1ControlCharacters) {
     EXPECT_EQ(withoutControlCharacters("\xC2\x80\xC2\x9B"
                                        "2J\xC2\xA0\xC2"),
               "??2J\xC2\xA0\xC2");

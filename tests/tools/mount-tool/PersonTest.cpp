@@ -11,14 +11,14 @@ namespace brisel::mounttool {
 
 namespace {
 
-TEST(Person, IsRootWherePkexecDidNotSayOtherwise) {
+TEST(Person, IsRootWithoutPkexec) {
     auto person = whoAsked(nullptr);
     ASSERT_TRUE(person);
     EXPECT_EQ(person->uid, 0U);
     EXPECT_EQ(person->home, getpwuid(0)->pw_dir);
 }
 
-TEST(Person, IsTheUserWhosePkexecItWas) {
+TEST(Person, IsTheUserWhoCalledPkexec) {
     const passwd daemon = *getpwnam("daemon");
     const std::string home = daemon.pw_dir;
     auto person = whoAsked(std::to_string(daemon.pw_uid).c_str());
@@ -28,7 +28,7 @@ TEST(Person, IsTheUserWhosePkexecItWas) {
     EXPECT_EQ(person->home, home);
 }
 
-TEST(Person, IsNobodyWhereTheNumberIsNone) {
+TEST(Person, IsAbsentIfTheUserIDIsInvalid) {
     for (const char* const text :
          {"", " ", "root", "-1", "+0", " 0", "0 ", "00", "01", "0x0", "0\n", "1e0", "1.0",
           "4294967295", "4294967296", "18446744073709551616", "99999999999999999999999999", "٣"})

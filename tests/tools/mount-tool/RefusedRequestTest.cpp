@@ -55,7 +55,7 @@ TEST_F(RefusedRequest, IsOneByALinkInPlaceOfDotBrisel) {
     fs::remove_all(elsewhere);
 }
 
-TEST_F(RefusedRequest, IsOneForAFolderOfSomebodyElse) {
+TEST_F(RefusedRequest, IsOneForAFolderOfAnotherUser) {
     giveAway(mountPoint());
     expectRefusal(runTool(), "The mount point belongs to somebody else.");
     useLabel("Data");
@@ -68,7 +68,7 @@ TEST_F(RefusedRequest, IsOneForAFolderOfSomebodyElse) {
     shell("chown " + user->uid() + " " + home);
 }
 
-TEST_F(RefusedRequest, IsOneForTheHomeOfSomebodyElse) {
+TEST_F(RefusedRequest, IsOneForTheHomeOfAnotherUser) {
     expectRefusal(runTool("PKEXEC_UID=1"), "must be in .brisel of the asking user's home");
     expectRefusal(runTool("-u PKEXEC_UID"), "must be in .brisel of the asking user's home");
 }
@@ -78,7 +78,7 @@ TEST_F(RefusedRequest, IsOneForAFolderThatIsNotEmpty) {
     expectRefusal(runTool(), "The mount point is not empty.");
 }
 
-TEST_F(RefusedRequest, IsOneForWhatIsNoFolder) {
+TEST_F(RefusedRequest, IsOneForAMissingFolderOrAFile) {
     fs::remove(mountPoint());
     expectRefusal(runTool(), "The mount point is no folder that can be opened");
     std::ofstream(mountPoint()) << "a file";
@@ -99,7 +99,7 @@ TEST_F(RefusedRequest, IsOneThatClimbsOutOfDotBrisel) {
     }
 }
 
-TEST_F(RefusedRequest, IsOneByNobody) {
+TEST_F(RefusedRequest, IsOneByAnInvalidUser) {
     for (const char* const uid : {"''", "-1", "+0", "0x0", "root", "' 0'", "4294967295"})
         expectRefusal(runTool(std::string("PKEXEC_UID=") + uid), "PKEXEC_UID is not the number");
     expectRefusal(runTool("PKEXEC_UID=4294967213"), "The user who asked does not exist.");
@@ -111,7 +111,7 @@ TEST_F(RefusedRequest, IsOneWithoutRootsRights) {
                   "This tool must be run by root.");
 }
 
-TEST_F(RefusedRequest, IsOneForWhatIsNoBlockDevice) {
+TEST_F(RefusedRequest, IsOneForADeviceThatIsNotABlockDevice) {
     const DeviceNode node;
     device_ = "/dev/null";
     expectRefusal(runTool(), "The device is not a block device.");

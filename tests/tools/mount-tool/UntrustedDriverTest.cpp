@@ -85,7 +85,7 @@ TEST_F(UntrustedDriver, ThatTalksTooMuchIsCutOffAndCleaned) {
     EXPECT_NE(run.output.find("chkdsk"), std::string::npos);
 }
 
-TEST_F(UntrustedDriver, ThatStaysWithItsOutputOpenHoldsNobodyUp) {
+TEST_F(UntrustedDriver, ThatKeepsItsOutputOpenDoesNotBlock) {
     const auto note = folder() + "/process";
     const auto run = runWithDriver("sleep 600 & echo $! >" + note + "; echo waiting >&2; exit 21");
     expectNothingMounted(run, 21, "waiting\nFUSE");
@@ -97,7 +97,7 @@ TEST_F(UntrustedDriver, IsUnmountedAgainWhereTheKernelCannotMoveMounts) {
     expectNothingMounted(runTool(self + " " + std::string(OldKernelMode)), 1, "kernel is too old");
 }
 
-TEST_F(UntrustedDriver, IsEnoughWithoutItsProbe) {
+TEST_F(UntrustedDriver, WorksWithoutItsProbe) {
     const auto run = runToolAfter("mount --bind /etc/passwd /usr/bin/ntfs-3g.probe");
     EXPECT_EQ(run.status, 0) << run.output;
     EXPECT_NE(run.output.find(mountPoint()), std::string::npos) << run.output;
@@ -111,7 +111,7 @@ TEST_F(UntrustedDriver, IsUnmountedAgainWhereTheFolderWasMovedMeanwhile) {
     fs::remove(moved);
 }
 
-TEST_F(UntrustedDriver, IsWaitedForWhateverSignalsAreSentMeanwhile) {
+TEST_F(UntrustedDriver, IsWaitedForDespiteSignals) {
     const auto run =
         runWithDriver("for s in INT TERM HUP QUIT ALRM PIPE XCPU; do kill -$s $PPID; done; exec " +
                       realDriver() + " \"$@\"");

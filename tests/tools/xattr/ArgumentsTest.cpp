@@ -22,7 +22,7 @@ TEST(CommandLine, TakesTheOptionsInAnyUsualForm) {
     }
 }
 
-TEST(CommandLine, StaysAtThePathItselfWithoutTheOptionForMore) {
+TEST(CommandLine, IsNotRecursiveByDefault) {
     EXPECT_EQ(argumentsFrom(Words{"-c", "a"}).depth, Depth::ItselfOnly);
 }
 
@@ -34,7 +34,7 @@ TEST(CommandLine, EndsTheOptionsAtTheFirstPath) {
     EXPECT_THAT(argumentsFrom(Words{"-c", ""}).paths, ElementsAre(""));
 }
 
-TEST(CommandLine, TellsHowItIsUsedWhenAsked) {
+TEST(CommandLine, PrintsItsUsageOnRequest) {
     EXPECT_EQ(argumentsFrom(Words{"--help"}).request, Request::ShowUsage);
     EXPECT_EQ(argumentsFrom(Words{"-c", "--help", "a"}).request, Request::ShowUsage);
 }

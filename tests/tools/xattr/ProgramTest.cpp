@@ -62,7 +62,7 @@ TEST_F(Program, GoesOnAfterAFailureAndEndsWithOne) {
     EXPECT_FALSE(isTagged(at("file")));
 }
 
-TEST_F(Program, ToldToDoSomethingElseSaysHowItIsUsed) {
+TEST_F(Program, PrintsItsUsageForOtherArguments) {
     makeTaggedFile(at("file"));
     EXPECT_THAT(run("-d user.tag file"),
                 testing::AllOf(testing::StartsWith("usage: xattr -c"), testing::EndsWith("\n2")));

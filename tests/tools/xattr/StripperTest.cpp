@@ -57,7 +57,7 @@ TEST_P(Stripping, RemovesEveryUserAttributeOfAFileAndKeepsItsContent) {
     EXPECT_EQ(fs::file_size(file), file.size());
 }
 
-TEST_P(Stripping, LeavesWhatIsBelowUnlessToldOtherwise) {
+TEST_P(Stripping, MayLeaveTheContentsOfAFolderAlone) {
     const auto folder = makeTaggedFolder(at("folder"));
     const auto file = makeTaggedFile(at("folder/file"));
     stripper_.strip(folder, Depth::ItselfOnly);
@@ -148,7 +148,7 @@ TEST_P(Stripping, RemovesAsManyAttributesAsFit) {
     EXPECT_EQ(complaints_.str(), "");
 }
 
-TEST_P(Stripping, ComplainsOfMoreAttributesThanTheSystemCanList) {
+TEST_P(Stripping, ReportsMoreAttributesThanTheSystemCanList) {
     const auto file = makeTaggedFile(at("file"));
     const auto next = makeTaggedFile(at("next"));
     constexpr int TooMany = 400;
@@ -159,7 +159,7 @@ TEST_P(Stripping, ComplainsOfMoreAttributesThanTheSystemCanList) {
     EXPECT_FALSE(isTagged(next));
 }
 
-TEST_P(Stripping, TakesAnAttributeThatVanishesMeanwhileForRemoved) {
+TEST_P(Stripping, IgnoresAnAttributeThatVanishesMeanwhile) {
     const auto file = makeTaggedFile(at("file"));
     constexpr int Rounds = 50;
     for (int round = 0; round < Rounds; ++round) {

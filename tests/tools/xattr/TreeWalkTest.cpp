@@ -55,7 +55,7 @@ TEST_F(AWalk, VisitsATreeFromItsTop) {
                                       "/above/folder/below/file"));
 }
 
-TEST_F(AWalk, IsNotLedElsewhereByALinkInPlaceOfAFolder) {
+TEST_F(AWalk, DoesNotFollowALinkThatReplacesAFolder) {
     walk("/above/folder", [&] {
         fs::rename(tree_ + "/above/folder", place_.path() + "/aside");
         fs::create_directory_symlink(elsewhere_, tree_ + "/above/folder");
