@@ -1,4 +1,4 @@
-// Asking for an administrator's password and starting tools as root.
+// Authorization through polkit, and tools started as root by pkexec.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/Authorization.h"
 
@@ -32,17 +32,17 @@ OSStatus statusOf(PolkitAuthorizationResult* result) {
     return dismissed ? errAuthorizationCanceled : errAuthorizationDenied;
 }
 
-// polkit's library uses the process's shared connection, and that ends the process with the bus
-// unless it is told not to.
+// libpolkit uses GLib's shared bus connection, which by default exits the process when the bus
+// closes (GDBusConnection:exit-on-close).
 void outliveTheBus() {
     const OwnedObject<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SYSTEM, nullptr, nullptr));
     if (bus) g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
 }
 
-/// A question to polkit, and a loop of its own to wait in for the answer.
+/// One authorization check, run on its own main loop.
 class PolkitQuestion {
   public:
-    /// Null when the question could not be asked or was taken back.
+    /// Null if the check failed or was cancelled.
     using Answer = OwnedObject<PolkitAuthorizationResult>;
 
     Answer ask(PolkitAuthority* authority, int interruption, CallError& error) {
@@ -98,7 +98,7 @@ OSStatus Authorization::askPolkit() const {
     return statusOf(answer.get());
 }
 
-// polkit keeps what was granted by process, so there is nothing for a reference to hold.
+// polkit keeps authorizations per process; no reference is needed.
 CreatedAuthorization Authorization::create(std::uint32_t /*flags*/) {
     return {.status = errAuthorizationSuccess, .authorization = nullptr};
 }
@@ -117,7 +117,7 @@ bool Authorization::offersExecuteWithPrivileges() const {
 StartedTool Authorization::executeWithPrivileges(AuthorizationRef /*authorization*/,
                                                  const char* pathToTool, std::uint32_t /*flags*/,
                                                  char* const* arguments) {
-    // All memory is taken before the fork: the child may only replace itself.
+    // Allocates before the fork: the child may call only async-signal-safe functions.
     const std::string program = isRoot() ? pathToTool : Pkexec;
     std::vector<std::string> words{program};
     if (!isRoot()) words.emplace_back(pathToTool);

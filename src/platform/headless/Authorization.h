@@ -1,4 +1,4 @@
-// Asking for an administrator's password and starting tools as root, through polkit.
+// Authorization through polkit, and tools started as root by pkexec.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,12 +7,12 @@
 
 namespace brisel::platform::headless {
 
-/// The right is polkit's action `org.brisel.run-mount-tool`, asked for first, so that a dismissed
-/// dialog and a refusal are told apart; the tool is then started by pkexec. Root needs neither.
+/// Checks the polkit action `org.brisel.run-mount-tool`, then starts the tool by pkexec. The check
+/// comes first to tell a dismissed dialog from a refusal. Root needs neither.
 class Authorization final : public platform::Authorization {
   public:
-    /// Once `interruption` can be read, a password prompt that is still up is taken away and counts
-    /// as refused; -1 for none.
+    /// When the descriptor `interruption` becomes readable, an open password prompt is cancelled
+    /// and copyRights returns errAuthorizationDenied. -1 disables this.
     explicit Authorization(platform::SystemLog& log, int interruption = -1)
         : log_(log), terminationSignals_(interruption) {}
 

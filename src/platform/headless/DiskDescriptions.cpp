@@ -1,4 +1,4 @@
-// What UDisks2 says of a block device, as a disk description.
+// Converts UDisks2's block device properties to disk descriptions.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/DiskDescriptions.h"
 
@@ -79,7 +79,7 @@ Bytes sha1(const Bytes& start, std::string_view rest) {
     return first;
 }
 
-// RFC 4122, section 4.3, with version 5 and the RFC's own variant.
+// RFC 4122, section 4.3: version 5, RFC variant.
 std::string nameBasedUUID(std::string_view name) {
     constexpr std::size_t VersionByte = 6;
     constexpr std::size_t VariantByte = 8;
@@ -107,7 +107,7 @@ std::string bsdName(std::string_view device) {
 
 DiskDescription describe(const BlockProperties& properties) {
     DiskDescription description;
-    // A device that is going away loses its type before its file system.
+    // A device being removed loses IdType before its Filesystem interface.
     description.volumeMountable =
         properties.filesystem && !properties.hintIgnore && !properties.idType.empty();
     description.volumeKind = orAbsent(properties.idType);

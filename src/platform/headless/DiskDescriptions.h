@@ -1,4 +1,4 @@
-// What UDisks2 says of a block device, as a disk description.
+// Converts UDisks2's block device properties to disk descriptions.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace brisel::platform::headless {
 
-/// The properties of one UDisks2 object that matter here, as they stand on the bus.
+/// Properties of one UDisks2 block device, as on the bus.
 struct BlockProperties {
     /// Block.Device, such as /dev/sdb1.
     std::string device;
@@ -18,26 +18,26 @@ struct BlockProperties {
     std::string idLabel;
     std::string idUUID;
     bool hintIgnore = false;
-    /// Partition.UUID; empty without a partition.
+    /// Partition.UUID; empty if not a partition.
     std::string partitionUUID;
-    /// Whether there is a Filesystem interface, and its first mount point.
+    /// True if the object has a Filesystem interface; `mountPoint` is its first mount point.
     bool filesystem = false;
     std::optional<std::string> mountPoint;
 };
 
-/// The description; its volume is mountable when there is a file system that UDisks2 does not say
-/// to ignore. Empty texts are absent keys. The text of a UUID is that of `uuidText`.
+/// volumeMountable is true for a file system of known type without HintIgnore. Empty properties
+/// become absent keys; uuidText converts the UUIDs.
 DiskDescription describe(const BlockProperties& properties);
 
-/// A UUID as 36 upper-case characters. One in that form but for its case stays the same; any other
-/// name, such as the 16 digits of an NTFS serial number, becomes the UUID version 5 (RFC 4122) of
-/// that name in the namespace `SerialNamespace`. None for an empty text.
+/// Returns `name` as a UUID of 36 upper-case characters, nullopt if empty. Any name that is not a
+/// UUID, such as an NTFS serial number of 16 digits, becomes the UUID version 5 (RFC 4122) of the
+/// upper-case name in SerialNamespace.
 std::optional<std::string> uuidText(std::string_view name);
 
-/// Made for this use, once and for all.
+/// A random UUID. Stored automount lists hold UUIDs made with it, so it must not change.
 inline constexpr std::string_view SerialNamespace = "B2E6A3F4-5C0D-4E0A-9D5B-3F1C7A8E6D21";
 
-/// The BSD name of a device node: the path without "/dev/".
+/// `device` without the prefix "/dev/".
 std::string bsdName(std::string_view device);
 
 }  // namespace brisel::platform::headless

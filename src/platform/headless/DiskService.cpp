@@ -1,4 +1,4 @@
-// The disks that UDisks2 knows, and calls on their file systems.
+// UDisks2's block devices, and mount and unmount calls on them.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/DiskService.h"
 
@@ -45,8 +45,8 @@ DiskService::CallFailure noSuchDisk() {
 
 }  // namespace
 
-/// A call under way. Its end is not told once the service object has gone, which the cancellable
-/// says; the error does not tell, for a service can answer with that one too.
+/// A pending call. Drops the result once the DiskService is destroyed. Checks the cancellable,
+/// because a service may also answer with G_IO_ERROR_CANCELLED.
 struct DiskService::Call {
     Call(Done whenDone, GCancellable* service)
         : done(std::move(whenDone)), cancellable(G_CANCELLABLE(g_object_ref(service))) {}
@@ -92,7 +92,7 @@ void DiskService::unmount(const std::string& device, Done done) {
         done(noSuchDisk(), {});
         return;
     }
-    // Writing back what is cached can take longer than any usual time limit of a call.
+    // No timeout: flushing the write cache may take minutes.
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(target.get()), G_MAXINT);
     udisks_filesystem_call_unmount(target.get(), g_variant_new("a{sv}", nullptr),
                                    cancellable_.get(), &DiskService::finishUnmount,

@@ -1,4 +1,4 @@
-// The disks that UDisks2 knows, and calls on their file systems.
+// UDisks2's block devices, and mount and unmount calls on them.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -17,37 +17,38 @@
 
 namespace brisel::platform::headless {
 
-/// Main thread only; everything is called back from the main context.
+/// Main thread only. Callbacks run from the main context.
 class DiskService {
   public:
-    /// The name and the message of a D-Bus error; the name is empty for one made on this side.
+    /// A D-Bus error. `errorName` is empty for GLib's own errors.
     struct CallFailure {
         std::string errorName;
         std::string message;
     };
-    /// Mount options, and the driver to take; an empty one leaves that to UDisks2.
+    /// `options` are comma-separated. `driver` is UDisks2's `fstype`; if empty, UDisks2 chooses.
     struct Mounting {
         std::string options;
         std::string driver;
     };
-    /// None on success; the result is the mount point, empty after an unmount.
+    /// The failure is absent on success. `result` is the mount point, empty after an unmount.
     using Done = std::function<void(const std::optional<CallFailure>&, const std::string& result)>;
 
-    /// `changed` is called as UDisksObjects says.
+    /// For `changed` see UDisksObjects.
     DiskService(platform::SystemLog& log, UDisksObjects::Changed changed);
     DiskService(const DiskService&) = delete;
     DiskService& operator=(const DiskService&) = delete;
-    /// Calls under way end without being told of.
+    /// Cancels pending calls; their `done` is not called.
     ~DiskService();
 
-    /// Whether the service is there now.
+    /// True while connected to UDisks2.
     [[nodiscard]] bool isThere() const { return objects_.areThere(); }
-    /// The description of every block device there is, by BSD name.
+    /// All block devices, by BSD name.
     [[nodiscard]] std::map<std::string, DiskDescription> disks() const;
 
-    /// Unmounts the file system of a device.
+    /// Unmounts the file system on `device`, a BSD name. If it has none, calls `done` before
+    /// returning.
     void unmount(const std::string& device, Done done);
-    /// Mounts it; the result is the mount point.
+    /// Mounts the file system on `device`. If it has none, calls `done` before returning.
     void mount(const std::string& device, const Mounting& mounting, Done done);
 
   private:

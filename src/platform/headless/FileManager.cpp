@@ -1,4 +1,4 @@
-// The file system of a Linux machine.
+// The Linux file system.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/FileManager.h"
 

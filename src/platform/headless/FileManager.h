@@ -1,4 +1,4 @@
-// The file system of a Linux machine.
+// The Linux file system.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,21 +8,22 @@
 
 namespace brisel::platform::headless {
 
-/// Creates mount points only and removes empty folders only, whatever the volume's label makes of
-/// their paths.
+/// Creates only mount points and removes only empty folders: the paths contain a volume's label,
+/// which is untrusted.
 class FileManager final : public platform::FileManager {
   public:
     FileManager();
-    /// With another home directory than the user's own.
+    /// Uses `home` instead of the user's home directory.
     explicit FileManager(std::string home);
 
     [[nodiscard]] std::string homeDirectory() const override { return home_; }
-    /// UDisks2's folder for the user, which is one of two by how it was built.
+    /// UDisks2's mount folder for the user: /run/media/USER if it exists, else /media/USER. A build
+    /// option of UDisks2 decides.
     [[nodiscard]] std::string volumesDirectory() const override;
     [[nodiscard]] std::string currentDirectoryPath() const override;
     [[nodiscard]] bool isWritableFileAtPath(const std::optional<std::string>& path) override;
     [[nodiscard]] FolderListing contentsOfDirectory(const FileURL& folder) override;
-    /// Refuses a path that is not HOME/.brisel and one name more.
+    /// Creates HOME/.brisel/NAME and its parents; fails for any other path.
     [[nodiscard]] std::optional<Error> createDirectory(const std::string& path) override;
     [[nodiscard]] std::optional<Error> removeItem(const std::string& path) override;
 

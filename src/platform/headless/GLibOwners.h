@@ -1,4 +1,4 @@
-// Owners of what GLib hands out.
+// RAII owners of GLib objects.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -34,12 +34,12 @@ template <typename Type>
 using OwnedObject = std::unique_ptr<Type, ObjectUnref>;
 
 using OwnedText = std::unique_ptr<char, GFree>;
-/// Texts in a vector that ends with a null.
+/// A null-terminated array of strings.
 using OwnedTexts = std::unique_ptr<char*, TextsFree>;
 using OwnedVariant = std::unique_ptr<GVariant, VariantUnref>;
 using OwnedObjectList = std::unique_ptr<GList, ObjectListFree>;
 
-/// The error of one call, to be given as `receive()` and asked afterwards.
+/// Owns the GError of one call; pass `receive()` to the call.
 class CallError {
   public:
     CallError() = default;
@@ -58,10 +58,10 @@ class CallError {
     GError* error_ = nullptr;
 };
 
-/// A signal connection that ends with its owner.
+/// Disconnects a GObject signal when destroyed. The object must outlive it.
 class SignalConnection {
   public:
-    /// `callback` gets `data` alone, whatever the signal's own arguments are.
+    /// Calls `callback` with `data` only; drops the signal's own arguments.
     SignalConnection(gpointer object, const char* signal, void (*callback)(gpointer data),
                      gpointer data)
         : object_(object),

@@ -1,4 +1,4 @@
-// Where the files lie that came with the program.
+// Paths of the program and the files installed with it.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/Installation.h"
 
@@ -11,7 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// It never moves while it runs.
 const fs::path& program() {
     static const fs::path path = [] {
         std::error_code code;

@@ -1,4 +1,4 @@
-// Where the files lie that came with the program.
+// Paths of the program and the files installed with it.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,21 +6,21 @@
 
 namespace brisel::platform::headless {
 
-/// The path of the running program.
+/// Path of the running executable.
 std::string ownPath();
 
-/// The folder of our tools: `../libexec/brisel` as installed, else that of the program, as in a
-/// build.
+/// Folder of Brisel's tools: `../libexec/brisel` if installed, else the program's own folder, as in
+/// a build tree.
 std::string toolFolder();
 
-/// The path of one of them. Whether it is there is not looked at.
+/// Path of the tool `name`, which need not exist.
 std::string toolPath(const std::string& name);
 
-/// The program's own icon: its name in the theme, or its file where no theme has it.
+/// Brisel's icon: a theme icon name, or a file path if iconThemePath is not empty.
 std::string applicationIcon();
 
-/// The icons' base folder, `../share/icons`; empty for that of the system, into which every desktop
-/// looks anyway.
+/// Base folder of Brisel's icons, `../share/icons`. Empty if they are missing or in
+/// /usr/share/icons, which desktops search anyway.
 std::string iconThemePath();
 
 }  // namespace brisel::platform::headless

@@ -1,4 +1,4 @@
-// Work and timers on GLib's main contexts.
+// Callbacks, timers and loops on GLib main contexts.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/MainContext.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 using Work = std::function<void()>;
 
-// Runs a copy: the work may end its own source, and with that destroy the original.
+// Copies the callback, which may destroy its own source.
 gboolean runOnce(gpointer data) {
     const Work work = *static_cast<Work*>(data);
     work();
@@ -50,14 +50,14 @@ Subscription whenMainLoopTurns(std::function<void()> work) {
 
 Subscription whenReadable(int descriptor, std::function<void()> work) {
     constexpr auto Awaited = static_cast<GIOCondition>(G_IO_IN | G_IO_HUP | G_IO_ERR);
-    // GLib's sources of descriptors call back by this other signature.
+    // Unix fd sources call a GUnixFDSourceFunc.
     return attach(g_unix_fd_source_new(descriptor, Awaited),
                   reinterpret_cast<GSourceFunc>(reinterpret_cast<void (*)()>(&runReadable)),
                   std::move(work));
 }
 
 void handTo(GMainContext* context, std::function<void()> work) {
-    // The work may be the last that the context does before its thread ends.
+    // `work` may end the context's thread before g_source_attach returns.
     auto* const kept = context != nullptr ? g_main_context_ref(context) : nullptr;
     auto* const source = g_idle_source_new();
     g_source_set_priority(source, G_PRIORITY_DEFAULT);
@@ -79,7 +79,7 @@ OwnMainLoop::OwnMainLoop()
 }
 
 OwnMainLoop::~OwnMainLoop() {
-    // What has been ended here (subscriptions to signals, say) is freed by the loop.
+    // GLib frees destroyed sources and ended signal subscriptions on the loop.
     while (g_main_context_iteration(context_, FALSE) != FALSE) {
     }
     g_main_context_pop_thread_default(context_);

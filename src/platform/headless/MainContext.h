@@ -1,4 +1,4 @@
-// Work and timers on GLib's main contexts.
+// Callbacks, timers and loops on GLib main contexts.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,26 +11,26 @@
 
 namespace brisel::platform::headless {
 
-/// Lets `work` wait for the loop of the calling thread to turn; it is dropped when the
-/// subscription ends first.
+/// Runs `work` once when the calling thread's main loop is idle, unless the subscription ends
+/// first.
 [[nodiscard]] Subscription whenMainLoopTurns(std::function<void()> work);
 
-/// Calls `work` on the calling thread's loop whenever the descriptor can be read or has reached its
-/// end, until the subscription ends.
+/// Calls `work` on the calling thread's main loop while `descriptor` is readable or at end of file,
+/// until the subscription ends.
 [[nodiscard]] Subscription whenReadable(int descriptor, std::function<void()> work);
 
-/// Lets `work` wait for the loop of another thread, the one that runs `context`. Any thread.
+/// Runs `work` once on the thread that runs `context`; null is GLib's default context. Any thread.
 void handTo(GMainContext* context, std::function<void()> work);
 
-/// The loop of the calling thread, also of one that is not the main thread.
+/// Timers on the calling thread's main context, on any thread.
 class RunLoop final : public platform::RunLoop {
   public:
     [[nodiscard]] Subscription scheduledTimer(std::chrono::milliseconds interval,
                                               std::function<void()> fire) override;
 };
 
-/// The loop of the thread that makes it, on a context of its own: all that this thread asks of GLib
-/// from then on is called back here, and GLib's default context is left to another thread.
+/// A main loop on a new context, which becomes the creating thread's default. GLib's callbacks for
+/// this thread then run here; the global default context stays free for another thread.
 class OwnMainLoop {
   public:
     OwnMainLoop();
@@ -38,7 +38,6 @@ class OwnMainLoop {
     OwnMainLoop& operator=(const OwnMainLoop&) = delete;
     ~OwnMainLoop();
 
-    /// Turns until `quit` is called.
     void run() { g_main_loop_run(loop_); }
     void quit() { g_main_loop_quit(loop_); }
     [[nodiscard]] GMainContext* context() const { return context_; }

@@ -1,4 +1,4 @@
-// The folder in the user's home that holds the mount points of the mount tool.
+// HOME/.brisel, the folder of the mount tool's mount points.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/MountFolder.h"
 
@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Follows no link: the mount tool takes no linked mount folder either.
+// Does not follow symbolic links; the mount tool refuses a linked folder too.
 bool isFolder(const fs::path& path) {
     std::error_code code;
     return fs::symlink_status(path, code).type() == fs::file_type::directory;
@@ -47,7 +47,7 @@ void removeEmptyMountPoints(const std::string& folder) {
     std::error_code code;
     for (fs::directory_iterator entry(folder, code); !code && entry != end(entry);
          entry.increment(code)) {
-        // The system refuses to remove mount points and folders that hold anything.
+        // rmdir fails on mount points and non-empty folders.
         if (isFolder(entry->path())) rmdir(entry->path().c_str());
     }
 }

@@ -1,4 +1,4 @@
-// The folder in the user's home that holds the mount points of the mount tool.
+// HOME/.brisel, the folder of the mount tool's mount points.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,18 +7,18 @@
 
 namespace brisel::platform::headless {
 
-/// The mount folder of a home directory: HOME/.brisel.
+/// HOME/.brisel.
 std::string mountFolderIn(const std::string& home);
 
-/// True if `path` names something below `folder`, by its text alone. False if a component of
-/// `path` is "..", or if it names `folder` itself.
+/// True if `path` lies below `folder`, compared as text. False for `folder` itself and for a path
+/// with a ".." component.
 bool isBelow(std::string_view path, std::string_view folder);
 
-/// True if `path` is `folder` and one name more. "." and ".." are no names.
+/// True if `path` is FOLDER/NAME, where NAME is not "." or "..".
 bool isMountPointIn(std::string_view folder, std::string_view path);
 
-/// Removes the mount points that a failed run of the mount tool left behind: each empty folder
-/// directly in `folder` that nothing is mounted on. Does nothing if `folder` is a symbolic link.
+/// Removes empty folders directly in `folder` that are not mount points; failed runs of the mount
+/// tool leave them. Does nothing if `folder` is a symbolic link.
 void removeEmptyMountPoints(const std::string& folder);
 
 }  // namespace brisel::platform::headless

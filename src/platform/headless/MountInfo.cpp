@@ -1,4 +1,4 @@
-// The kernel's table of mounts.
+// Reads the kernel's mount table.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/MountInfo.h"
 
@@ -15,7 +15,7 @@ bool isOctalDigit(char character) {
     return character >= '0' && character <= '7';
 }
 
-// Blanks, tabs, line breaks and backslashes stand as three octal digits after a backslash.
+// Spaces, tabs, newlines and backslashes are escaped as a backslash and three octal digits.
 std::string unescaped(const std::string& field) {
     constexpr std::size_t EscapeLength = 4;
     constexpr int Octal = 8;
@@ -44,7 +44,7 @@ bool hasOption(const std::string& options, std::string_view wanted) {
 }
 
 std::vector<std::string> fieldsOf(const std::string& line) {
-    // At blanks alone: the kernel leaves other white space as it is in a mount point.
+    // Splits at spaces only: mount points may contain other white space unescaped.
     std::istringstream text(line);
     std::vector<std::string> fields;
     std::string field;
@@ -68,7 +68,7 @@ MountState mountState(std::string_view mountInfo, const std::string& mountPoint)
         if (fields.end() - separator <= SuperOptionsAfterSeparator) continue;
         if (separator - fields.begin() <= static_cast<std::ptrdiff_t>(OptionsField)) continue;
         if (unescaped(fields[MountPointField]) != mountPoint) continue;
-        // A later line is mounted over an earlier one.
+        // A later mount hides an earlier one.
         const bool writable = hasOption(fields[OptionsField], "rw") &&
                               hasOption(separator[SuperOptionsAfterSeparator], "rw");
         state = writable ? MountState::ReadWrite : MountState::ReadOnly;

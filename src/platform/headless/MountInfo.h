@@ -1,4 +1,4 @@
-// The kernel's table of mounts: the one place that says whether a mount is read-write.
+// Reads the kernel's mount table, which tells whether a mount is read-write.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,12 +9,12 @@ namespace brisel::platform::headless {
 
 enum class MountState { NotMounted, ReadOnly, ReadWrite };
 
-/// The state of the topmost mount at `mountPoint`, by the text of a mountinfo file
-/// (proc_pid_mountinfo(5)). Read-write means that neither the mount nor its file system is ro.
-/// Lines that make no sense are passed over.
+/// State of the topmost mount at `mountPoint` in the text of a mountinfo file
+/// (proc_pid_mountinfo(5)). ReadWrite if both the mount options and the super options contain rw.
+/// Skips malformed lines.
 MountState mountState(std::string_view mountInfo, const std::string& mountPoint);
 
-/// The same by this process's own table.
+/// State of `mountPoint` in /proc/self/mountinfo.
 MountState currentMountState(const std::string& mountPoint);
 
 }  // namespace brisel::platform::headless

@@ -1,4 +1,4 @@
-// The process as the programs of a Linux machine want it.
+// Process setup and languages of the Linux programs.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/Process.h"
 

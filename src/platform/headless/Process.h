@@ -1,4 +1,4 @@
-// The process as the programs of a Linux machine want it.
+// Process setup and languages of the Linux programs.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,12 +7,12 @@
 
 namespace brisel::platform::headless {
 
-/// To be called first: whoever started the process may have closed a standard descriptor, which the
-/// next thing that is opened would take, or ignore ended children, of which the program must hear.
+/// Opens closed standard descriptors on /dev/null and resets an inherited SIGCHLD disposition. Call
+/// first in main, before anything else opens a descriptor.
 void restoreProcessDefaults();
 
-/// The user's languages, the preferred one first, as the localised tables name them: de from
-/// de_DE.UTF-8, zh-Hans from zh_CN. Of use once the locale is set.
+/// The user's languages in order of preference, named as the .lproj folders: de for de_DE.UTF-8,
+/// zh-Hans for zh_CN.
 std::vector<std::string> userLanguages();
 
 }  // namespace brisel::platform::headless

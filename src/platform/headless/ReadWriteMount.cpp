@@ -1,4 +1,4 @@
-// Mounts NTFS volumes read-write through UDisks2, with whichever driver is there.
+// Mounts NTFS volumes read-write through UDisks2, with ntfs-3g or ntfs3.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/ReadWriteMount.h"
 
@@ -16,19 +16,19 @@ namespace {
 constexpr std::array<std::pair<std::string_view, std::string_view>, 3> KnownArguments{
     {{"rw", "rw"}, {"noatime", "noatime"}, {"nobrowse", "x-gvfs-hide"}}};
 
-// UDisks2's names of the drivers: ntfs-3g goes by the file system's own name.
+// UDisks2's driver names; `ntfs` is ntfs-3g.
 constexpr const char* FuseDriver = "ntfs";
 constexpr const char* KernelDriver = "ntfs3";
-// Keeps ntfs-3g from clearing the log of a volume that was not unmounted cleanly. ntfs3 refuses
-// such a volume by itself and has no such option.
+// Stops ntfs-3g from clearing the journal of a volume that was not cleanly unmounted. ntfs3 has no
+// such option and refuses such a volume.
 constexpr const char* NoRecovery = "norecover";
 
 std::string withNoRecovery(const std::string& options) {
     return options.empty() ? NoRecovery : options + "," + NoRecovery;
 }
 
-// The answers of a driver that is not installed, that does not know an option, or that cannot mount
-// this volume. UDisks2 does not tell these apart, so another driver is worth a try.
+// True for errors that another driver may avoid: driver not installed, option unknown, volume not
+// mountable. UDisks2 does not tell these apart.
 bool isOfDriver(const DiskService::CallFailure& failure) {
     return failure.errorName == "org.freedesktop.UDisks2.Error.OptionNotPermitted" ||
            failure.errorName == "org.freedesktop.UDisks2.Error.Failed";
@@ -61,9 +61,9 @@ void ReadWriteMount::mount(const std::string& device, const std::string& options
     tryFuseDriver({.device = device, .options = options, .done = std::move(done)});
 }
 
-// Each try names its driver: by itself UDisks2 2.10 holds the options against ntfs3's list first,
-// and 2.9 against none. Which drivers there are is left to the answers, because the kernel lists
-// ntfs3 only once it has been loaded.
+// Names the driver: without a name UDisks2 2.10 checks the options against ntfs3's list first, and
+// 2.9 against none. Tries the mount to find out which driver exists, because the kernel lists ntfs3
+// only once it is loaded.
 void ReadWriteMount::tryFuseDriver(const Request& request) {
     service_.mount(request.device,
                    {.options = withNoRecovery(request.options), .driver = FuseDriver},
@@ -77,8 +77,7 @@ void ReadWriteMount::tryFuseDriver(const Request& request) {
                    });
 }
 
-// Where neither driver mounts the volume, the first answer counts: the second may say no more than
-// that there is no ntfs3.
+// If both drivers fail, reports the first failure; the second may only mean that ntfs3 is missing.
 void ReadWriteMount::tryKernelDriver(const Request& request, const Failure& first) {
     service_.mount(request.device, {.options = request.options, .driver = KernelDriver},
                    [this, request, first](const auto& failure, const auto& mountPoint) {
@@ -103,8 +102,8 @@ void ReadWriteMount::finish(const Request& request, const std::optional<Failure>
     }
 }
 
-// ntfs-3g falls back to a read-only mount without an error when the volume is hibernated or
-// otherwise unsafe to write. ntfs3 does not look for a hibernated Windows.
+// ntfs-3g silently mounts a hibernated or unsafe volume read-only. ntfs3 does not check for
+// hibernation.
 void ReadWriteMount::takeBack(const Request& request, const std::string& mountPoint) {
     log_.log("%@ is unmounted again: %@.", request.device, reasonToTakeBack(mountPoint));
     service_.unmount(request.device, [this, request](const auto& failure, const auto& /*result*/) {

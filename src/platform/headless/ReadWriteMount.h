@@ -1,4 +1,4 @@
-// Mounts NTFS volumes read-write through UDisks2, with whichever driver is there.
+// Mounts NTFS volumes read-write through UDisks2, with ntfs-3g or ntfs3.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,19 +13,19 @@
 
 namespace brisel::platform::headless {
 
-/// Main thread only; everything is called back from the main context.
+/// Main thread only. Callbacks run from the main context.
 class ReadWriteMount {
   public:
-    /// The dissenter is absent on success, and the mount point is empty unless there is one.
+    /// The dissenter is absent on success; `mountPoint` is empty on failure.
     using Done =
         std::function<void(const std::optional<Dissenter>&, const std::string& mountPoint)>;
 
-    /// Both must outlive the object.
+    /// `service` and `log` must outlive this object.
     ReadWriteMount(DiskService& service, platform::SystemLog& log) : service_(service), log_(log) {}
 
-    /// Mounts a device with ntfs-3g and its option `norecover`, else with the kernel's ntfs3.
-    /// `options` are UDisks2's. A mount that does not take writing, or that shows a hibernated
-    /// Windows, is undone and refused with kDAReturnNotWritable. Every failure is logged.
+    /// Mounts `device`, a BSD name, with ntfs-3g and `norecover`, else with ntfs3. `options` are
+    /// UDisks2 mount options. If the mount is not writable or Windows is hibernated on the volume,
+    /// unmounts it and fails with kDAReturnNotWritable. Logs each failure.
     void mount(const std::string& device, const std::string& options, Done done);
 
   private:
@@ -37,7 +37,7 @@ class ReadWriteMount {
     };
 
     void tryFuseDriver(const Request& request);
-    /// `first` is the fuse driver's failure.
+    /// `first` is ntfs-3g's failure.
     void tryKernelDriver(const Request& request, const Failure& first);
     void finish(const Request& request, const std::optional<Failure>& failure,
                 const std::string& mountPoint);
@@ -47,9 +47,9 @@ class ReadWriteMount {
     platform::SystemLog& log_;
 };
 
-/// The mount options that UDisks2 gets for Disk Arbitration's mount arguments: `rw` and `noatime`
-/// as they are, `nobrowse` as the desktop's `x-gvfs-hide`. What has no meaning here is left out:
-/// `auto`, and `noowners`, which UDisks2 does by itself in giving all files to the caller.
+/// Translates Disk Arbitration's mount arguments to UDisks2's options: keeps `rw` and `noatime`,
+/// turns `nobrowse` into `x-gvfs-hide`. Drops the others: `auto`, and `noowners`, because UDisks2
+/// gives all files to the caller anyway.
 std::string mountOptions(const std::vector<std::string>& arguments);
 
 }  // namespace brisel::platform::headless

@@ -1,4 +1,4 @@
-// The one AppleScript command that the program uses.
+// Runs the one AppleScript command that Brisel uses.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/ScriptRunner.h"
 
@@ -19,7 +19,7 @@ namespace {
 constexpr std::string_view CommandStart = "do shell script \"";
 constexpr const char* MessageKey = "NSAppleScriptErrorMessage";
 constexpr const char* NumberKey = "NSAppleScriptErrorNumber";
-// errOSASyntaxError, errOSASystemError and errAEPrivilegeError, as AppleScript numbers them.
+// OSASyntaxTypeError, errOSASystemError and errAEPrivilegeError.
 constexpr const char* SyntaxError = "-2741";
 constexpr const char* SystemError = "-1750";
 constexpr const char* PrivilegeError = "-10004";

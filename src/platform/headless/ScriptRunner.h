@@ -1,4 +1,4 @@
-// The one AppleScript command that the program uses, run without a shell.
+// Runs the one AppleScript command that Brisel uses, without a shell.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -14,15 +14,15 @@ namespace brisel::platform::headless {
 
 class ScriptRunner final : public platform::ScriptRunner {
   public:
-    /// `files` names the folders in which volumes are mounted and must outlive the runner. `xattr`
-    /// is the path of the program that removes extended attributes.
+    /// `files` names the folders that volumes are mounted in, and must outlive the runner. `xattr`
+    /// is the path of that tool.
     explicit ScriptRunner(const platform::FileManager& files,
                           std::string xattr = toolPath("xattr"));
 
-    /// Understands `do shell script "xattr -cr PATH..."` and runs that program with the user's own
-    /// rights. The command is split at blanks as a shell would, but a volume's label in it is never
-    /// code. Refuses any other command, and a path that has a component ".." or does not lie below
-    /// a folder in which volumes are mounted. Errors carry AppleScript's keys: message and number.
+    /// Runs `do shell script "xattr -cr PATH..."` as the user. Splits the command at white space
+    /// and passes it to no shell, so that a volume's label is never code. Refuses other commands,
+    /// and a PATH that has a ".." component or lies outside the folders that volumes are mounted
+    /// in. Errors have AppleScript's message and number keys.
     [[nodiscard]] ScriptResult execute(const std::string& source) override;
 
   private:
@@ -33,10 +33,10 @@ class ScriptRunner final : public platform::ScriptRunner {
     std::string xattr_;
 };
 
-/// The command of a `do shell script` line, its string literal decoded; none for anything else.
+/// The unescaped command of a `do shell script` line; nullopt for any other source.
 std::optional<std::string> shellCommandOf(const std::string& source);
 
-/// The words between blanks, tabs and line breaks.
+/// Splits at white space.
 std::vector<std::string> wordsOf(const std::string& command);
 
 }  // namespace brisel::platform::headless

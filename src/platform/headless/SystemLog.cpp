@@ -1,4 +1,4 @@
-// The system log: the journal where there is one.
+// The system log: the systemd journal, if present, and a listener.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/SystemLog.h"
 

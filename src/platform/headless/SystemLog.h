@@ -1,4 +1,4 @@
-// The system log: the journal where there is one.
+// The system log: the systemd journal, if present, and a listener.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,7 +12,7 @@ class SystemLog final : public platform::SystemLog {
   public:
     using Listener = std::function<void(const std::string& text)>;
 
-    /// `listener` hears each entry too, on the thread that writes it.
+    /// Calls `listener` with each entry on the writing thread.
     explicit SystemLog(Listener listener);
 
     void write(const std::string& text) override;

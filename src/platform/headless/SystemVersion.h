@@ -1,4 +1,4 @@
-// Which way of mounting this machine offers.
+// Reports macOS 12 if the mount tool is installed.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,14 +8,14 @@
 
 namespace brisel::platform::headless {
 
-/// There are no versions to tell apart here; what the answer decides is whether the mount tool does
-/// the read-write mount, so its presence is the answer. Without it UDisks2 mounts.
+/// On macOS 12 the core mounts read-write with the mount tool, before that through Disk
+/// Arbitration. On Linux this depends on whether the tool is installed; without it UDisks2 mounts.
 class SystemVersion final : public platform::SystemVersion {
   public:
     [[nodiscard]] bool isMacOS12OrLater() const override { return hasMountTool_; }
 
   private:
-    // What the core then runs.
+    // The path that the core runs.
     const bool hasMountTool_ = access("/sbin/mount_ntfs", X_OK) == 0;
 };
 

@@ -1,4 +1,4 @@
-// The signals by which a program is asked to end.
+// Catches SIGINT, SIGTERM and SIGHUP.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/TerminationSignals.h"
 
@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::array EndingSignals{SIGINT, SIGTERM, SIGHUP};
 
-// Global, because a signal handler reaches nothing else.
+// A signal handler can reach only globals.
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
 volatile std::sig_atomic_t writeEnd = -1;
 

@@ -1,20 +1,19 @@
-// The signals by which a program is asked to end, as a descriptor to wait for.
+// Catches SIGINT, SIGTERM and SIGHUP, with a descriptor to poll.
 // SPDX-License-Identifier: MIT
 #pragma once
 
 namespace brisel::platform::headless {
 
-/// One per process, as signal handlers are. From its making on SIGINT, SIGTERM and SIGHUP end
-/// nothing by themselves.
+/// At most one per process. While it exists, these signals do not end the process.
 class TerminationSignals {
   public:
     TerminationSignals();
     TerminationSignals(const TerminationSignals&) = delete;
     TerminationSignals& operator=(const TerminationSignals&) = delete;
-    /// The signals have their usual effect again.
+    /// Restores the default actions.
     ~TerminationSignals();
 
-    /// Readable, for good, once one of the signals has come.
+    /// Becomes readable, and stays so, after one of the signals.
     [[nodiscard]] int descriptor() const { return readEnd_; }
 
   private:

@@ -1,4 +1,4 @@
-// UDisks2's errors as Disk Arbitration's status codes.
+// Translates UDisks2's errors to Disk Arbitration's status codes.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/UDisksErrors.h"
 
@@ -26,7 +26,7 @@ constexpr std::array Rows{
     Row{"org.freedesktop.UDisks2.Error.OptionNotPermitted", DAReturn::BadArgument},
     Row{"org.freedesktop.UDisks2.Error.NotSupported", DAReturn::Unsupported},
     Row{"org.freedesktop.UDisks2.Error.WouldWakeup", DAReturn::NotReady},
-    // The object or its file system is gone from the bus, and with it the disk.
+    // The disk's object or its file system has left the bus.
     Row{"org.freedesktop.DBus.Error.UnknownObject", DAReturn::NotFound},
     Row{"org.freedesktop.DBus.Error.UnknownInterface", DAReturn::NotFound},
     Row{"org.freedesktop.DBus.Error.UnknownMethod", DAReturn::NotFound}};

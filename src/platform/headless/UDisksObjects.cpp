@@ -14,7 +14,7 @@ namespace {
 constexpr const char* BusName = "org.freedesktop.UDisks2";
 constexpr const char* ObjectPath = "/org/freedesktop/UDisks2";
 
-// One signature serves all signals of the object manager: none of their arguments is read.
+// Handles every signal of the object manager and ignores its arguments.
 void anythingChanged(gpointer changed) {
     (*static_cast<UDisksObjects::Changed*>(changed))();
 }
@@ -23,7 +23,7 @@ OwnedObject<GDBusConnection> connectToSystemBus(CallError& error) {
     const OwnedText address(
         g_dbus_address_get_for_bus_sync(G_BUS_TYPE_SYSTEM, nullptr, error.receive()));
     if (!address) return nullptr;
-    // A connection of its own: the process's shared one ends the process when the bus goes.
+    // A private connection: by default GLib's shared one exits the process when the bus closes.
     const auto flags =
         static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
                                           G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
@@ -37,8 +37,8 @@ GDBusConnection* connectionOf(GDBusObjectManager* objects) {
 
 }  // namespace
 
-/// Who has asked, and has gone when it is cancelled; the error does not tell, for a service can
-/// answer with that one too.
+/// The calling object, destroyed if `cancellable` is cancelled. The error cannot tell, because a
+/// service may answer with G_IO_ERROR_CANCELLED too.
 struct UDisksObjects::Question {
     UDisksObjects& asking;
     OwnedObject<GCancellable> cancellable;
@@ -63,8 +63,8 @@ void UDisksObjects::connect() {
         tryAgain(error.message());
         return;
     }
-    // A service that answers this has been started, by the bus if need be, and its loop turns: the
-    // same question will be answered once more, without delay.
+    // The bus activates UDisks2 for this call if need be. Once it has answered, the synchronous
+    // call in `fetch` returns without delay.
     g_dbus_connection_call(
         connection.get(), BusName, ObjectPath, "org.freedesktop.DBus.ObjectManager",
         "GetManagedObjects", nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
@@ -87,8 +87,8 @@ void UDisksObjects::finishFirstQuestion(GObject* connection, GAsyncResult* resul
     }
 }
 
-// At once, though there is an asynchronous way: that one sets the objects up in a thread of GLib's,
-// and their signals would come in whatever thread serves the default main context.
+// Synchronous: the asynchronous constructor sets the objects up in a GLib thread, and their signals
+// would arrive on the thread of the default main context.
 void UDisksObjects::fetch(GDBusConnection* connection) {
     CallError error;
     auto* const objects = udisks_object_manager_client_new_sync(
@@ -115,7 +115,7 @@ void UDisksObjects::watch(GDBusObjectManager* objects) {
 }
 
 void UDisksObjects::disconnect() {
-    // Not at once: this is called by a signal of what is to go.
+    // Deferred: a signal of the objects to be destroyed calls this.
     nextTry_ = whenMainLoopTurns([this] {
         connections_.clear();
         objects_.reset();
@@ -158,7 +158,7 @@ void UDisksObjects::tell(bool there) {
     askForRestart();
 }
 
-// The bus starts the service if it can; its answer does not matter, the coming name does.
+// Asks the bus to activate UDisks2. Ignores the reply: `notify::name-owner` reports the start.
 void UDisksObjects::askForRestart() const {
     g_dbus_connection_call(connectionOf(objects_.get()), "org.freedesktop.DBus",
                            "/org/freedesktop/DBus", "org.freedesktop.DBus", "StartServiceByName",

@@ -1,4 +1,4 @@
-// UDisks2's objects on the system bus, as long as both can be reached.
+// UDisks2's objects on the system bus, reconnected when either goes away.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -15,22 +15,20 @@
 
 namespace brisel::platform::headless {
 
-/// Main thread only; everything is called back from the main context.
+/// Main thread only. Callbacks run from the main context.
 class UDisksObjects {
   public:
     using Changed = std::function<void()>;
 
-    /// Starts to connect, and tries again as long as the bus or UDisks2 cannot be reached; the log
-    /// tells when they go and come. `changed` is called whenever any object may have changed, and
-    /// when the service goes or comes back.
+    /// Connects, and reconnects while the bus or UDisks2 is unreachable; logs each change. Calls
+    /// `changed` when any object may have changed, and when UDisks2 leaves or joins the bus.
     UDisksObjects(platform::SystemLog& log, Changed changed);
     UDisksObjects(const UDisksObjects&) = delete;
     UDisksObjects& operator=(const UDisksObjects&) = delete;
     ~UDisksObjects();
 
-    /// Whether the service is there now.
+    /// True while connected to UDisks2.
     [[nodiscard]] bool areThere() const;
-    /// Calls `visit` with each object that is a block device.
     void forEachBlock(const std::function<void(UDisksObject*, UDisksBlock*)>& visit) const;
 
   private:
@@ -51,7 +49,7 @@ class UDisksObjects {
     OwnedObject<GDBusObjectManager> objects_;
     std::vector<SignalConnection> connections_;
     Subscription nextTry_;
-    /// Whether the log's last word was that the service is there, which is taken for granted.
+    /// The state last logged. Initially true: a normal start logs nothing.
     bool toldThere_ = true;
     bool wasThere_ = false;
 };

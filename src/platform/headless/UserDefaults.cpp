@@ -1,4 +1,4 @@
-// The preferences in a key file.
+// Preferences in a GLib key file.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/UserDefaults.h"
 
@@ -41,7 +41,7 @@ std::string UserDefaults::defaultPath() {
 void UserDefaults::load() {
     std::error_code code;
     if (!fs::exists(fs::symlink_status(path_, code))) return;
-    // What stands behind a link is the file to replace when it is written.
+    // Resolves symbolic links: writing replaces the target and keeps the link.
     if (const auto target = fs::canonical(path_, code); !code) path_ = target;
     const auto complaint = read();
     if (complaint.empty()) return;
@@ -60,7 +60,7 @@ std::string UserDefaults::read() {
         return error.message();
     }
     const OwnedText owned(text);
-    // GLib takes a null byte for the end of a line and would lose what follows.
+    // GLib ends a line at a null byte and would drop the rest.
     if (std::string_view(text, length).find('\0') != std::string_view::npos) {
         return "It holds null bytes.";
     }
@@ -113,7 +113,7 @@ void UserDefaults::setStringArray(std::string_view key, StringArray value) {
     std::vector<const char*> texts;
     for (const auto& text : *value)
         texts.push_back(text.c_str());
-    // GLib wants a vector even for no texts at all.
+    // GLib requires an array even for an empty list.
     texts.push_back(nullptr);
     g_key_file_set_string_list(file_.get(), Group, std::string(key).c_str(), texts.data(),
                                texts.size() - 1);

@@ -1,4 +1,4 @@
-// The preferences in a key file of the user's configuration folder.
+// Preferences in a GLib key file in the user's configuration folder.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,11 +13,11 @@
 
 namespace brisel::platform::headless {
 
-/// The file is written whole or not at all, at each change. A file that cannot be understood is
-/// set aside beside itself under a free name, and the program goes on with its defaults.
+/// Writes the file atomically at each change. Renames an unreadable file to a free name ending in
+/// `.malformed` or `.malformed-N`, and starts with the defaults.
 class UserDefaults final : public platform::UserDefaults {
   public:
-    /// `path` is the file, which need not be there yet; see `defaultPath`.
+    /// `path` need not exist yet; see defaultPath.
     UserDefaults(platform::SystemLog& log, std::string path);
 
     /// `brisel/preferences.conf` in the XDG configuration folder.
@@ -32,13 +32,13 @@ class UserDefaults final : public platform::UserDefaults {
 
   private:
     void load();
-    /// What is wrong with the file; empty when it was read.
+    /// Returns an error message, empty on success.
     [[nodiscard]] std::string read();
     void setAside();
 
     platform::SystemLog& log_;
     std::string path_;
-    /// Writing would lose a file that could neither be read nor be set aside.
+    /// False if an unreadable file could not be renamed: writing would destroy it.
     bool mayWrite_ = true;
     bool changed_ = false;
     std::unique_ptr<GKeyFile, decltype(&g_key_file_unref)> file_{g_key_file_new(),

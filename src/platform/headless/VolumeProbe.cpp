@@ -1,4 +1,4 @@
-// What a mounted NTFS volume is really like.
+// Checks whether a mounted NTFS volume is writable or hibernated.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/VolumeProbe.h"
 
@@ -19,7 +19,7 @@ namespace {
 bool takesAFile(const std::string& folder) {
     auto path = folder + "/.brisel-XXXXXX";
     const int file = mkstemp(path.data());
-    // Room can be made on a full volume.
+    // A full volume is still writable: files can be deleted.
     if (file < 0) return errno == ENOSPC || errno == EDQUOT;
     close(file);
     return unlink(path.c_str()) == 0;

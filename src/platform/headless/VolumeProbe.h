@@ -1,4 +1,4 @@
-// What a mounted NTFS volume is really like, whatever its driver says.
+// Checks whether a mounted NTFS volume is writable or hibernated, without trusting its driver.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,12 +6,12 @@
 
 namespace brisel::platform::headless {
 
-/// Whether the kernel's table of mounts says read-write for this mount point and a file can indeed
-/// be made there, or could be if there were room; the file is removed at once.
+/// True if mountinfo says read-write and a test file can be created, which is removed again. A full
+/// volume counts as writable.
 bool takesWriting(const std::string& mountPoint);
 
-/// Whether Windows sleeps on the volume mounted there: its hibernation file then begins with the
-/// word hibr, in either case (as ntfs-3g looks at it).
+/// True if hiberfil.sys starts with "hibr" in either case, as ntfs-3g checks: Windows is hibernated
+/// on the volume.
 bool isHibernated(const std::string& mountPoint);
 
 }  // namespace brisel::platform::headless
