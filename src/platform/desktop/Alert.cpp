@@ -1,4 +1,4 @@
-// Modal alerts in windows of the dialog program.
+// Modal alerts, shown by brisel-dialog.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/Alert.h"
 
@@ -26,7 +26,7 @@ bool isWaiting(const DialogProcess& window) {
            window.state() == DialogProcess::State::Shown;
 }
 
-/// How long to wait for the next word of the window, in milliseconds; -1 for ever.
+/// Timeout for poll in milliseconds; -1, no timeout, once the window is shown.
 int patienceWith(const DialogProcess& window, Clock::time_point latestShown) {
     if (window.state() == DialogProcess::State::Shown) return -1;
     const auto left = std::chrono::ceil<milliseconds>(latestShown - Clock::now());

@@ -1,4 +1,4 @@
-// Modal alerts in windows of the dialog program.
+// Modal alerts, shown by brisel-dialog.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -14,24 +14,24 @@
 
 namespace brisel::platform::desktop {
 
-/// A window that does not come up, or goes without an answer, holds nothing up: the text goes to
-/// the log and to a critical notification, and an alert with one button counts as answered by it.
-/// Of several buttons none counts as pressed then.
+/// Runs the MainThreadQueue's work while it waits. If no window appears, logs the text and shows it
+/// as a critical notification. Without an answer, an alert with one button returns that button; one
+/// with several returns -1.
 class Alert final : public platform::Alert {
   public:
-    /// A slow machine shows a window in less.
+    /// Generous even for slow machines.
     static constexpr std::chrono::seconds UsualPatience{10};
 
-    /// All of them must outlive the alert. Whatever is asked once `interruption` is readable counts
-    /// as unanswered.
+    /// The references must outlive the alert. Once the descriptor `interruption` is readable,
+    /// alerts end unanswered.
     struct Surroundings {
         platform::SystemLog& log;
         MainThreadQueue& mainThread;
         NotificationServer& notifications;
         int interruption;
-        /// The path of the dialog program.
+        /// Path of brisel-dialog.
         std::string dialog;
-        /// How long a window may take to come up.
+        /// How long a window may take to appear.
         std::chrono::milliseconds patience = UsualPatience;
     };
 
@@ -42,7 +42,7 @@ class Alert final : public platform::Alert {
   private:
     enum class Waiting { Ended, Interrupted };
 
-    /// Waits for an answer, for the window only so long.
+    /// Waits up to `patience` for the window, then without limit for an answer.
     [[nodiscard]] Waiting waitFor(DialogProcess& window) const;
     void tellOtherwise(const AlertContent& content) const;
 

@@ -12,7 +12,7 @@ namespace brisel::platform::desktop {
 
 class Application final : public common::Application {
   public:
-    /// `dialog` is the path of the dialog program.
+    /// `dialog` is the path of brisel-dialog.
     Application(platform::SystemLog& log, std::string dialog)
         : aboutPanel_(log, std::move(dialog)) {}
 

@@ -1,4 +1,4 @@
-// One object of a service on a bus.
+// A client of one D-Bus object.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/BusClient.h"
 
@@ -12,8 +12,8 @@ namespace {
 
 using Received = std::function<void(GVariant*)>;
 
-/// A call under way. Its client has gone when it is cancelled; the error does not tell, for a
-/// service can answer with that one too.
+/// A pending call. Checks the cancellable to see whether the client was destroyed, because a
+/// service may answer with G_IO_ERROR_CANCELLED too.
 struct Call {
     Call(BusClient::Done whenDone, GCancellable* client)
         : done(std::move(whenDone)), cancellable(G_CANCELLABLE(g_object_ref(client))) {}

@@ -1,4 +1,4 @@
-// One object of a service on a bus: its methods, its signals, its coming and going.
+// A client of one D-Bus object: its methods, properties, signals and owner.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,11 +12,11 @@
 
 namespace brisel::platform::desktop {
 
-/// One thread, which must turn its own default context: everything is called back there. Nothing is
-/// called back once the client is gone.
+/// Single-threaded: callbacks run on the creating thread's default main context. Destroying the
+/// client cancels pending calls; their `done` is not called.
 class BusClient {
   public:
-    /// The answer is null when the call has failed.
+    /// `answer` is null if the call failed.
     using Done =
         std::function<void(const headless::OwnedVariant& answer, const headless::CallError& error)>;
 
@@ -25,18 +25,18 @@ class BusClient {
     BusClient& operator=(const BusClient&) = delete;
     ~BusClient();
 
-    /// Calls a method of the object's interface. `arguments` is a tuple, floating or null for none.
+    /// Calls a method. `arguments` is a floating tuple or null; `done` may be empty.
     void call(const char* method, GVariant* arguments, Done done);
-    /// The same while the calling thread does nothing else, for some seconds at most. Null when the
-    /// call has failed.
+    /// Calls a method and blocks up to 5 seconds. Null if the call failed.
     headless::OwnedVariant callAndWait(const char* method, GVariant* arguments);
-    /// Reads a property of the object's interface; the answer is the bare value.
+    /// Reads a property; `answer` is the value without its variant.
     void readProperty(const char* name, Done done);
 
-    /// Gets the arguments of a signal of the object's interface, sent by the service.
+    /// Calls `received` with the arguments of each such signal of the object.
     [[nodiscard]] Subscription onSignal(const char* signal,
                                         std::function<void(GVariant* arguments)> received);
-    /// Tells whenever the service has an owner, also now, and whenever it has lost it.
+    /// Calls `appeared` or `vanished` for the current state of the service's name, and on each
+    /// change.
     [[nodiscard]] Subscription watch(std::function<void()> appeared,
                                      std::function<void()> vanished);
 

@@ -1,4 +1,4 @@
-// Outside text on its way to the desktop's bus.
+// Sanitizes untrusted text for the session bus.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/BusText.h"
 
@@ -17,8 +17,8 @@ struct Range {
     gunichar last;
 };
 
-// The line and paragraph separators with the embeddings and overrides of the Unicode Bidirectional
-// Algorithm, and its isolates.
+// Line and paragraph separators, and the embeddings, overrides and isolates of the Unicode
+// Bidirectional Algorithm (UAX #9).
 constexpr std::array Unwanted{Range{0x2028, 0x202E}, Range{0x2066, 0x2069}};
 
 bool breaksOrTurnsTheLine(gunichar character) {

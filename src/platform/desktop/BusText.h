@@ -1,4 +1,4 @@
-// Outside text on its way to the desktop's bus.
+// Sanitizes untrusted text for the session bus.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,9 +6,8 @@
 
 namespace brisel::platform::desktop {
 
-/// The text as valid UTF-8, which the bus insists on, its control characters made visible and those
-/// that break the line or turn the direction of writing taken out: a label must not pass for
-/// another, nor for two.
+/// Returns `text` as valid UTF-8, which D-Bus requires. Makes control characters visible, and drops
+/// line separators and bidirectional controls to prevent label spoofing.
 std::string busText(const std::string& text);
 
 }  // namespace brisel::platform::desktop

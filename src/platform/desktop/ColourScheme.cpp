@@ -1,4 +1,4 @@
-// Whether the desktop is set to light or dark.
+// The desktop's light or dark colour scheme.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/ColourScheme.h"
 
@@ -11,10 +11,10 @@ namespace {
 
 constexpr const char* Namespace = "org.freedesktop.appearance";
 constexpr const char* Key = "color-scheme";
-// 0 is no preference, 2 light (the XDG Desktop Portal's Settings interface).
+// 0 is no preference, 2 light (org.freedesktop.portal.Settings).
 constexpr guint32 PreferDark = 1;
 
-// Portals wrap the value once or twice, by their age and by the method.
+// The value is in one or two variants, depending on the portal's version and the method.
 headless::OwnedVariant innermost(GVariant* value) {
     headless::OwnedVariant inner(g_variant_ref(value));
     while (g_variant_is_of_type(inner.get(), G_VARIANT_TYPE_VARIANT) != FALSE) {
@@ -39,7 +39,7 @@ ColourScheme::ColourScheme(GDBusConnection* bus, std::function<void(Scheme)> cha
         if (std::string_view(space) == Namespace && std::string_view(key) == Key) take(value);
     });
     watching_ = portal_.watch([this] { ask(); }, [] {});
-    // The first question also starts the portal where the bus can start it.
+    // The first call also activates the portal, if installed.
     ask();
 }
 

@@ -1,4 +1,4 @@
-// Whether the desktop is set to light or dark, as its Settings portal says.
+// The desktop's light or dark colour scheme, from the Settings portal.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,13 +8,11 @@
 
 namespace brisel::platform::desktop {
 
-/// To be made, used and destroyed on the thread that turns GLib's default context. Light as long as
-/// nobody says otherwise.
+/// Use only on the thread that runs GLib's default context. Light until the portal answers.
 class ColourScheme {
   public:
     enum class Scheme { Light, Dark };
 
-    /// `changed` gets every scheme that is not the one before.
     ColourScheme(GDBusConnection* bus, std::function<void(Scheme)> changed);
 
   private:

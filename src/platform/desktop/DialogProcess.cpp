@@ -1,4 +1,4 @@
-// A window of the dialog program.
+// A window, shown by a brisel-dialog process.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/DialogProcess.h"
 
@@ -18,11 +18,11 @@ namespace brisel::platform::desktop {
 
 namespace {
 
-// As tools/dialog/Protocol.cpp writes them.
+// Written by tools/dialog/Protocol.cpp.
 constexpr std::string_view ShownWord = "shown";
 constexpr std::string_view PressedWord = "pressed ";
 
-// In memory, so that writing it never waits for the reader.
+// A memfd, not a pipe: writing never blocks.
 int fileWith(const std::string& text) {
     const int file = memfd_create("brisel-dialog-input", MFD_CLOEXEC);
     static_cast<void>(pwrite(file, text.data(), text.size(), 0) >= 0);
@@ -36,7 +36,6 @@ std::optional<int> numberIn(std::string_view text) {
     return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
 }
 
-/// The standard streams of the program to start.
 class Streams {
   public:
     Streams(int input, int output) {

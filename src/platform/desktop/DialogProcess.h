@@ -1,4 +1,4 @@
-// A window of the dialog program, which runs as a process of its own while the window is open.
+// A window, shown by a brisel-dialog process that ends with it.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -15,25 +15,24 @@ class DialogProcess {
   public:
     enum class State { Starting, Shown, Pressed, Ended };
 
-    /// Starts the program at this path with these arguments and `input` to read. One that cannot be
-    /// started has ended.
+    /// Starts `program` with `input` on its standard input. On failure the state is Ended.
     DialogProcess(const std::string& program, const std::vector<std::string>& arguments,
                   const std::string& input = {});
     DialogProcess(const DialogProcess&) = delete;
     DialogProcess& operator=(const DialogProcess&) = delete;
-    /// Takes the window away, if it is still there.
+    /// Kills the process, which closes the window.
     ~DialogProcess();
 
-    /// Readable when there is something to take in; -1 once ended.
+    /// -1 once ended.
     [[nodiscard]] int descriptor() const { return output_; }
-    /// Takes in what the program has told.
+    /// Reads output and updates the state. Call when the descriptor is readable.
     void takeIn();
 
     [[nodiscard]] State state() const { return state_; }
-    /// Whether the window was on the screen, if only for a moment.
+    /// True if the window has been on screen.
     [[nodiscard]] bool wasShown() const { return shown_; }
-    /// What was pressed: the position of a button, the number of a menu entry. None as long as
-    /// nothing was, and for a window that was closed.
+    /// Index of the pressed button, or number of the chosen menu entry. nullopt before that, and
+    /// for a closed window.
     [[nodiscard]] std::optional<int> pressed() const { return pressed_; }
 
   private:

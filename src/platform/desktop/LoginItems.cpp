@@ -1,4 +1,4 @@
-// The program's entry among those that the desktop starts at login.
+// Brisel's XDG autostart entry.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/LoginItems.h"
 
@@ -40,7 +40,7 @@ bool LoginItems::setEnabled(const std::string& /*identifier*/, bool enabled) {
     return enabled ? add() : remove();
 }
 
-// An entry whose program has been removed (TryExec) is passed over by the desktop.
+// With TryExec, desktops ignore the entry once the program is removed.
 bool LoginItems::add() const {
     const std::unique_ptr<GKeyFile, decltype(&g_key_file_unref)> file(g_key_file_new(),
                                                                       &g_key_file_unref);

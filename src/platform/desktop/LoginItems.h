@@ -1,4 +1,4 @@
-// The program's entry among those that the desktop starts at login.
+// Brisel's XDG autostart entry.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,22 +10,22 @@
 
 namespace brisel::platform::desktop {
 
-/// An entry in the user's autostart folder (the freedesktop Autostart specification).
+/// Writes to the user's autostart folder (Desktop Application Autostart Specification).
 class LoginItems final : public platform::LoginItems {
   public:
-    /// The entry's file, and the program that it starts.
+    /// `file` is the entry's path, `program` the executable that it starts.
     struct Entry {
         std::string file;
         std::string program;
     };
 
-    /// The program that runs now, in the user's folder.
+    /// The running executable, in the user's autostart folder.
     [[nodiscard]] static Entry ownEntry();
 
     explicit LoginItems(platform::SystemLog& log, Entry entry = ownEntry())
         : log_(log), entry_(std::move(entry)) {}
 
-    /// There is no helper here: the desktop starts the program itself.
+    /// Ignores `identifier`: the desktop starts Brisel itself, without a helper. Logs a failure.
     [[nodiscard]] bool setEnabled(const std::string& identifier, bool enabled) override;
 
   private:
@@ -36,7 +36,7 @@ class LoginItems final : public platform::LoginItems {
     Entry entry_;
 };
 
-/// `path` as one word of a desktop entry's Exec key.
+/// Quotes `path` for a desktop entry's Exec key.
 std::string execWord(const std::string& path);
 
 }  // namespace brisel::platform::desktop

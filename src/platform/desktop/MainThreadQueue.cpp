@@ -1,4 +1,4 @@
-// Work for the main thread that does not wait until an alert is closed.
+// Work for the main thread that runs even while an alert is open.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/MainThreadQueue.h"
 

@@ -1,4 +1,4 @@
-// Work for the main thread that does not wait until an alert is closed.
+// Work for the main thread that runs even while an alert is open.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,8 +10,7 @@
 
 namespace brisel::platform::desktop {
 
-/// Made on the main thread, whose loop does the work that comes in; so does an alert while it
-/// waits.
+/// Create on the main thread. Its main loop runs the work, and so does an Alert while it waits.
 class MainThreadQueue {
   public:
     MainThreadQueue();
@@ -19,11 +18,11 @@ class MainThreadQueue {
     MainThreadQueue& operator=(const MainThreadQueue&) = delete;
     ~MainThreadQueue();
 
-    /// In order; what still waits when the queue goes is dropped. Any thread.
+    /// Work runs in order; destroying the queue drops the rest. Any thread.
     void post(std::function<void()> work);
-    /// Readable while there is work to do.
+    /// Readable while work is pending.
     [[nodiscard]] int descriptor() const { return event_; }
-    /// Does all that has come in. Main thread.
+    /// Runs the pending work. Main thread.
     void work();
 
   private:

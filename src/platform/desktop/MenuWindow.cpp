@@ -8,7 +8,7 @@ namespace brisel::platform::desktop {
 
 namespace {
 
-// As tools/dialog/MenuLines.cpp reads it.
+// Parsed by tools/dialog/MenuLines.cpp.
 const char* kindOf(const MenuEntry& entry) {
     switch (entry.kind) {
         case MenuEntry::Kind::Separator:

@@ -13,11 +13,11 @@ namespace brisel::platform::desktop {
 /// Main thread only.
 class MenuWindow {
   public:
-    /// `dialog` is the path of the dialog program.
+    /// `dialog` is the path of brisel-dialog.
     MenuWindow(StatusItem& statusItem, platform::SystemLog& log, std::string dialog)
         : statusItem_(statusItem), window_(log, std::move(dialog)) {}
 
-    /// Shows the menu as it is now, instead of a window that is still open.
+    /// Shows the current menu; replaces an open window.
     void show();
 
   private:

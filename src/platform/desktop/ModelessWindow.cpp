@@ -1,4 +1,4 @@
-// A window of the dialog program that nobody waits for.
+// A modeless window, shown by brisel-dialog.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/ModelessWindow.h"
 

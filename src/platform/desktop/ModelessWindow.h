@@ -1,4 +1,4 @@
-// A window of the dialog program that nobody waits for.
+// A modeless window, shown by brisel-dialog.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -17,14 +17,14 @@ namespace brisel::platform::desktop {
 /// Main thread only.
 class ModelessWindow {
   public:
-    /// `program` is the path of the dialog program.
+    /// `program` is the path of brisel-dialog.
     ModelessWindow(platform::SystemLog& log, std::string program)
         : log_(log), program_(std::move(program)) {}
 
     using Pressed = std::function<void(int number)>;
 
-    /// Opens the window (see DialogProcess), instead of one that is still open. `pressed` gets what
-    /// is pressed in it, if anything. The log tells of a window that could not be shown.
+    /// Opens a window (see DialogProcess) and closes the previous one. Calls `pressed` with what is
+    /// pressed, if anything. Logs a window that could not be shown.
     void show(const std::vector<std::string>& arguments, const std::string& input, Pressed pressed);
 
   private:

@@ -1,4 +1,4 @@
-// The desktop's notification server.
+// Client of the desktop's notification server.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/NotificationServer.h"
 
@@ -36,7 +36,7 @@ std::string escaped(const std::string& text) {
     return markup.get();
 }
 
-// None in an answer of another type.
+// Empty if `answer` has another type.
 std::set<std::string, std::less<>> wordsIn(GVariant* answer) {
     std::set<std::string, std::less<>> words;
     if (g_variant_is_of_type(answer, G_VARIANT_TYPE("(as)")) == FALSE) return words;

@@ -1,4 +1,4 @@
-// The desktop's notification server, org.freedesktop.Notifications.
+// Client of the desktop's notification server, org.freedesktop.Notifications.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -15,45 +15,44 @@
 
 namespace brisel::platform::desktop {
 
-/// A pop-up. Its texts are plain, of any bytes.
+/// One notification. Its strings are plain text, not markup, and may be invalid UTF-8.
 struct Notification {
     enum class Urgency : unsigned char { Low = 0, Normal = 1, Critical = 2 };
 
     std::string summary;
     std::string body;
-    /// Keys and labels of the buttons.
+    /// Action keys and button labels.
     std::vector<std::pair<std::string, std::string>> actions{};
-    /// A name of the freedesktop sound theme; empty for silence.
+    /// Sound name in the freedesktop sound theme; empty for none.
     std::string soundName{};
     Urgency urgency = Urgency::Normal;
-    /// The pop-up to take the place of; 0 for none.
+    /// ID of the notification to replace; 0 for none.
     std::uint32_t replaces = 0;
 };
 
-/// Main thread only. A server may be missing, go, and come back: nothing of it outlives it, its
-/// pop-ups included.
+/// Main thread only. The server may be missing or restart, which loses its notifications.
 class NotificationServer {
   public:
-    /// The number of the pop-up, or the error.
+    /// `number` is the notification's ID, valid without an error.
     using Shown = std::function<void(std::uint32_t number, const std::optional<Error>& error)>;
     using ActionInvoked = std::function<void(std::uint32_t number, const std::string& key)>;
     using Closed = std::function<void(std::uint32_t number, std::uint32_t reason)>;
 
-    /// The reason of a pop-up that somebody has closed.
+    /// NotificationClosed reason: dismissed by the user.
     static constexpr std::uint32_t Dismissed = 2;
 
     explicit NotificationServer(GDBusConnection* bus);
 
-    /// Shows it with whatever of it the server can do, which is asked first of a new one. Where the
-    /// bus can start a server, that question starts it.
+    /// Shows the notification, with sound and markup as the server's capabilities allow. Asks a new
+    /// server for its capabilities first; that call also activates it over D-Bus.
     void show(const Notification& notification, Shown shown);
-    /// Shows two texts so that they stay until somebody has seen them. Waits for the server to have
-    /// them, for some seconds at most: the program may be about to end.
+    /// Shows a critical notification, which stays until dismissed. Blocks up to 5 seconds per call,
+    /// because the program may be about to exit.
     void showCritical(const std::string& summary, const std::string& body);
 
     [[nodiscard]] Subscription onActionInvoked(ActionInvoked invoked);
     [[nodiscard]] Subscription onClosed(Closed closed);
-    /// Tells that the server has gone, or that there is none.
+    /// Calls `vanished` when the server leaves the bus, or if there is none.
     [[nodiscard]] Subscription onVanished(std::function<void()> vanished);
 
   private:
@@ -66,7 +65,7 @@ class NotificationServer {
     [[nodiscard]] GVariant* hintsFor(const Notification& notification) const;
 
     BusClient server_;
-    /// None until the server has told.
+    /// Absent until the server answers.
     std::optional<std::set<std::string, std::less<>>> capabilities_;
     Subscription watching_;
 };

@@ -1,4 +1,4 @@
-// The status menu's items under numbers.
+// Stable numbers for the status menu's items.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/NumberedMenu.h"
 

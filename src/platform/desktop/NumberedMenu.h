@@ -1,4 +1,4 @@
-// The status menu's items under numbers, as the bus and the menu window know them.
+// Stable numbers for the status menu's items, for the bus and the menu window.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace brisel::platform::desktop {
 
-/// What a host shows of an item.
+/// A menu item as shown in the tray or the menu window.
 struct MenuEntry {
     enum class Kind { Choosable, Text, Separator };
 
@@ -22,12 +22,12 @@ struct MenuEntry {
     bool operator==(const MenuEntry&) const = default;
 };
 
-/// An item keeps its number as long as it stands for the same action on the same thing, however
-/// often the menu is rebuilt; a number is never used again. So a host can update an open menu in
-/// place, and what was chosen from an outdated one is nothing, not something else.
+/// An item keeps its number across rebuilds while its object, action and title stay the same.
+/// Numbers are never reused. So a host can update an open menu in place, and a choice from an
+/// outdated menu is ignored.
 class NumberedMenu {
   public:
-    /// Takes the items over; returns what to show of them, in order.
+    /// Replaces the items; returns the entries to show, in order.
     std::vector<MenuEntry> update(const std::deque<MenuItem>& items);
     /// The item of the last update with this number, or null.
     [[nodiscard]] const MenuItem* itemWithNumber(int number) const;

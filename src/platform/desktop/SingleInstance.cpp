@@ -1,4 +1,4 @@
-// One program a session.
+// Single instance per session; a second launch activates the first.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/SingleInstance.h"
 
@@ -17,12 +17,12 @@ constexpr const char* Introspection = R"(
   <method name='Activate'><arg type='a{sv}' direction='in'/></method>
 </interface></node>)";
 
-// Flags and answers of org.freedesktop.DBus.RequestName (D-Bus Specification).
+// Flags and replies of RequestName (D-Bus Specification).
 constexpr guint32 DoNotQueue = 4;
 constexpr guint32 PrimaryOwner = 1;
 constexpr guint32 Exists = 3;
 
-// The first one may be held up by an alert; it gets the call all the same, only later.
+// An alert may delay the first instance, which then handles the call later.
 constexpr int MillisecondsToAnswer = 5000;
 
 SingleInstance::Place takeName(GDBusConnection* bus) {
@@ -38,7 +38,7 @@ SingleInstance::Place takeName(GDBusConnection* bus) {
 
 }  // namespace
 
-// The object comes before the name: who finds the name finds somebody to talk to.
+// Exports the object before owning the name.
 SingleInstance::SingleInstance(GDBusConnection* bus)
     : bus_(bus), object_(exportObject()), place_(takeName(bus)) {}
 

@@ -1,4 +1,4 @@
-// One program a session: a second start turns to the first.
+// Single instance per session; a second launch activates the first.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,25 +11,25 @@
 
 namespace brisel::platform::desktop {
 
-/// The well-known name of the program on the session bus, with the interface
-/// org.freedesktop.Application (Desktop Entry Specification) of which it answers `Activate`.
+/// Owns Brisel's name on the session bus and answers `Activate` of org.freedesktop.Application
+/// (Desktop Entry Specification).
 class SingleInstance {
   public:
     enum class Place { First, Second, Unknown };
 
-    /// Takes the name, if nobody has it. `bus` must outlive this.
+    /// Requests the name. `bus` must outlive this object.
     explicit SingleInstance(GDBusConnection* bus);
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
     ~SingleInstance();
 
-    /// Whether this program has the name, or another one, or the bus would not say.
+    /// First if this process owns the name, Second if another does, Unknown if the request failed.
     [[nodiscard]] Place place() const { return place_; }
-    /// Tells the program that has the name that it was started again; false if it refuses. One that
-    /// is busy for some seconds will hear of it later.
+    /// Calls Activate on the name's owner. False on an error reply. True after a timeout of 5
+    /// seconds, because a busy owner handles the call later.
     [[nodiscard]] bool activateFirst() const;
-    /// From now on calls `activated`, on the loop of the thread that made this, for every other
-    /// start; at once for those so far.
+    /// Calls `activated` for each further launch, on the creating thread's main loop; at once if
+    /// there were launches before.
     void listen(std::function<void()> activated);
 
   private:

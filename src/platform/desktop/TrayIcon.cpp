@@ -19,8 +19,7 @@ constexpr const char* WatcherName = "org.kde.StatusNotifierWatcher";
 constexpr const char* WatcherPath = "/StatusNotifierWatcher";
 constexpr const char* ProgramName = "Brisel";
 
-// The part of the interface that has a meaning here, with the Ayatana tray's description for
-// assistive technology.
+// The members that Brisel needs, and Ayatana's IconAccessibleDesc for assistive technology.
 constexpr const char* Introspection = R"(
 <node><interface name='org.kde.StatusNotifierItem'>
   <property name='Category' type='s' access='read'/>
@@ -43,7 +42,7 @@ constexpr const char* Introspection = R"(
   <signal name='NewToolTip'/>
 </interface></node>)";
 
-// The host shows the menu by itself; there is nothing to do for a click.
+// Clicks need no action: the host shows the menu (ItemIsMenu).
 void answerMethod(GDBusConnection* /*bus*/, const gchar* /*sender*/, const gchar* /*path*/,
                   const gchar* /*interface*/, const gchar* /*method*/, GVariant* /*arguments*/,
                   GDBusMethodInvocation* invocation, gpointer /*icon*/) {
@@ -134,7 +133,7 @@ GVariant* TrayIcon::property(const std::string& name) const {
     return nullptr;
 }
 
-// A watcher that knows the name already leaves it at that.
+// Safe to repeat: the watcher ignores a registered name.
 void TrayIcon::registerWithWatcher() {
     watcher_.call("RegisterStatusNotifierItem", g_variant_new("(s)", busName_.c_str()), {});
     watcher_.readProperty("IsStatusNotifierHostRegistered", [this](const auto& there, const auto&) {

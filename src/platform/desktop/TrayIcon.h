@@ -14,7 +14,7 @@
 
 namespace brisel::platform::desktop {
 
-/// What the icon shows: an icon name of the theme, and the same state in words.
+/// `iconName` is a theme icon; `words` is the state as text.
 struct TrayLook {
     std::string iconName;
     std::string words;
@@ -22,9 +22,8 @@ struct TrayLook {
     bool operator==(const TrayLook&) const = default;
 };
 
-/// Registers with whatever watches for such icons, now, later and again; a tray that starts after
-/// the program, or anew, shows the icon too. To be used on the thread that turns GLib's default
-/// context.
+/// Registers with every StatusNotifierWatcher that appears, so that a tray that starts or restarts
+/// later shows the icon too. Use only on the thread that runs GLib's default context.
 class TrayIcon {
   public:
     static constexpr const char* ObjectPath = "/StatusNotifierItem";
@@ -32,8 +31,8 @@ class TrayIcon {
     /// Long enough for a session to start its panel.
     static constexpr std::chrono::seconds UsualPatience{15};
 
-    /// `menuPath` is the object on the same connection that holds the menu. The log tells once when
-    /// nothing shows the icon for as long as `patience`.
+    /// `menuPath` is the menu's object path on `bus`. Logs once if no host shows the icon within
+    /// `patience`.
     TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string menuPath,
              std::chrono::milliseconds patience = UsualPatience);
     TrayIcon(const TrayIcon&) = delete;
@@ -42,11 +41,11 @@ class TrayIcon {
 
     void show(TrayLook look);
 
-    /// The value of a property of the interface, floating; null for one that it lacks.
+    /// Floating value of a StatusNotifierItem property; null if unknown.
     [[nodiscard]] GVariant* property(const std::string& name) const;
 
   private:
-    /// The registration of the object; 0 without one.
+    /// The registration ID, 0 on failure.
     [[nodiscard]] guint exportObject();
     void registerWithWatcher();
     void waitForHost(std::chrono::milliseconds patience);

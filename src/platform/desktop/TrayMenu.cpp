@@ -10,7 +10,7 @@ namespace brisel::platform::desktop {
 
 namespace {
 
-// An underscore stands for the mnemonic of the letter after it, two for one underscore.
+// Doubles underscores: dbusmenu takes a single one for a mnemonic.
 std::string labelOf(const std::string& title) {
     std::string label;
     for (const char character : title) {
@@ -20,7 +20,7 @@ std::string labelOf(const std::string& title) {
     return label;
 }
 
-// The library tells hosts of a property only if its value is another one than before.
+// libdbusmenu announces a property only if its value changed.
 void describe(DbusmenuMenuitem* item, const MenuEntry& entry) {
     if (entry.kind == MenuEntry::Kind::Separator) {
         dbusmenu_menuitem_property_set(item, DBUSMENU_MENUITEM_PROP_TYPE, "separator");

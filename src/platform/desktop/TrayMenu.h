@@ -13,12 +13,11 @@
 
 namespace brisel::platform::desktop {
 
-/// To be used on the thread that turns GLib's default context, where the library works.
+/// Use only on the thread that runs GLib's default context, on which libdbusmenu works.
 class TrayMenu {
   public:
     static constexpr const char* ObjectPath = "/MenuBar";
 
-    /// Gets the number of the entry that somebody has chosen.
     using Chosen = std::function<void(int number)>;
 
     explicit TrayMenu(Chosen chosen);
@@ -26,7 +25,7 @@ class TrayMenu {
     TrayMenu& operator=(const TrayMenu&) = delete;
     ~TrayMenu() = default;
 
-    /// Shows these entries instead of those before. Hosts are told what has changed.
+    /// Replaces the entries; hosts are sent only the changes.
     void show(const std::vector<MenuEntry>& entries);
 
   private:

@@ -1,4 +1,4 @@
-// The thread that serves the desktop.
+// The thread that serves the tray icon and its menu.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/TrayThread.h"
 
@@ -11,7 +11,7 @@ namespace brisel::platform::desktop {
 TrayThread::TrayThread() : thread_([this] { g_main_loop_run(loop_); }) {}
 
 TrayThread::~TrayThread() {
-    // As work of its own: a loop that does not run yet would miss the call.
+    // Posted, because quitting a loop that does not run yet has no effect.
     post([this] { g_main_loop_quit(loop_); });
     thread_.join();
     g_main_loop_unref(loop_);

@@ -1,4 +1,4 @@
-// The thread that serves the desktop.
+// The thread that serves the tray icon and its menu.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,18 +9,17 @@
 
 namespace brisel::platform::desktop {
 
-/// Turns GLib's default context. The main thread may be kept for minutes by an alert, a password
-/// prompt or a tool; meanwhile the panel goes on asking for the icon and the menu, and gets its
-/// answers from here.
+/// Runs GLib's default context. So the panel's requests for icon and menu are answered while an
+/// alert, a password prompt or a tool blocks the main thread.
 class TrayThread {
   public:
     TrayThread();
     TrayThread(const TrayThread&) = delete;
     TrayThread& operator=(const TrayThread&) = delete;
-    /// Ends the thread; work that still waits is dropped.
+    /// Ends the thread after the work posted so far.
     ~TrayThread();
 
-    /// Lets `work` run on the thread. Any thread.
+    /// Runs `work` on this thread. Any thread.
     void post(std::function<void()> work);
 
   private:

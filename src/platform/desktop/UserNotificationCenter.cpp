@@ -8,7 +8,7 @@ namespace brisel::platform::desktop {
 
 namespace {
 
-// The Mac's sounds have no namesakes in the freedesktop sound theme; this one says what happened.
+// Used for every macOS sound name; the freedesktop sound theme has none of them.
 constexpr const char* AnySound = "device-added";
 
 }  // namespace
@@ -21,7 +21,7 @@ UserNotificationCenter::UserNotificationCenter(NotificationServer& server) : ser
             respondFor(number, NotificationDismissActionIdentifier);
         }
     });
-    // Another server numbers its pop-ups anew.
+    // A new server assigns IDs anew.
     vanishing_ = server_.onVanished([this] {
         for (auto& [identifier, popUp] : popUps_)
             popUp.number = 0;
@@ -30,7 +30,7 @@ UserNotificationCenter::UserNotificationCenter(NotificationServer& server) : ser
 
 void UserNotificationCenter::addNotificationRequest(const NotificationRequest& request,
                                                     AddHandler handler) {
-    // Asked again before the server has answered, it is shown once all the same.
+    // A repeated request that is still waiting is shown only once.
     for (auto& waiting : waiting_) {
         if (waiting.request.identifier != request.identifier ||
             waiting.request.userInfo != request.userInfo)
@@ -56,7 +56,7 @@ void UserNotificationCenter::finishShow(std::uint32_t number, const std::optiona
     }
     for (const auto& handler : shown)
         handler(error);
-    // Not before: what the handler asks for has to wait its turn too.
+    // Kept in the queue while the handlers run, so that requests they add wait their turn.
     if (waiting_.front().handlers.empty()) waiting_.pop_front();
     showNext();
 }
@@ -74,9 +74,9 @@ Notification UserNotificationCenter::notificationFor(const NotificationRequest& 
 void UserNotificationCenter::respondFor(std::uint32_t number, const std::string& action) {
     for (auto& [identifier, popUp] : popUps_) {
         if (number == 0 || popUp.number != number) continue;
-        // There is nothing more to come from it: after a choice servers close the pop-up, too.
+        // Ignores later signals: servers also close a notification after a choice.
         popUp.number = 0;
-        // A copy: what the response leads to may show another pop-up in its place.
+        // A copy: the response may replace the map entry.
         const NotificationResponse response{.requestIdentifier = identifier,
                                             .actionIdentifier = action,
                                             .userInfo = popUp.userInfo};

@@ -14,9 +14,8 @@
 
 namespace brisel::platform::desktop {
 
-/// Main thread only. A request takes the place of the pop-up of an earlier one with the same
-/// identifier. Its delay is not kept: nothing here takes a trigger in the future, and the sooner
-/// the user is asked the better.
+/// Main thread only. A request replaces the notification of an earlier one with its identifier.
+/// Ignores the delay: the Notifications interface has no timed trigger.
 class UserNotificationCenter final : public common::UserNotificationCenter {
   public:
     explicit UserNotificationCenter(NotificationServer& server);
@@ -26,7 +25,7 @@ class UserNotificationCenter final : public common::UserNotificationCenter {
   private:
     struct Waiting {
         NotificationRequest request;
-        /// Of everybody who has asked for the same.
+        /// One for each call with this request.
         std::vector<AddHandler> handlers;
     };
     struct PopUp {
@@ -40,10 +39,9 @@ class UserNotificationCenter final : public common::UserNotificationCenter {
     [[nodiscard]] Notification notificationFor(const NotificationRequest& request) const;
 
     NotificationServer& server_;
-    /// The first of them is being shown, one at a time: what the next is to replace is known once
-    /// that one has its number.
+    /// The first is being shown. One at a time, because the next may replace it and needs its ID.
     std::deque<Waiting> waiting_;
-    /// The latest pop-up of each request identifier.
+    /// Latest notification of each request identifier.
     std::map<std::string, PopUp> popUps_;
     Subscription actions_;
     Subscription closings_;

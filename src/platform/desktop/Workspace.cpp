@@ -1,4 +1,4 @@
-// The user's file manager.
+// Opens folders in the desktop's file manager.
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/Workspace.h"
 
@@ -8,7 +8,7 @@ namespace brisel::platform::desktop {
 
 namespace {
 
-/// A folder that is being opened. Whoever asked for it has gone once it is cancelled.
+/// A pending launch; cancelled when the Workspace is destroyed.
 struct Opening {
     platform::SystemLog& log;
     headless::OwnedObject<GCancellable> cancellable;

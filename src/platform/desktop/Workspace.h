@@ -1,4 +1,4 @@
-// The user's file manager.
+// Opens folders in the desktop's file manager.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -15,7 +15,7 @@ class Workspace final : public platform::Workspace {
     Workspace& operator=(const Workspace&) = delete;
     ~Workspace() override { g_cancellable_cancel(cancellable_.get()); }
 
-    /// Opens the folder in whatever the desktop has set for folders; waits for nothing.
+    /// Opens the folder in the default application for folders, without blocking. Logs a failure.
     void openURL(const std::optional<FileURL>& url) override;
 
   private:
