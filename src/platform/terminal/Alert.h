@@ -11,7 +11,7 @@ class Alert final : public platform::Alert {
   public:
     explicit Alert(Terminal& terminal) : terminal_(terminal) {}
 
-    /// An empty line presses the first button; at the end of input nothing is pressed.
+    /// An empty line presses the first button. Returns -1 at end of input and on termination.
     int runModal(const AlertContent& content) override;
 
   private:

@@ -1,4 +1,4 @@
-// The application object of a program for the terminal.
+// The terminal program's application object.
 // SPDX-License-Identifier: MIT
 #pragma once
 

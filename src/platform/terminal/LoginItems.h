@@ -1,4 +1,4 @@
-// Login items where there is nothing to start at login.
+// Login items, which the terminal program does not support.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,7 +10,6 @@ namespace brisel::platform::terminal {
 
 class LoginItems final : public platform::LoginItems {
   public:
-    /// A program for the terminal has nothing to start at login.
     [[nodiscard]] bool setEnabled(const std::string& /*identifier*/, bool /*enabled*/) override {
         return false;
     }

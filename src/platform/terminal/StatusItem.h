@@ -14,11 +14,10 @@
 
 namespace brisel::platform::terminal {
 
-/// Prints the state in words and the menu as numbered lines once the main loop turns, if they
-/// differ from what was printed last.
+/// Prints the state and the numbered menu when the main loop is idle, if they have changed.
 class StatusItem final : public platform::StatusItem {
   public:
-    /// Lets work wait for the main loop until the subscription ends.
+    /// Schedules `work` on the main loop until the subscription ends.
     using Later = std::function<Subscription(std::function<void()> work)>;
 
     StatusItem(Terminal& terminal, const common::Menu& menu, Later later)
@@ -27,7 +26,7 @@ class StatusItem final : public platform::StatusItem {
     void create(double /*length*/) override {}
     void showStatusMenu() override {}
     void setImage(const std::optional<std::string>& name) override;
-    /// A terminal's colours are its own matter.
+    /// Constant: a terminal has no appearance.
     [[nodiscard]] std::string effectiveAppearanceName() const override {
         return "NSAppearanceNameAqua";
     }
@@ -36,9 +35,9 @@ class StatusItem final : public platform::StatusItem {
         return {};
     }
 
-    /// Prints it now.
+    /// Prints now, changed or not.
     void show();
-    /// The item behind a number as it was printed last, or null.
+    /// The item with this number in the last printed menu, or null.
     [[nodiscard]] const MenuItem* itemWithNumber(const std::string& number) const;
 
   private:

@@ -1,4 +1,4 @@
-// Lines in from the terminal, lines out to it.
+// Line input and output on the terminal.
 // SPDX-License-Identifier: MIT
 #include "platform/terminal/Terminal.h"
 
@@ -65,7 +65,7 @@ Subscription Terminal::handleLines(LineHandler handler) {
     });
 }
 
-// More lines may have come with the one that was asked for, and nothing else would look at them.
+// Lines read together with an answer would otherwise stay in the buffer.
 void Terminal::handOutSoon() {
     if (!handler_ || typed_.empty()) return;
     handingOut_ = headless::whenMainLoopTurns([this] { handOutLines(); });
@@ -88,12 +88,12 @@ void Terminal::readMore() {
     if (count > 0) {
         typed_.append(chunk.data(), static_cast<std::size_t>(count));
     } else {
-        // A descriptor shared with another program may have nothing to read after all.
+        // Another process that shares the descriptor may have read the input first.
         ended_ = count == 0 || (errno != EINTR && errno != EAGAIN);
     }
 }
 
-// The last line may come without an end.
+// The last line may lack a newline.
 std::optional<std::string> Terminal::takeLine() {
     const auto end = typed_.find('\n');
     if (end == std::string::npos) {

@@ -1,4 +1,4 @@
-// Lines in from the terminal, lines out to it.
+// Line input and output on the terminal.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -12,30 +12,29 @@
 
 namespace brisel::platform::terminal {
 
-/// Main thread only. What is typed while nobody asks goes to the line handler, as GLib's main
-/// loop turns; while somebody asks, that one gets the next line.
+/// Main thread only. `ask` returns the next line; other lines go to the line handler, called from
+/// GLib's main loop.
 class Terminal {
   public:
-    /// A line without its end; none at the end of input.
+    /// A line without its newline; nullopt at end of input.
     using LineHandler = std::function<void(const std::optional<std::string>& line)>;
 
-    /// `input` is a descriptor, which stays the caller's. So is `termination`, or -1 for none:
-    /// once it can be read from, every question counts as unanswered.
+    /// `input` and `termination` are descriptors that the caller keeps open. Once `termination` is
+    /// readable, questions return nullopt; -1 disables it.
     Terminal(int input, std::ostream& output, int termination = -1)
         : input_(input), termination_(termination), output_(output) {}
 
-    /// Prints the text and a line end. Control characters, which a volume's label may hold, are
-    /// made visible, so that nothing but the program's own lines steers the terminal.
+    /// Prints `text` and a newline. Makes control characters visible, so that a volume's label
+    /// cannot send escape sequences.
     void print(std::string_view text);
-    /// Blocks until a line was typed; none at the end of input or once interrupted.
+    /// Prints `question` and blocks for a line; nullopt at end of input and on termination.
     [[nodiscard]] std::optional<std::string> ask(std::string_view question);
-    /// One handler at a time; what was typed before comes to it when the loop turns.
+    /// Sets the only line handler, which also gets the lines already read.
     [[nodiscard]] Subscription handleLines(LineHandler handler);
 
   private:
-    /// Waits for something to read; false once interrupted.
+    /// Waits for input; false on termination.
     [[nodiscard]] bool wait() const;
-    /// Takes in what can be read.
     void readMore();
     [[nodiscard]] std::optional<std::string> takeLine();
     void handOutLines();
@@ -51,7 +50,7 @@ class Terminal {
     Subscription handingOut_;
 };
 
-/// The number if the text is one from 1 to `most`.
+/// Parses a number from 1 to `most`; nullopt otherwise.
 std::optional<std::size_t> numberUpTo(const std::string& text, std::size_t most);
 
 }  // namespace brisel::platform::terminal

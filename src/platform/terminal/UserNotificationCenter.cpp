@@ -1,4 +1,4 @@
-// Notifications as questions on the terminal.
+// Notifications as questions on the terminal that do not wait for an answer.
 // SPDX-License-Identifier: MIT
 #include "platform/terminal/UserNotificationCenter.h"
 
@@ -10,7 +10,7 @@ namespace brisel::platform::terminal {
 
 namespace {
 
-// For the first action and those after it.
+// The keys of the first two actions.
 constexpr std::string_view Letters = "yn";
 
 }  // namespace

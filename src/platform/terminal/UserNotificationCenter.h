@@ -1,4 +1,4 @@
-// Notifications as questions that need no answer, on the terminal.
+// Notifications as questions on the terminal that do not wait for an answer.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,14 +10,14 @@
 
 namespace brisel::platform::terminal {
 
-/// The latest prompt can be answered by the letter of one of its category's actions.
+/// Only the latest notification can be answered, by the letter of one of its actions.
 class UserNotificationCenter final : public common::UserNotificationCenter {
   public:
     explicit UserNotificationCenter(Terminal& terminal) : terminal_(terminal) {}
 
     void addNotificationRequest(const NotificationRequest& request, AddHandler handler) override;
 
-    /// Answers the latest prompt; false when the line is no answer or nothing was asked.
+    /// False if `line` is not such a letter.
     [[nodiscard]] bool answer(const std::string& line);
 
   private:

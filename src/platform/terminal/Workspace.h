@@ -1,4 +1,4 @@
-// A file browser's work in a terminal: saying where the folder is.
+// Prints a folder's path in place of opening a file manager.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,7 +13,6 @@ class Workspace final : public platform::Workspace {
   public:
     explicit Workspace(Terminal& terminal) : terminal_(terminal) {}
 
-    /// Says where the folder is.
     void openURL(const std::optional<FileURL>& url) override {
         if (url) terminal_.print("The volume is at " + url->path());
     }
