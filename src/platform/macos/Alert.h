@@ -8,7 +8,7 @@ namespace brisel::platform::macos {
 
 class Alert final : public platform::Alert {
   public:
-    /// 0 when the system showed no alert.
+    /// Returns 0 if AppKit raised an exception.
     int runModal(const AlertContent& content) override;
 };
 

@@ -1,4 +1,4 @@
-// Modal alerts.
+// Modal alerts, by NSAlert.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/Alert.h"
 

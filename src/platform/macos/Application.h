@@ -8,7 +8,7 @@ namespace brisel::platform::macos {
 
 class Application final : public platform::Application {
   public:
-    /// The system tells the application's delegate, and ends the process.
+    /// AppKit calls the delegate's applicationWillTerminate: and exits.
     void terminate() override;
     void activateIgnoringOtherApps() override;
     void orderFrontStandardAboutPanel() override;

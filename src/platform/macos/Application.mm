@@ -1,4 +1,4 @@
-// The running application.
+// The running application, by NSApplication.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/Application.h"
 

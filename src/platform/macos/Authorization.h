@@ -1,4 +1,4 @@
-// Authorization Services.
+// Authorization, by Authorization Services.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,11 +6,11 @@
 
 namespace brisel::platform::macos {
 
-/// The call that starts a tool as root has been deprecated since macOS 10.7 and may be gone one
-/// day, so it is looked up by name in all that is loaded.
+/// Finds AuthorizationExecuteWithPrivileges by dlsym: it is deprecated since macOS 10.7 and may be
+/// removed.
 ///
-/// A descriptor's owner is 0 here, as the system sets none: waiting for the tool is waiting for any
-/// child of this process's group. The program starts no other child while it waits.
+/// The system sets no owner (F_GETOWN) on the tool's pipe, so it is 0: waiting for the tool waits
+/// for any child of this process group. Brisel starts no other child meanwhile.
 class Authorization final : public platform::Authorization {
   public:
     [[nodiscard]] CreatedAuthorization create(std::uint32_t flags) override;

@@ -1,4 +1,4 @@
-// Authorization Services.
+// Authorization, by Authorization Services.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/Authorization.h"
 
@@ -15,7 +15,7 @@ using ExecuteWithPrivileges = ::OSStatus (*)(::AuthorizationRef, const char*, ::
                                              char* const*, std::FILE**);
 
 ExecuteWithPrivileges executeFunction() {
-    // The symbol space of the whole process; the answer never changes.
+    // Searches all loaded images. The result never changes.
     static const auto function = reinterpret_cast<ExecuteWithPrivileges>(
         dlsym(RTLD_DEFAULT, "AuthorizationExecuteWithPrivileges"));
     return function;

@@ -1,4 +1,4 @@
-// The main bundle's texts and images.
+// The main bundle's localized strings and images.
 // SPDX-License-Identifier: MIT
 #pragma once
 

@@ -1,4 +1,4 @@
-// Disk Arbitration.
+// Disk events, mounts and unmounts, by Disk Arbitration.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,8 +9,7 @@
 
 namespace brisel::platform::macos {
 
-/// The session is created once and kept as long as the process: it must not be released while it
-/// is scheduled.
+/// Keeps its session for the life of the process: a scheduled session must not be released.
 class DiskArbitration final : public platform::DiskArbitration {
   public:
     void createSession() override;
@@ -25,13 +24,13 @@ class DiskArbitration final : public platform::DiskArbitration {
     [[nodiscard]] DiskDescription copyDescription(const Disk& disk) override;
 
     void unmount(const Disk& disk, Completion completion) override;
-    /// A volume that was to be mounted read-write and came out read-only counts as refused with
-    /// kDAReturnNotWritable: a volume that is always remounted would be remounted for ever.
+    /// Fails with kDAReturnNotWritable if `rw` was requested and the volume came out read-only.
+    /// With a success instead, an automount would remount it forever.
     void mountWithArguments(const Disk& disk, const std::vector<std::string>& arguments,
                             Completion completion) override;
 
   private:
-    /// Either of the two calls that register a callback for reports of disks.
+    /// DARegisterDiskAppearedCallback or DARegisterDiskDisappearedCallback.
     using Register = void (*)(DASessionRef, CFDictionaryRef, DADiskAppearedCallback, void*);
     [[nodiscard]] Subscription registerCallback(Register registerAt, DiskCallback callback);
     [[nodiscard]] Owned<DADiskRef> diskNamed(const std::string& name) const;

@@ -1,4 +1,4 @@
-// Disk Arbitration: the session, the reports of disks and the requests.
+// Disk events, mounts and unmounts, by Disk Arbitration.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/DiskArbitration.h"
 
@@ -20,23 +20,22 @@ namespace {
 using DiskCallback = platform::DiskArbitration::DiskCallback;
 using Completion = platform::DiskArbitration::Completion;
 
-// A volume that is on no device has no such name.
+// A volume without a device has no BSD name.
 std::string nameOf(DADiskRef disk) {
     const char* const name = DADiskGetBSDName(disk);
     return name != nullptr ? name : std::string(NullText);
 }
 
-// Called by Disk Arbitration, as the other callbacks here: what they call throws nothing.
+// Disk Arbitration's C code calls this, so no exception may escape.
 void report(DADiskRef disk, void* context) noexcept {
-    // Nobody else frees what is made here for now: the main loop does that after the user's events.
+    // AppKit drains its own pool only after user events.
     @autoreleasepool {
-        // A copy: what it calls may end the registration.
+        // A copy: the callback may end the registration.
         const auto callback = *static_cast<const DiskCallback*>(context);
         callback({.bsdName = nameOf(disk), .reported = descriptionOf(disk)});
     }
 }
 
-/// A request that waits for its completion.
 struct Request {
     Completion completion;
     bool mustBeWritable = false;
@@ -52,7 +51,7 @@ bool cameOutReadOnly(DADiskRef disk) {
     return path && isMountedReadOnly(path->path());
 }
 
-// The disk and the dissenter are the framework's, and gone after the call.
+// The framework owns `disk` and `dissenter`; they are valid only during the call.
 void complete(DADiskRef disk, DADissenterRef dissenter, void* context) noexcept {
     @autoreleasepool {
         const std::unique_ptr<const Request> request(static_cast<const Request*>(context));
@@ -68,8 +67,7 @@ void refuse(const Disk& disk, const Completion& completion) {
     completion({.bsdName = disk.bsdName, .reported = std::nullopt}, Dissenter());
 }
 
-/// Strings and the null-terminated array of them that Disk Arbitration takes; it reads them within
-/// the call.
+/// The null-terminated string array of DADiskMountWithArguments, which reads it during the call.
 class ArgumentArray {
   public:
     explicit ArgumentArray(const std::vector<std::string>& arguments) {
@@ -93,8 +91,8 @@ void DiskArbitration::createSession() {
 Subscription DiskArbitration::registerCallback(Register registerAt, DiskCallback callback) {
     if (!session_) return {};
     const auto context = std::make_shared<DiskCallback>(std::move(callback));
-    // The match dictionaries are null, which matches every disk, until there is a session: they are
-    // read at the moment of the call.
+    // Reads the match constant only now: it is null, which matches every disk, until a session
+    // exists.
     registerAt(session_.get(), kDADiskDescriptionMatchVolumeMountable, &report, context.get());
     return Subscription([session = session_.get(), context] {
         DAUnregisterCallback(session, reinterpret_cast<void*>(&report), context.get());
@@ -110,7 +108,7 @@ Subscription DiskArbitration::registerDiskDisappearedCallback(DiskCallback callb
 }
 
 void DiskArbitration::scheduleWithRunLoop() {
-    // The default mode alone: nothing comes while an alert or the menu is open.
+    // Default mode only: no callbacks while an alert or the menu is open.
     if (!session_) return;
     DASessionScheduleWithRunLoop(session_.get(), CFRunLoopGetCurrent(), kCFRunLoopDefaultMode);
 }
@@ -140,7 +138,7 @@ DiskDescription DiskArbitration::copyDescription(const Disk& disk) {
     return found ? descriptionOf(found.get()) : DiskDescription();
 }
 
-// In both requests the completion may come before the call returns.
+// Both requests may complete before the call returns.
 
 void DiskArbitration::unmount(const Disk& disk, Completion completion) {
     const auto found = diskNamed(disk.bsdName);

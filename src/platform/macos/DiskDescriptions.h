@@ -1,4 +1,4 @@
-// Reading Disk Arbitration's disk descriptions.
+// Reads Disk Arbitration's disk descriptions.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,8 +8,8 @@
 
 namespace brisel::platform::macos {
 
-/// The keys that Brisel knows, in so far as they hold what they should. A disk object made by name
-/// asks the system; of a disk that the system does not know the description is empty.
+/// Copies the keys that Brisel uses; leaves out values of an unexpected type. Empty if the system
+/// does not know the disk.
 DiskDescription descriptionOf(DADiskRef disk);
 
 }  // namespace brisel::platform::macos

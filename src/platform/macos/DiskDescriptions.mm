@@ -1,4 +1,4 @@
-// Reading Disk Arbitration's disk descriptions.
+// Reads Disk Arbitration's disk descriptions.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/DiskDescriptions.h"
 
@@ -14,7 +14,7 @@ namespace brisel::platform::macos {
 
 namespace {
 
-/// The value of `key` if there is one and it is of this type, else null.
+/// Value of `key`; null if absent or of another type.
 CFTypeRef valueOfType(CFDictionaryRef description, CFStringRef key, CFTypeID type) {
     const CFTypeRef value = CFDictionaryGetValue(description, key);
     return value != nullptr && CFGetTypeID(value) == type ? value : nullptr;

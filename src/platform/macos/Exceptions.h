@@ -1,4 +1,4 @@
-// Keeping Objective-C exceptions inside the adapters.
+// Catches Objective-C exceptions in the adapters.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,9 +6,8 @@
 
 namespace brisel::platform::macos {
 
-/// Runs `work`. The frameworks raise exceptions for what they take as mistakes of the program; one
-/// that `work` raises is logged with `purpose`, such as "show an alert", and goes no further.
-/// Whether none was raised.
+/// Runs `work`; true if it raised no exception. Logs an exception with `purpose`, such as "show an
+/// alert". The frameworks raise exceptions for programming errors.
 template <typename Work>
 bool guarded(const char* purpose, const Work& work) {
     @try {

@@ -1,4 +1,4 @@
-// The file system.
+// The file system, by NSFileManager.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/FileManager.h"
 
@@ -8,7 +8,7 @@
 #include "platform/macos/Owned.h"
 #include "platform/macos/Text.h"
 
-/// Lets a file manager delete one folder and nothing that is in it.
+/// Lets NSFileManager delete one folder but not its contents.
 @interface BriselEmptyFolderGuard : NSObject <NSFileManagerDelegate> {
   @private
     NSString* folder_;
@@ -31,8 +31,8 @@
 
 - (BOOL)fileManager:(NSFileManager*)fileManager shouldRemoveItemAtPath:(NSString*)path {
     (void)fileManager;
-    // Not by the characters: the system may hand over the path as it is on disk, where an "ö" is an
-    // "o" and a diaeresis.
+    // Not isEqualToString: the path may arrive in decomposed Unicode, which compare: treats as
+    // equal.
     return [path compare:folder_] == NSOrderedSame;
 }
 
@@ -42,8 +42,8 @@ namespace brisel::platform::macos {
 
 namespace {
 
-/// Calls `work` with a place for an error; the error where `work` says that it failed, or where the
-/// system raised an exception instead.
+/// Calls `work` with a place for an NSError. Returns the error if `work` returns false or raises an
+/// exception.
 template <typename Work>
 std::optional<Error> errorOf(const char* purpose, const Work& work) {
     NSError* error = nil;
@@ -89,9 +89,9 @@ std::optional<Error> FileManager::createDirectory(const std::string& path) {
     });
 }
 
-// The system's own call takes a folder with all that is in it. The path ends in a volume's label,
-// which is anybody's text, and a volume may still be mounted there: nothing but the folder itself
-// may go, also when something appears in it meanwhile.
+// NSFileManager deletes a folder with its contents. The path ends in a volume's label, which is
+// untrusted, and a volume may still be mounted there. So only an empty folder may be deleted, even
+// if entries appear meanwhile.
 std::optional<Error> FileManager::removeItem(const std::string& path) {
     NSString* const folder = nsString(path);
     return errorOf("delete a folder", [&](NSError** error) {
@@ -101,7 +101,7 @@ std::optional<Error> FileManager::removeItem(const std::string& path) {
         [manager.get() setDelegate:guard.get()];
         const bool removed = [manager.get() removeItemAtPath:folder error:error];
         [manager.get() setDelegate:nil];
-        // What the guard did not let go may yet count as deleted.
+        // NSFileManager may report success although the delegate kept the folder.
         return removed && ![manager.get() fileExistsAtPath:folder];
     });
 }

@@ -6,8 +6,7 @@
 
 namespace brisel::platform::macos {
 
-/// macOS 13 deprecates the call and some newer systems refuse it always; then the user is told,
-/// and nothing else changes.
+/// SMLoginItemSetEnabled is deprecated in macOS 13, and always fails on some newer systems.
 class LoginItems final : public platform::LoginItems {
   public:
     [[nodiscard]] bool setEnabled(const std::string& identifier, bool enabled) override;

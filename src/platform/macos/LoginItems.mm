@@ -1,4 +1,4 @@
-// Login items.
+// Login items, by Service Management.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/LoginItems.h"
 

@@ -15,8 +15,8 @@ class Menu final : public platform::Menu {
   public:
     Menu();
 
-    /// The menu with its fixed items, and the check item among them; to be called before any other
-    /// function, once the nib has been loaded.
+    /// Sets the nib's menu and its check item. Call after loading the nib, before any other
+    /// function.
     void connect(NSMenu* menu, NSMenuItem* checkItem);
     [[nodiscard]] NSMenu* menu() const { return menu_.get(); }
 
@@ -27,11 +27,11 @@ class Menu final : public platform::Menu {
   private:
     Owned<NSMenu*> menu_;
     Owned<NSMenuItem*> checkItem_;
-    /// Menu items do not keep their targets alive.
+    /// NSMenuItem does not retain its target.
     Owned<BriselMenuTarget*> target_;
 };
 
-/// What was inserted as this menu item; null for an item of the nib.
+/// The MenuItem behind an inserted NSMenuItem; null for an item of the nib.
 const MenuItem* insertedItem(NSMenuItem* menuItem);
 
 }  // namespace brisel::platform::macos

@@ -1,4 +1,4 @@
-// The status menu.
+// The status menu, an NSMenu from the nib.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/Menu.h"
 
@@ -12,7 +12,7 @@
 
 using brisel::platform::MenuItem;
 
-/// Carries an inserted item as a menu item's represented object.
+/// Wraps a MenuItem as a represented object.
 @interface BriselInsertedItem : NSObject {
   @public
     MenuItem item;
@@ -22,8 +22,8 @@ using brisel::platform::MenuItem;
 @implementation BriselInsertedItem
 @end
 
-/// The target of all inserted items. It gets a method for each action when the action is first
-/// inserted: AppKit disables an item whose target does not have its method.
+/// Target of all inserted items. Gets a method for each action at its first use, because AppKit
+/// disables an item whose target lacks it.
 @interface BriselMenuTarget : NSObject
 @end
 
@@ -37,7 +37,7 @@ namespace {
 void performAction(id /*self*/, SEL /*command*/, id sender) {
     const auto* const item = insertedItem(sender);
     if (item == nullptr) return;
-    // A copy: the menu may be rebuilt by what the item does.
+    // A copy: the action may rebuild the menu.
     const MenuItem copy = *item;
     if (copy.target) copy.target(copy);
 }
@@ -45,14 +45,14 @@ void performAction(id /*self*/, SEL /*command*/, id sender) {
 SEL actionFor(std::string_view name) {
     if (name.empty()) return nullptr;
     const SEL action = NSSelectorFromString(nsString(name));
-    // Does nothing where the class has the method already.
+    // No effect if the method exists.
     class_addMethod([BriselMenuTarget class], action,
                     reinterpret_cast<IMP>(reinterpret_cast<void (*)()>(&performAction)), "v@:@");
     return action;
 }
 
 void alignTitle(NSMenuItem* menuItem, int alignment) {
-    // Without a font of its own such a title would not look like the others.
+    // An attributed title needs the menu font set explicitly.
     NSDictionary<NSAttributedStringKey, id>* const attributes =
         [NSDictionary dictionaryWithObject:[NSFont menuFontOfSize:0] forKey:NSFontAttributeName];
     const Owned<NSMutableAttributedString*> title(
@@ -97,7 +97,7 @@ void Menu::connect(NSMenu* menu, NSMenuItem* checkItem) {
 }
 
 void Menu::removeItemsWithTags(std::span<const int> tags) {
-    // A copy, for the menu changes meanwhile.
+    // A copy: the loop changes the menu.
     NSArray<NSMenuItem*>* const items = [NSArray arrayWithArray:[menu_.get() itemArray]];
     for (NSMenuItem* menuItem in items) {
         if (std::find(tags.begin(), tags.end(), [menuItem tag]) == tags.end()) continue;

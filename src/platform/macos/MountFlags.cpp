@@ -1,4 +1,4 @@
-// How a file system is mounted.
+// Reads the mount flags of a file system.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/MountFlags.h"
 

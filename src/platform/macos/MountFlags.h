@@ -1,4 +1,4 @@
-// How a file system is mounted.
+// Reads the mount flags of a file system.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,7 +6,7 @@
 
 namespace brisel::platform::macos {
 
-/// Whether the file system at `path` is mounted read-only; no where that cannot be told.
+/// True if the file system at `path` is mounted read-only; false on error.
 bool isMountedReadOnly(const std::string& path);
 
 }  // namespace brisel::platform::macos

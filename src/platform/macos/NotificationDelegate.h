@@ -1,4 +1,4 @@
-// The notification center's delegate: brings the user's responses to the main thread.
+// Notification center delegate that delivers responses on the main thread.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,8 +8,8 @@
 
 #include "platform/UserNotificationCenter.h"
 
-/// The center may deliver a response on any thread; `handler` is called on the main thread, in the
-/// main loop's default mode where the response came elsewhere.
+/// Responses may arrive on any thread. Calls `handler` on the main thread; for a response from
+/// another thread, in the run loop's default mode.
 @interface BriselNotificationDelegate : NSObject <UNUserNotificationCenterDelegate> {
   @public
     std::shared_ptr<const brisel::platform::UserNotificationCenter::ResponseHandler> handler;

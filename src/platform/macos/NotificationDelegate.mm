@@ -1,4 +1,4 @@
-// The notification center's delegate.
+// Notification center delegate that delivers responses on the main thread.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/NotificationDelegate.h"
 
@@ -15,7 +15,7 @@ using brisel::platform::UserNotificationCenter;
 using brisel::platform::macos::Owned;
 using brisel::platform::macos::stdString;
 
-/// A response on its way to the main thread.
+/// A response passed to the main thread.
 @interface BriselResponse : NSObject {
   @public
     NotificationResponse response;
@@ -28,7 +28,7 @@ using brisel::platform::macos::stdString;
 
 namespace {
 
-// What is no text in it was not put there by this program.
+// Skips non-string entries; they are not ours.
 UserInfo textsOf(NSDictionary* userInfo) {
     UserInfo texts;
     for (id key in [userInfo allKeys]) {
@@ -59,7 +59,7 @@ UserNotificationCenter::CompletionHandler keptHandler(void (^handler)(void)) {
 @implementation BriselNotificationDelegate
 
 - (void)deliver:(BriselResponse*)delivery {
-    // Kept meanwhile: what it calls may take the handler away.
+    // Keeps the handler alive: the call may reset it.
     const auto call = handler;
     if (call) (*call)(delivery->response, delivery->completionHandler);
 }

@@ -1,4 +1,4 @@
-// The owner of one reference to a Core Foundation or Objective-C object.
+// Owns one reference to a Core Foundation or Objective-C object.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,14 +8,13 @@
 
 namespace brisel::platform::macos {
 
-/// Releases its reference when it goes. `Reference` is a pointer type of either world, such as
-/// DADiskRef or NSAlert*: to Core Foundation both are objects.
+/// `Reference` is a pointer type such as DADiskRef or NSAlert*; CFRelease accepts both kinds.
 template <typename Reference>
 class Owned {
   public:
     Owned() = default;
-    /// Takes over a reference that is the caller's own: from a function with Create or Copy in its
-    /// name, or from alloc, new or copy. Null owns nothing.
+    /// Takes over a reference from a Create or Copy function, or from alloc, new or copy. Null owns
+    /// nothing.
     explicit Owned(Reference reference) : reference_(reference) {}
     Owned(Owned&& other) noexcept : reference_(std::exchange(other.reference_, nullptr)) {}
     Owned& operator=(Owned&& other) noexcept {
@@ -36,7 +35,7 @@ class Owned {
     Reference reference_ = nullptr;
 };
 
-/// An owner of a further reference to an object that belongs to somebody else.
+/// Retains `reference`, which the caller does not own.
 template <typename Reference>
 Owned<Reference> retained(Reference reference) {
     if (reference != nullptr) CFRetain(reference);

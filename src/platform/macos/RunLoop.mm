@@ -1,4 +1,4 @@
-// Timers on the main run loop.
+// Timers on the main run loop, by NSTimer.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/RunLoop.h"
 
@@ -21,7 +21,7 @@
 - (void)timerFired:(NSTimer*)timer {
     (void)timer;
     @autoreleasepool {
-        // A copy: what it calls may end the timer.
+        // A copy: the call may invalidate the timer.
         const auto call = fire;
         call();
     }
@@ -41,7 +41,7 @@ Subscription RunLoop::scheduledTimer(std::chrono::milliseconds interval,
                                                           selector:@selector(timerFired:)
                                                           userInfo:nil
                                                            repeats:YES];
-    // The timer keeps its target alive until it is invalidated.
+    // The timer retains its target until invalidated.
     const auto owner = std::make_shared<Owned<NSTimer*>>(retained(timer));
     return Subscription([owner] { [owner->get() invalidate]; });
 }

@@ -1,4 +1,4 @@
-// AppleScript.
+// AppleScript, by NSAppleScript.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/ScriptRunner.h"
 
@@ -32,7 +32,7 @@ ScriptResult ScriptRunner::execute(const std::string& source) {
     guarded("run a script", [&] {
         const Owned<NSAppleScript*> script([[NSAppleScript alloc] initWithSource:nsString(source)]);
         NSDictionary<NSString*, id>* error = nil;
-        // Nil alone says that it failed; the dictionary may be empty then.
+        // Only nil means failure; the error dictionary may be empty.
         const bool succeeded = [script.get() executeAndReturnError:&error] != nil;
         result.error = succeeded ? std::nullopt : std::optional(pairsOf(error));
     });

@@ -13,12 +13,12 @@ namespace brisel::platform::macos {
 
 class StatusItem final : public platform::StatusItem {
   public:
-    /// Both must outlive the item.
+    /// `menu` and `bundle` must outlive the item.
     StatusItem(const Menu& menu, const Bundle& bundle) : menu_(menu), bundle_(bundle) {}
 
     void create(double length) override;
     void showStatusMenu() override;
-    /// The image's state in words becomes the button's accessibility label.
+    /// Also sets the button's accessibility label to the state in words.
     void setImage(const std::optional<std::string>& name) override;
     [[nodiscard]] std::string effectiveAppearanceName() const override;
     [[nodiscard]] Subscription observeEffectiveAppearance(std::function<void()> changed) override;
@@ -26,7 +26,7 @@ class StatusItem final : public platform::StatusItem {
   private:
     const Menu& menu_;
     const Bundle& bundle_;
-    /// Gone from the menu bar when it is released.
+    /// Releasing it removes it from the menu bar.
     Owned<NSStatusItem*> item_;
 };
 

@@ -1,4 +1,4 @@
-// The item in the menu bar.
+// The item in the menu bar, by NSStatusItem.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/StatusItem.h"
 
@@ -17,7 +17,7 @@
 
 @implementation BriselAppearanceObserver
 
-// All that is observed is this observer's own, so its base class is not asked.
+// Does not call super, which observes nothing.
 - (void)observeValueForKeyPath:(NSString*)keyPath
                       ofObject:(id)object
                         change:(NSDictionary<NSKeyValueChangeKey, id>*)change
@@ -26,7 +26,7 @@
     (void)change;
     (void)context;
     if (![keyPath isEqualToString:@"effectiveAppearance"]) return;
-    // A copy: what it calls may end the observation.
+    // A copy: the call may end the observation.
     const auto call = changed;
     call();
 }
@@ -37,7 +37,7 @@ namespace brisel::platform::macos {
 
 namespace {
 
-/// An observer of a button's appearance; ends the observation when it goes.
+/// Observes a button's effectiveAppearance until destroyed.
 class AppearanceObservation {
   public:
     AppearanceObservation(NSStatusBarButton* button, std::function<void()> changed)
@@ -84,8 +84,8 @@ std::string StatusItem::effectiveAppearanceName() const {
 }
 
 Subscription StatusItem::observeEffectiveAppearance(std::function<void()> changed) {
-    // Removing an observer that was never added would be an exception: none is removed but what is
-    // made here.
+    // Removing an observer that was never added raises an exception, so the subscription removes
+    // only one that was.
     NSStatusBarButton* const button = [item_.get() button];
     if (button == nil) return {};
     const auto observation = std::make_shared<std::optional<AppearanceObservation>>();

@@ -1,4 +1,4 @@
-// The system log.
+// The system log, by NSLog.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/SystemLog.h"
 

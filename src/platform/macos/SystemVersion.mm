@@ -7,7 +7,7 @@
 namespace brisel::platform::macos {
 
 bool SystemVersion::isMacOS12OrLater() const {
-    // Not an availability test of the compiler: nothing newer is called, only another way is taken.
+    // Not @available: no newer API is called, only another way to mount is chosen.
     static const bool answer = [] {
         const NSOperatingSystemVersion version{12, 0, 0};
         return static_cast<bool>(

@@ -1,4 +1,4 @@
-// Text between the program and the frameworks.
+// Converts strings, URLs and errors between C++ and Foundation.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,20 +13,19 @@
 
 namespace brisel::platform::macos {
 
-/// `text` as the frameworks take it, autoreleased and never nil. Bytes that are no UTF-8 come out
-/// as other characters: nothing is lost but their meaning, which they did not have.
+/// Autoreleased, never nil. Decodes `text` as ISO Latin-1 if it is not valid UTF-8.
 NSString* nsString(std::string_view text);
 
 /// The UTF-8 of `string`; empty for nil.
 std::string stdString(NSString* string);
 
-/// The same, but none for nil.
+/// The UTF-8 of `string`; nullopt for nil.
 std::optional<std::string> optionalString(NSString* string);
 
-/// The file URL of a folder, autoreleased; nil for none.
+/// The URL of a folder, autoreleased; nil if absent.
 NSURL* nsURL(const std::optional<FileURL>& url);
 
-/// What the error says; an error without a text is still one.
+/// Nil becomes "unknown error".
 Error errorFrom(NSError* error);
 
 }  // namespace brisel::platform::macos

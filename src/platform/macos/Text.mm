@@ -1,4 +1,4 @@
-// Text between the program and the frameworks.
+// Converts strings, URLs and errors between C++ and Foundation.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/Text.h"
 

@@ -1,4 +1,4 @@
-// The output of a tool that nobody reads before the tool has ended.
+// Buffers a tool's output, so that the tool never blocks on writing it.
 // SPDX-License-Identifier: MIT
 #include "platform/macos/ToolOutput.h"
 
@@ -42,7 +42,7 @@ void writeAll(int descriptor, std::string_view text) {
     }
 }
 
-// A reader that has gone must not end the process. The signal goes to the thread that writes.
+// A closed reader must not end the process. SIGPIPE goes to the writing thread.
 void blockBrokenPipeSignal() {
     sigset_t signals;
     sigemptyset(&signals);
@@ -57,8 +57,8 @@ void carryOver(std::FILE* toolOutput, int destination) {
     std::fclose(toolOutput);
 }
 
-// Two sockets like the system's own, not a pipe: their owner is 0 as well. No tool that is started
-// later inherits them: it would keep them open for its reader. False when there are none.
+// Sockets, not a pipe: F_GETOWN is 0, as on the system's own stream. Close-on-exec, because a tool
+// that inherited them would keep the reader from end of file. False on failure.
 bool makeSockets(std::array<int, 2>& ends) {
     if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0) return false;
     for (const int end : ends)

@@ -1,4 +1,4 @@
-// The output of a tool that nobody reads before the tool has ended.
+// Buffers a tool's output, so that the tool never blocks on writing it.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -6,10 +6,9 @@
 
 namespace brisel::platform::macos {
 
-/// Takes over the stream on a tool's output, which holds about eight kilobytes: a tool that writes
-/// more would wait for its reader, and the reader, which waits for the tool's end first, for the
-/// tool. Returns a stream that gives the same output, to the same end, and that the tool never
-/// waits for. Where there is no thread to be had, returns `toolOutput` itself.
+/// Takes over `toolOutput` and returns a stream with its content, copied by a thread. Without it a
+/// tool that writes more than the stream's buffer of about 8 KB would deadlock: the caller reads
+/// only after the tool has ended. Returns `toolOutput` itself if there is no socket or thread.
 std::FILE* neverFull(std::FILE* toolOutput);
 
 }  // namespace brisel::platform::macos

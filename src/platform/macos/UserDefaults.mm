@@ -1,4 +1,4 @@
-// The user's preferences.
+// The user's preferences, by NSUserDefaults.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/UserDefaults.h"
 

@@ -11,8 +11,7 @@
 
 namespace brisel::platform::macos {
 
-/// The system raises an exception for a process that is not an application in a bundle of its own:
-/// there every request ends with an error, and the system is not asked.
+/// Outside an application bundle every request fails, because the system would raise an exception.
 class UserNotificationCenter final : public platform::UserNotificationCenter {
   public:
     UserNotificationCenter();
@@ -23,7 +22,7 @@ class UserNotificationCenter final : public platform::UserNotificationCenter {
     void addNotificationRequest(const NotificationRequest& request, AddHandler handler) override;
 
   private:
-    /// The center does not keep its delegate alive.
+    /// The center does not retain its delegate.
     Owned<BriselNotificationDelegate*> delegate_;
 };
 

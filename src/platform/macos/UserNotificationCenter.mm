@@ -1,4 +1,4 @@
-// Notifications with buttons.
+// Notifications with buttons, by the User Notifications framework.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/UserNotificationCenter.h"
 
@@ -18,7 +18,7 @@ bool isApplicationInBundle() {
     return [bundle bundleIdentifier] != nil && [[bundle bundlePath] hasSuffix:@".app"];
 }
 
-/// Nil where the system would raise an exception instead.
+/// Nil outside an application bundle, where the system would raise an exception.
 UNUserNotificationCenter* currentCenter() {
     if (!isApplicationInBundle()) return nil;
     UNUserNotificationCenter* center = nil;
@@ -32,7 +32,7 @@ Error noCenter() {
             .localizedFailureReason = std::nullopt};
 }
 
-// What was raised is in the log.
+// `guarded` has logged the exception.
 Error refused() {
     return {.localizedDescription = "The system refused it.",
             .localizedFailureReason = std::nullopt};
@@ -90,7 +90,7 @@ Subscription UserNotificationCenter::setDelegate(ResponseHandler handler) {
     guarded("deliver responses to notifications",
             [this] { [currentCenter() setDelegate:delegate_.get()]; });
     return Subscription([delegate = delegate_.get(), kept] {
-        // There may be another one by now.
+        // A later call may have set another handler.
         if (delegate->handler == kept) delegate->handler = nullptr;
     });
 }
@@ -111,8 +111,8 @@ void UserNotificationCenter::requestAuthorization(unsigned options, Authorizatio
         handler(false, noCenter());
         return;
     }
-    // Runs later, perhaps on a thread of the system's own. It is no part of the work below, for
-    // there it would refer to this function's handler and not have its own.
+    // May run later, on any thread. Defined outside the lambda, which captures by reference: the
+    // block must copy `handler`.
     void (^const completion)(BOOL, NSError*) = ^(BOOL granted, NSError* error) {
       handler(granted, optionalError(error));
     };
@@ -131,7 +131,7 @@ void UserNotificationCenter::addNotificationRequest(const NotificationRequest& r
             handler(noCenter());
             return;
         }
-        // As above.
+        // See requestAuthorization.
         void (^const completion)(NSError*) = ^(NSError* error) {
           handler(optionalError(error));
         };

@@ -1,4 +1,4 @@
-// Finder.
+// Finder, by NSWorkspace.
 // SPDX-License-Identifier: MIT
 #import "platform/macos/Workspace.h"
 
@@ -10,7 +10,7 @@
 namespace brisel::platform::macos {
 
 void Workspace::openURL(const std::optional<FileURL>& url) {
-    // Also for none: whether the system then answers no or raises an exception, nothing opens.
+    // A nil URL opens nothing, whether NSWorkspace returns NO or raises an exception.
     guarded("open a folder", [&] { [[NSWorkspace sharedWorkspace] openURL:nsURL(url)]; });
 }
 
