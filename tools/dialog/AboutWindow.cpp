@@ -1,4 +1,4 @@
-// The about box.
+// The About window.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/Faces.h"
 #include "tools/dialog/Session.h"
@@ -15,7 +15,7 @@ GtkWidget* newCenteredLabel(const char* text) {
 }
 
 GtkWidget* newCloseButton(Session& session) {
-    // GTK has this word in the user's language.
+    // GTK's own translation.
     auto* button = gtk_button_new_with_mnemonic(g_dgettext("gtk30", "_Close"));
     gtk_widget_set_can_default(button, TRUE);
     gtk_widget_set_halign(button, GTK_ALIGN_CENTER);

@@ -1,4 +1,4 @@
-// The alert: a message, what there is to know about it, and buttons.
+// The alert window: message, informative text and buttons.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/Faces.h"
 #include "tools/dialog/Session.h"
@@ -39,7 +39,7 @@ GtkWidget* newButton(const std::string& title) {
     return button;
 }
 
-/// Side by side, the default one at the right; one below the other, it on top, if that is too wide.
+/// Horizontal with the default button at the right, or vertical with it on top if that is too wide.
 GtkOrientation orientationFor(const std::vector<GtkWidget*>& buttons) {
     constexpr double Room = 0.8;
     int width = 0;
@@ -72,13 +72,13 @@ GtkWindow* newAlertWindow() {
     gtk_window_set_modal(window, TRUE);
     gtk_window_set_keep_above(window, TRUE);
     gtk_window_set_skip_taskbar_hint(window, FALSE);
-    // The hint is lost on a window that is not there yet.
+    // An unrealized window would lose the urgency hint.
     gtk_widget_realize(GTK_WIDGET(window));
     gtk_window_set_urgency_hint(window, TRUE);
     return window;
 }
 
-/// What assistive technology reads out when the window appears.
+/// Sets what assistive technology reads out when the window appears.
 void describe(GtkWindow* window, const AlertRequest& request) {
     auto* accessible = gtk_widget_get_accessible(GTK_WIDGET(window));
     atk_object_set_role(accessible, ATK_ROLE_ALERT);

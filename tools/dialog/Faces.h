@@ -10,16 +10,15 @@
 
 namespace brisel::dialog {
 
-// Each shows its window until it is answered or closed; on the main thread, once GTK is there.
+// Each blocks until its window is answered or closed. Main thread, with GTK initialized.
 
-/// A message with buttons; Enter presses the first, which stands last. The answer is a button's
-/// number from 0, in the order of the request.
+/// Enter presses the first button. Returns the index of the pressed button.
 Answer showAlert(const AlertRequest& request);
 
-/// What the program is. There is no answer but that it was closed.
+/// Returns no answer.
 Answer showAbout();
 
-/// The entries one below the other. The answer is the chosen item's ID.
+/// Returns the ID of the chosen item.
 Answer showMenu(const MenuRequest& request, const std::vector<MenuEntry>& entries);
 
 }  // namespace brisel::dialog

@@ -1,4 +1,4 @@
-// The menu that `brisel-dialog` reads from its standard input.
+// Parses the menu on brisel-dialog's standard input.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/MenuLines.h"
 

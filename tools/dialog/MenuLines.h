@@ -1,4 +1,4 @@
-// The menu that `brisel-dialog` reads from its standard input.
+// Parses the menu on brisel-dialog's standard input.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,18 +13,18 @@ namespace brisel::dialog {
 enum class EntryKind { Item, CheckedItem, Text, Separator };
 
 struct MenuEntry {
-    /// As it was given, byte by byte.
+    /// The bytes as given.
     std::string id;
     EntryKind kind = EntryKind::Item;
-    /// Can be shown as it is.
+    /// Sanitized by lineOf.
     std::string title;
 };
 
-/// The entry of a line ID<TAB>KIND<TAB>TITLE, without its line end. Nothing for any other line, and
-/// for an item that could not be told from others or be seen: without an ID or a title.
+/// Parses ID<TAB>KIND<TAB>TITLE, without a newline. nullopt for any other line, and for an item
+/// without ID or title.
 std::optional<MenuEntry> entryFrom(std::string_view line);
 
-/// The entries of all lines until the end, without lines that are none.
+/// Reads entries to end of file; skips malformed lines.
 std::vector<MenuEntry> readEntries(std::istream& lines);
 
 }  // namespace brisel::dialog

@@ -1,4 +1,4 @@
-// The menu as a window, for desktops that have no place for it.
+// The status menu as a window, for desktops without a tray.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/Faces.h"
 #include "tools/dialog/Session.h"
@@ -17,7 +17,7 @@ GtkWidget* newTitle(const std::string& title) {
     return label;
 }
 
-/// Its mark says enough; themes would have it look selected.
+/// Suppresses the theme's checked style.
 void hideFrame(GtkWidget* button) {
     constexpr auto* Style =
         "button:checked:not(:hover) {"
@@ -30,7 +30,7 @@ void hideFrame(GtkWidget* button) {
     g_object_unref(provider);
 }
 
-/// A switch that is on: it tells that to assistive technology.
+/// A toggle button, so that assistive technology reports it as checked.
 GtkWidget* newCheckedButton() {
     auto* button = gtk_toggle_button_new();
     gtk_toggle_button_set_active(GTK_TOGGLE_BUTTON(button), TRUE);
@@ -55,7 +55,7 @@ GtkWidget* newItem(const MenuEntry& entry) {
 }
 
 GtkWidget* newText(const std::string& title) {
-    // Where an item's text begins in GTK's own theme.
+    // Aligns with the items' titles in GTK's default theme.
     constexpr int Padding = 10;
     auto* label = newTitle(title);
     gtk_widget_set_sensitive(label, FALSE);

@@ -1,4 +1,4 @@
-// What `brisel-dialog` tells the program that started it.
+// Lines that `brisel-dialog` writes to its parent process.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/Protocol.h"
 
@@ -10,7 +10,7 @@
 
 namespace brisel::dialog {
 
-// Brisel reads these words in platform/desktop/DialogProcess.cpp.
+// Parsed by platform/desktop/DialogProcess.cpp.
 std::string shownLine() {
     return "shown\n";
 }

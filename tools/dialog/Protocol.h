@@ -1,4 +1,4 @@
-// What `brisel-dialog` tells the program that started it.
+// Lines that `brisel-dialog` writes to its parent process.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,16 +7,15 @@
 
 namespace brisel::dialog {
 
-/// What was chosen: a button's number from 0, or an item's ID. Nothing if the window was closed.
+/// Index of the pressed button or ID of the chosen item; nullopt if the window was closed.
 using Answer = std::optional<std::string>;
 
-/// The line for a window that is on the screen.
+/// Written once the window is on screen.
 std::string shownLine();
-/// The line for a window's end.
+/// Written when the window ends.
 std::string answerLine(const Answer& answer);
 
-/// Writes the line to standard output, at once and as a whole. If there is nobody to read it, the
-/// process ends.
+/// Writes the whole line to standard output, unbuffered. Exits the process if it cannot be written.
 void tell(const std::string& line);
 
 }  // namespace brisel::dialog

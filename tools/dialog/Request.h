@@ -12,26 +12,25 @@ namespace brisel::dialog {
 
 struct AlertRequest {
     std::string message;
-    /// May be empty, and may hold line ends.
+    /// May be empty and contain newlines.
     std::string informative;
-    /// Titles from the default button on; never empty.
+    /// Titles, the default button's first; never empty.
     std::vector<std::string> buttons;
 };
 
 struct AboutRequest {};
 
-/// Its entries come by standard input.
+/// The entries come from standard input.
 struct MenuRequest {
     std::string title;
 };
 
 using Request = std::variant<AlertRequest, AboutRequest, MenuRequest>;
 
-/// What the arguments, without the program's name, ask for; its texts can be shown as they are.
-/// Nothing if they ask for nothing that is known.
+/// Parses the arguments without the program's name, and sanitizes their texts. nullopt if
+/// malformed.
 std::optional<Request> requestFrom(std::span<const char* const> words);
 
-/// How the program is used, in lines.
 extern const char* const Usage;
 
 }  // namespace brisel::dialog

@@ -1,4 +1,4 @@
-// One window's time on the screen.
+// Shows one window until it is answered or closed.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/Session.h"
 
@@ -46,7 +46,7 @@ void Session::choose(gpointer choice) {
 
 gboolean Session::tellShown(gpointer session) {
     auto* self = static_cast<Session*>(session);
-    // It may be minimised and shown again.
+    // Restoring a minimised window maps it again.
     if (!self->isShown_) tell(shownLine());
     self->isShown_ = true;
     return GDK_EVENT_PROPAGATE;
@@ -54,7 +54,7 @@ gboolean Session::tellShown(gpointer session) {
 
 gboolean Session::close(gpointer /*session*/) {
     gtk_main_quit();
-    // The window is destroyed with the session, not by GTK.
+    // Stops GTK from destroying the window; the destructor does it.
     return GDK_EVENT_STOP;
 }
 

@@ -1,4 +1,4 @@
-// One window's time on the screen.
+// Shows one window until it is answered or closed.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -14,19 +14,19 @@ namespace brisel::dialog {
 /// Main thread only.
 class Session {
   public:
-    /// Owns the window from now on. Escape and closing the window end the session.
+    /// Takes ownership of the window. Escape and closing it end the session.
     explicit Session(GtkWindow* window);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
     ~Session();
 
-    /// Lets a click on the button end the session with this answer.
+    /// A click on `button` ends the session with `answer`.
     void answerWith(GtkButton* button, std::string answer);
-    /// Lets a click on the button close the window.
+    /// A click on `button` ends the session without an answer.
     void closeWith(GtkButton* button);
 
-    /// Shows the window, tells so when it is on the screen, and returns how the session ended. It
-    /// ends the process if whoever reads its standard output goes away.
+    /// Shows the window, writes shownLine once it is on screen, and returns the answer. Exits the
+    /// process if the reader of standard output goes away.
     Answer run();
 
   private:
@@ -42,7 +42,7 @@ class Session {
     static gboolean endAlone(gint output, GIOCondition condition, gpointer data);
 
     GtkWindow* window_;
-    /// Their addresses are handed out.
+    /// A deque, because signal handlers hold the elements' addresses.
     std::deque<Choice> choices_;
     Answer answer_;
     bool isShown_ = false;

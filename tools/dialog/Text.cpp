@@ -1,4 +1,4 @@
-// Texts of others, made fit to be shown.
+// Sanitizes untrusted text for display.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/Text.h"
 
@@ -17,7 +17,8 @@ struct GFree {
 
 using OwnedText = std::unique_ptr<char, GFree>;
 
-/// The embeddings, overrides and isolates: a volume's name could turn the sentence around it.
+/// Bidirectional embeddings, overrides and isolates, by which a volume's name could reorder the
+/// text around it.
 bool turnsDirection(gunichar letter) {
     constexpr gunichar FirstEmbedding = 0x202a;
     constexpr gunichar LastOverride = 0x202e;

@@ -1,4 +1,4 @@
-// Texts of others, made fit to be shown.
+// Sanitizes untrusted text for display.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -7,15 +7,15 @@
 
 namespace brisel::dialog {
 
-/// The bytes as valid UTF-8 without control characters but line ends. What cannot be shown, and
-/// what would turn the order of the letters around it, becomes U+FFFD; tabs become spaces.
+/// Returns valid UTF-8 whose only control characters are newlines. Invalid bytes, control
+/// characters and bidirectional controls become U+FFFD; tabs, carriage returns and Unicode line
+/// separators become spaces.
 std::string textOf(std::string_view bytes);
 
-/// The same in one line: line ends become spaces.
+/// textOf, with spaces for newlines.
 std::string lineOf(std::string_view bytes);
 
-/// The first letters of a text, valid UTF-8, with an ellipsis in place of what exceeds
-/// `mostLetters`.
+/// Cuts a text, valid UTF-8, to `mostLetters` characters; if cut, the last is an ellipsis.
 std::string shortened(const std::string& text, std::size_t mostLetters);
 
 }  // namespace brisel::dialog

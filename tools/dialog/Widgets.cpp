@@ -1,4 +1,4 @@
-// What the windows have in common.
+// Widgets shared by the windows.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/Widgets.h"
 
@@ -11,7 +11,7 @@ namespace brisel::dialog {
 
 namespace {
 
-/// Keys scroll what has the focus; what is all to be seen needs none.
+/// Makes the scroller focusable, and so scrollable by keys, only if its content overflows.
 void letFocusIfThereIsMore(GtkAdjustment* adjustment, gpointer scroller) {
     const bool isMore =
         gtk_adjustment_get_upper(adjustment) > gtk_adjustment_get_page_size(adjustment);
@@ -53,7 +53,7 @@ GtkLabel* newWrappedLabel(const std::string& text) {
     constexpr int MostLetters = 60;
     constexpr double RoomForText = 0.7;
     constexpr int WidthOfLetter = 9;
-    // Laying out a text costs time, and nobody reads more than this in a window.
+    // Bounds the layout time of long texts.
     constexpr std::size_t LongestText = 2000;
     auto* label = GTK_LABEL(gtk_label_new(shortened(text, LongestText).c_str()));
     gtk_label_set_line_wrap(label, TRUE);

@@ -1,4 +1,4 @@
-// What the windows have in common.
+// Widgets shared by the windows.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,33 +8,32 @@
 
 namespace brisel::dialog {
 
-/// The name under which the program's icon is looked up.
+/// The icon's name in the theme.
 inline constexpr const char* IconName = "org.brisel.Brisel";
 
-/// The space between things that belong together, in pixels; what does not has twice that.
+/// Space between related widgets in pixels; groups are twice that apart.
 inline constexpr int Gap = 12;
 
-/// A window in the middle of the screen that takes no more of it than its content needs.
+/// Centred, as large as its content, not resizable.
 GtkWindow* newWindow(const std::string& title);
 
-/// Part of the smallest monitor's height or width, in pixels.
+/// partOfScreen returns `part` (0 to 1) of this side of the smallest monitor's work area, in
+/// pixels.
 enum class Side { Width, Height };
 int partOfScreen(Side side, double part);
 
-/// A box with its children one below the other.
 GtkBox* newColumn(int spacing);
 void append(GtkBox* box, GtkWidget* child);
 
-/// A text in lines no longer than fits the screen.
+/// A label that wraps to fit the screen, and is cut if very long.
 GtkLabel* newWrappedLabel(const std::string& text);
 
-/// Makes it bold and somewhat larger.
 void makeHeading(GtkLabel* label);
 
-/// A frame that grows with its content as far as the screen has room, and scrolls from there on.
+/// Grows with its content to part of the screen's height, then scrolls.
 GtkWidget* newScroller(GtkWidget* content);
 
-/// The program's icon, or the `other` one where it is not installed.
+/// Brisel's icon, or the icon `other` if that is not installed.
 GtkWidget* newIcon(const char* other);
 
 }  // namespace brisel::dialog

@@ -1,4 +1,4 @@
-// `brisel-dialog`: shows a window for Brisel, and tells what was chosen.
+// `brisel-dialog`: shows a window for Brisel and writes the user's choice.
 // SPDX-License-Identifier: MIT
 #include <gtk/gtk.h>
 
@@ -16,12 +16,12 @@ using namespace brisel::dialog;
 enum ExitStatus { Succeeded = 0, Misused = 2, NoDisplay = 3 };
 
 bool openDisplay() {
-    // Nothing here opens files, and GTK would start a service for those of the network.
+    // Keeps GIO from starting gvfs, which is not needed.
     g_setenv("GIO_USE_VFS", "local", TRUE);
-    // By this name a desktop finds the program's entry, and its icon.
+    // Desktops match the window to its desktop entry by this name.
     g_set_prgname(IconName);
     g_set_application_name("Brisel");
-    // The arguments are ours alone: a text that looks like an option of GTK is a text.
+    // Passes no arguments: GTK would take a text that looks like one of its options.
     if (gtk_init_check(nullptr, nullptr) == FALSE) return false;
     gtk_window_set_default_icon_name(IconName);
     return true;

@@ -1,4 +1,4 @@
-// The one command line that the tool understands.
+// Parses the mount tool's command line.
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/CommandLine.h"
 
@@ -40,7 +40,7 @@ std::optional<Refusal> complaintAboutOptions(std::string_view options) {
     return std::nullopt;
 }
 
-// Not by isalnum: what a letter is must not depend on a locale.
+// Not isalnum, which depends on the locale.
 bool belongsToDeviceName(char character) {
     return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
            (character >= '0' && character <= '9') ||

@@ -1,4 +1,4 @@
-// The one command line that the tool understands: -o OPTIONS DEVICE MOUNTPOINT.
+// Parses the mount tool's command line: -o OPTIONS DEVICE MOUNTPOINT.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,16 +11,15 @@ namespace brisel::mounttool {
 
 struct Request {
     std::string device;      ///< `/dev/` and one component of [A-Za-z0-9._-].
-    std::string mountPoint;  ///< Absolute; still to be held against the home folder.
+    std::string mountPoint;  ///< Absolute; not yet checked against the home folder.
 };
 
-/// Reads the arguments of `main`. Everything that is not known and needed is refused: options
-/// doubled, empty or without `rw`, arguments missing, extra, or of PATH_MAX bytes and more. Touches
-/// nothing but its arguments.
+/// Parses main's arguments. Refuses unknown, repeated and empty options, options without `rw`,
+/// missing and extra arguments, and arguments of PATH_MAX bytes or more. Has no side effects.
 Result<Request> parseCommandLine(int argumentCount, const char* const* arguments);
 
-/// The last component of a mount point that is exactly HOME/.brisel/LABEL, or a refusal. A label is
-/// 1 to NAME_MAX bytes without a slash or control character, and neither `.` nor `..`.
+/// Returns LABEL if `mountPoint` is HOME/.brisel/LABEL, else a refusal. LABEL is 1 to NAME_MAX
+/// bytes without slashes and control characters, and not `.` or `..`.
 Result<std::string> labelOf(std::string_view mountPoint, std::string_view home);
 
 }  // namespace brisel::mounttool

@@ -1,4 +1,4 @@
-// A file descriptor that closes itself.
+// Owns a file descriptor.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,7 +10,7 @@ namespace brisel::mounttool {
 
 class Descriptor {
   public:
-    /// Takes over what open and its like returned, -1 included.
+    /// Takes over an open descriptor, or -1.
     explicit Descriptor(int number) : number_(number) {}
     Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
     Descriptor& operator=(Descriptor&&) = delete;
@@ -22,7 +22,7 @@ class Descriptor {
 
     [[nodiscard]] bool isOpen() const { return number_ >= 0; }
     [[nodiscard]] int number() const { return number_; }
-    /// Leaves it to somebody else to close.
+    /// Passes ownership to the caller.
     int release() { return std::exchange(number_, -1); }
 
   private:

@@ -1,4 +1,4 @@
-// The NTFS driver: ntfs-3g and the probe that comes with it.
+// Runs the NTFS driver ntfs-3g and its probe.
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/Driver.h"
 
@@ -41,12 +41,13 @@ constexpr std::array Meanings{
 constexpr std::array ProbePaths{"/usr/bin/ntfs-3g.probe", "/bin/ntfs-3g.probe"};
 constexpr std::array DriverPaths{"/usr/bin/ntfs-3g", "/bin/ntfs-3g"};
 
-// Missing, or taken out of use.
+// Missing, or disabled by its permissions.
 bool isAbsent(int error) {
     return error == ENOENT || error == EACCES;
 }
 
-// The first of the paths that is there; none, with `errno`, where none is or it cannot be started.
+// Runs the first program of `paths` that exists, and prints its output. nullopt, with errno, if
+// none exists or it cannot be started.
 template <typename Paths>
 std::optional<Ended> runFirst(const Paths& paths, const std::vector<std::string>& arguments) {
     for (const char* const path : paths) {
@@ -69,7 +70,7 @@ std::string optionsFor(const Person& person) {
 
 std::optional<Refusal> probe(const std::string& device) {
     const auto ended = runFirst(ProbePaths, {"--readwrite", device});
-    // A driver that came without its probe judges the volume when it mounts it.
+    // Without a probe the driver checks the volume when it mounts it.
     if (!ended && isAbsent(errno)) return std::nullopt;
     if (!ended) return refuseByError("The probe ntfs-3g.probe cannot be started");
     if (ended->status == 0) return std::nullopt;

@@ -1,4 +1,4 @@
-// The NTFS driver: ntfs-3g and the probe that comes with it.
+// Runs the NTFS driver ntfs-3g and its probe.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,19 +10,18 @@
 
 namespace brisel::mounttool {
 
-/// What the driver's programs print goes to standard output. All of it blocks until they end.
+/// The programs' output goes to standard output. The calls block until they end.
 
-/// Asks whether the volume can be mounted read-write, without writing to it; none if so, or if
-/// there is no probe to ask. The refusal's status is the probe's.
+/// Checks, without writing to it, whether the volume can be mounted read-write. nullopt if so, or
+/// if no probe is installed.
 std::optional<Refusal> probe(const std::string& device);
 
-/// Mounts the device read-write on the folder, its files the person's own and closed to others.
-/// Nothing is forced: the journal is left as it is, and a hibernated volume too. None says that the
-/// driver claims success, which is still to be seen.
+/// Mounts the device read-write on `folder`, accessible to `person` only. Never clears a journal or
+/// a hibernation file. nullopt means that the driver reports success, which the caller must verify.
 std::optional<Refusal> mountWithDriver(const std::string& device, const std::string& folder,
                                        const Person& person);
 
-/// The refusal for what ntfs-3g or its probe ended with, other than 0.
+/// Refusal for a non-zero exit status of ntfs-3g or its probe.
 Refusal refusalFor(int driverStatus);
 
 }  // namespace brisel::mounttool

@@ -1,4 +1,4 @@
-// A mount on its way.
+// Mounts a volume on a private folder, verifies it, and attaches it to the user's folder.
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/Mount.h"
 
@@ -19,8 +19,8 @@
 
 namespace brisel::mounttool {
 
-// Root's alone; goes with whatever is mounted on it. A mount cloned from there stays. Brisel knows
-// the beginning of its name, and takes no notice of what is mounted there.
+// Accessible to root only. Removed together with its mount, but not with a clone of that. Brisel
+// ignores mounts in folders with this prefix.
 class Mount::StagingFolder {
   public:
     StagingFolder() {
@@ -34,7 +34,7 @@ class Mount::StagingFolder {
         rmdir(path_.c_str());
     }
 
-    /// Empty where there is none.
+    /// Empty if it could not be created.
     [[nodiscard]] const std::string& path() const { return path_; }
 
   private:
@@ -53,13 +53,13 @@ Refusal disbelieved(const std::string& sentence) {
     return {Unknown, sentence};
 }
 
-// The name that is free tells nobody anything; one that is taken is not touched.
+// Creates a new file; never touches an existing one.
 bool canCreateFiles(int root) {
     const auto name = ".brisel-" + std::to_string(getpid());
     const Descriptor file(openat(root, name.c_str(),
                                  O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                                  S_IRUSR | S_IWUSR));
-    // Room can be made on a full volume.
+    // A full volume is still writable: files can be deleted.
     if (!file.isOpen()) return errno == ENOSPC || errno == EDQUOT;
     return unlinkat(root, name.c_str(), 0) == 0;
 }

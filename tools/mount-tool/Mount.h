@@ -1,4 +1,4 @@
-// A mount on its way: made where nobody else can reach, checked, and put on a person's folder.
+// Mounts a volume on a private folder, verifies it, and attaches it to the user's folder.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -14,8 +14,8 @@ namespace brisel::mounttool {
 
 class Mount {
   public:
-    /// Lets the driver mount the device on a private folder below /run. With the object that folder
-    /// goes, and unless `putOn` has succeeded the volume is unmounted.
+    /// Mounts the device on a private folder below /run. The destructor removes that folder, and
+    /// unmounts the volume unless putOn has succeeded.
     static Result<Mount> make(const NTFSDevice& device, const Person& person);
 
     Mount(Mount&&) noexcept;
@@ -24,12 +24,12 @@ class Mount {
     Mount& operator=(const Mount&) = delete;
     ~Mount();
 
-    /// Why this is not the read-write mount of the device that was asked for, or none. Does not
-    /// rely on anything that the driver says; makes and removes a file on the volume.
+    /// Verifies that this is a read-write mount of `device`, without trusting the driver; creates
+    /// and removes a file. nullopt if so, else the reason.
     [[nodiscard]] std::optional<Refusal> complaintAs(const NTFSDevice& device) const;
 
-    /// Attaches the mount to the folder. If that, by then, is not where its path leads, the volume
-    /// is unmounted and the refusal says so.
+    /// Attaches the mount to `folder`. If the folder's path leads elsewhere by then, unmounts the
+    /// volume and refuses.
     [[nodiscard]] std::optional<Refusal> putOn(const MountFolder& folder,
                                                const NTFSDevice& device) const;
 
@@ -38,7 +38,7 @@ class Mount {
 
     Mount(std::unique_ptr<StagingFolder> staging, Descriptor tree);
 
-    // Stays until the end, so that whoever watches the mounts never sees the volume unmounted.
+    // Kept until the end, so that observers of mountinfo never see the volume unmounted.
     std::unique_ptr<StagingFolder> staging_;
     Descriptor tree_;
 };

@@ -1,4 +1,4 @@
-// The kernel's calls to take a mount from one place and put it in another.
+// Wraps open_tree(2) and move_mount(2).
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/MountCalls.h"
 
@@ -9,7 +9,7 @@
 
 namespace brisel::mounttool {
 
-// By number: older C libraries do not know these calls.
+// By number, because older C libraries lack wrappers.
 int cloneMount(const char* path) {
     constexpr unsigned Flags = OPEN_TREE_CLONE | OPEN_TREE_CLOEXEC | AT_SYMLINK_NOFOLLOW;
     return static_cast<int>(syscall(SYS_open_tree, AT_FDCWD, path, Flags));

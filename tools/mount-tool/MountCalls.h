@@ -1,14 +1,14 @@
-// The kernel's calls to take a mount from one place and put it in another, by descriptors.
+// Wraps open_tree(2) and move_mount(2).
 // SPDX-License-Identifier: MIT
 #pragma once
 
 namespace brisel::mounttool {
 
-/// A descriptor of a copy of the mount at `path` that is attached nowhere; -1 with `errno`. Closing
-/// it unmounts the copy unless it has been attached.
+/// Returns a descriptor of a detached clone of the mount at `path`; -1 with errno on failure.
+/// Closing it unmounts the clone unless attached.
 int cloneMount(const char* path);
 
-/// Attaches such a copy to an open folder; 0, or -1 with `errno`.
+/// Attaches a clone to an open folder. Returns 0, or -1 with errno.
 int attachMount(int mount, int folder);
 
 }  // namespace brisel::mounttool

@@ -1,4 +1,4 @@
-// The empty folder in a person's home that a volume is to appear on.
+// The mount point, an empty folder in the user's HOME/.brisel.
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/MountFolder.h"
 
@@ -32,8 +32,8 @@ std::optional<struct statx> factsOf(int folder) {
     return facts;
 }
 
-// Kernels before 5.8 know no mount ids; there the file system has to do. None, with `errno`, where
-// one of them cannot be examined.
+// True if both are on the same mount. Kernels before 5.8 report no mount ID; there compares only
+// the file systems. nullopt, with errno, on failure.
 std::optional<bool> isPlainFolderOf(int parent, int folder) {
     const auto outer = factsOf(parent);
     if (!outer) return std::nullopt;
@@ -45,14 +45,14 @@ std::optional<bool> isPlainFolderOf(int parent, int folder) {
            inner->stx_dev_minor == outer->stx_dev_minor;
 }
 
-// None, with `errno`, where it cannot be listed.
+// nullopt, with errno, on failure.
 std::optional<bool> isEmpty(int folder) {
-    // A second descriptor, because reading takes it over.
+    // A second descriptor, because fdopendir takes it over.
     Descriptor list(openat(folder, ".", Folder));
     if (!list.isOpen()) return std::nullopt;
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(fdopendir(list.number()), &closedir);
     if (!entries) return std::nullopt;
-    // The list of entries closes it from here on.
+    // closedir closes it.
     list.release();
     errno = 0;
     while (const dirent* const entry = readdir(entries.get())) {

@@ -1,4 +1,4 @@
-// The empty folder in a person's home that a volume is to appear on.
+// The mount point, an empty folder in the user's HOME/.brisel.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -13,16 +13,15 @@
 
 namespace brisel::mounttool {
 
-/// Holds the folder by descriptors: what its path names later on no longer matters.
+/// Holds descriptors, so that later changes of the path do not matter.
 class MountFolder {
   public:
-    /// Opens HOME, .brisel and the label one after the other, no link followed below HOME. Each
-    /// must belong to the person; the last must be empty, no mount point, and on .brisel's file
-    /// system.
+    /// Opens HOME, .brisel and LABEL in turn, and follows no link below HOME. Each must belong to
+    /// `person`. LABEL must be empty, not a mount point, and on .brisel's file system.
     static Result<MountFolder> open(const Person& person, const std::string& label);
 
     [[nodiscard]] int descriptor() const { return folder_.number(); }
-    /// Whether HOME/.brisel/LABEL is, at this moment, the root of the file system of that number.
+    /// True if HOME/.brisel/LABEL is now on the file system with this st_dev.
     [[nodiscard]] bool shows(dev_t fileSystem) const;
 
   private:

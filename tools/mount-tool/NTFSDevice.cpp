@@ -25,7 +25,7 @@ std::optional<dev_t> blockDeviceNumber(int descriptor) {
     return facts.st_rdev;
 }
 
-// None, with `errno`, where the device cannot be read.
+// nullopt, with errno, if the device cannot be read.
 std::optional<bool> startsAsNTFS(int device) {
     std::array<char, SectorSize> sector{};
     const auto length = pread(device, sector.data(), sector.size(), 0);
@@ -39,7 +39,7 @@ std::optional<bool> startsAsNTFS(int device) {
 }  // namespace
 
 Result<NTFSDevice> NTFSDevice::open(const std::string& path) {
-    // O_PATH first: merely to open some devices, a watchdog or a tape, has consequences.
+    // O_PATH first: opening some devices, such as a watchdog or a tape, has side effects.
     const Descriptor look(::open(path.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
     if (!look.isOpen()) return refuseByError("The device cannot be found");
     const auto number = blockDeviceNumber(look.number());

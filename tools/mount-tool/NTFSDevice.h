@@ -12,15 +12,15 @@
 
 namespace brisel::mounttool {
 
-/// Keeps the device open, so that its number stays with it.
+/// Keeps the device open, so that its number is not reused.
 class NTFSDevice {
   public:
-    /// Opens the device for reading; a link, anything but a block device, and a block device
-    /// without the marks of an NTFS boot sector are refused. Writes nothing.
+    /// Opens the device read-only. Refuses links, anything but block devices, and block devices
+    /// without an NTFS boot sector.
     static Result<NTFSDevice> open(const std::string& path);
 
     [[nodiscard]] const std::string& path() const { return path_; }
-    /// The device's number, which is the `st_dev` of a file system mounted from it.
+    /// Device number, the st_dev of a file system mounted from it.
     [[nodiscard]] dev_t number() const { return number_; }
 
   private:

@@ -1,4 +1,4 @@
-// The person who asked for the mount.
+// The user who requested the mount.
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/Person.h"
 
@@ -18,12 +18,12 @@ std::optional<uid_t> parseUID(std::string_view text) {
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, uid);
     if (error != std::errc() || stop != end || uid == NoUser) return std::nullopt;
-    // Rules out leading zeros; signs and blanks are no digits to from_chars.
+    // Rejects leading zeros; from_chars rejects signs and blanks.
     if (std::to_string(uid) != text) return std::nullopt;
     return uid;
 }
 
-// Some databases of users end it in one.
+// Some user databases end a home folder with a slash.
 std::string withoutLastSlash(std::string folder) {
     while (folder.size() > 1 && folder.ends_with('/'))
         folder.pop_back();

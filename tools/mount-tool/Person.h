@@ -1,4 +1,4 @@
-// The person who asked for the mount.
+// The user who requested the mount.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -16,9 +16,8 @@ struct Person {
     std::string home;  ///< Absolute.
 };
 
-/// Who asked, by the value of PKEXEC_UID: decimal digits without leading zeros, of a user that
-/// exists and has a home folder. A null pointer stands for an absent variable: root itself asked.
-/// Asks the system's user database; for the main thread.
+/// Looks up the user of PKEXEC_UID, decimal digits without leading zeros. Null (unset) is root.
+/// Refuses unknown users and users without a home folder. Not thread-safe: uses getpwuid.
 Result<Person> whoAsked(const char* pkexecUID);
 
 }  // namespace brisel::mounttool

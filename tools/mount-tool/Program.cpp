@@ -1,4 +1,4 @@
-// One program run to its end, in surroundings of ours.
+// Runs a program to its end in a clean environment.
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/Program.h"
 
@@ -23,8 +23,8 @@ namespace {
 
 constexpr std::size_t OutputLimit = 65536;
 
-// A file in memory, not a pipe: it never makes the program wait, and nobody has to wait for
-// whatever the program leaves in the background to close it. The seals keep it at its size.
+// A memfd, not a pipe: the program never blocks on it, and its background processes need not close
+// it. The seals fix its size.
 Descriptor openOutput() {
     Descriptor output(memfd_create("output", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     const bool bounded = output.isOpen() && ftruncate(output.number(), OutputLimit) == 0 &&
@@ -33,7 +33,7 @@ Descriptor openOutput() {
 }
 
 std::string textIn(const Descriptor& output) {
-    // Shared with the program, the position is behind what it wrote.
+    // The offset, shared with the program, is the end of its output.
     const off_t end = lseek(output.number(), 0, SEEK_CUR);
     const auto size = std::clamp<off_t>(end, 0, OutputLimit);
     std::string text(static_cast<std::size_t>(size), '\0');
@@ -42,7 +42,7 @@ std::string textIn(const Descriptor& output) {
     return withoutControlCharacters(text);
 }
 
-// How the program starts; both parts are the C library's and are destroyed together.
+// File actions and attributes for posix_spawn.
 class StartConditions {
   public:
     explicit StartConditions(int output) {
@@ -91,8 +91,7 @@ int exitStatusOf(pid_t process) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-// In UTF-8 the control characters U+0080 to U+009F, which some terminals obey, are a byte of their
-// own and one of these.
+// True if the second byte completes a C1 control, U+0080 to U+009F; some terminals obey these.
 bool isFurtherControl(std::string_view text) {
     constexpr unsigned char First = 0x80;
     constexpr unsigned char Last = 0x9F;

@@ -1,4 +1,4 @@
-// One program run to its end, in surroundings of ours.
+// Runs a program to its end in a clean environment.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -9,18 +9,17 @@
 namespace brisel::mounttool {
 
 struct Ended {
-    int status = 0;  ///< Its exit status; -1 when a signal ended it.
-    /// What it wrote to both streams, up to 64 KiB; anything but printable bytes and line ends
-    /// replaced by question marks.
+    int status = 0;  ///< Exit status; -1 if a signal ended it.
+    /// Standard output and error, up to 64 KiB, by withoutControlCharacters.
     std::string output;
 };
 
-/// Runs a program with these arguments, its environment a PATH and LC_ALL=C, its input empty, its
-/// signals as if nobody had touched them, in a session of its own. Blocks until it ends, however
-/// long what it leaves in the background runs on. None, with `errno`, where it cannot be started.
+/// Runs `path` in a new session, with only PATH and LC_ALL=C in its environment, /dev/null as input
+/// and default signal handling. Blocks until it ends, but not for its background processes.
+/// nullopt, with errno, if it cannot be started.
 std::optional<Ended> run(const std::string& path, const std::vector<std::string>& arguments);
 
-/// Text fit for a log: control characters other than line ends become question marks.
+/// Replaces control characters other than newlines by question marks.
 std::string withoutControlCharacters(std::string text);
 
 }  // namespace brisel::mounttool

@@ -1,4 +1,4 @@
-// A value, or the refusal that stands in its place.
+// A value or a refusal.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,11 +10,11 @@
 
 namespace brisel::mounttool {
 
-/// How the tool ends. The numbers from 11 on are ntfs-3g's own; what it reports beyond these passes
-/// for Unknown. 126 and 127 are left to pkexec.
+/// Exit statuses. Those from 11 on are ntfs-3g's; any other of ntfs-3g's becomes Unknown. 126 and
+/// 127 are pkexec's.
 enum ExitStatus : int {
     Mounted = 0,       ///< The volume is mounted read-write on the folder.
-    Refused = 1,       ///< The request, who made it, the folder or this machine is not fit for it.
+    Refused = 1,       ///< Invalid request, user or folder, or unsuitable system.
     SyntaxError = 11,  ///< The driver did not understand its arguments.
     NotNTFS = 12,
     Inconsistent = 13,
@@ -22,24 +22,22 @@ enum ExitStatus : int {
     NotCleanlyUnmounted = 15,
     InUse = 16,
     RAID = 17,
-    Unknown = 18,  ///< Also: the driver says it mounted the volume, but it is not so.
+    Unknown = 18,  ///< Also: the driver reports success, but the mount is wrong.
     NoPrivilege = 19,
     OutOfMemory = 20,
     FUSEError = 21,
 };
 
-/// Why the tool ends without a mount: its exit status, and a sentence for the one who asked.
 struct Refusal {
     int status = Refused;
     std::string sentence;
 };
 
-/// A refusal of the request.
 inline Refusal refuse(std::string sentence) {
     return {Refused, std::move(sentence)};
 }
 
-/// A refusal because of what the system said in `errno`: "SENTENCE: reason."
+/// Refusal with the message "SENTENCE: REASON." for an errno.
 inline Refusal refuseByError(const std::string& sentence, int error = errno) {
     return refuse(sentence + ": " + std::generic_category().message(error) + ".");
 }
@@ -51,10 +49,10 @@ class [[nodiscard]] Result {
     Result(Refusal refusal) : content_(std::move(refusal)) {}
 
     explicit operator bool() const { return std::holds_alternative<Value>(content_); }
-    /// Only where there is one.
+    /// Requires a value.
     Value& operator*() { return std::get<Value>(content_); }
     Value* operator->() { return &std::get<Value>(content_); }
-    /// Only where there is no value.
+    /// Requires a refusal.
     [[nodiscard]] const Refusal& refusal() const { return std::get<Refusal>(content_); }
 
   private:

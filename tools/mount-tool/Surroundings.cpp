@@ -1,4 +1,4 @@
-// What whoever starts the tool hands down to it.
+// Sanitizes the inherited process state.
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/Surroundings.h"
 
@@ -30,8 +30,8 @@ bool closeAllOthers() {
     return syscall(SYS_close_range, STDERR_FILENO + 1, UINT_MAX, 0) == 0;
 }
 
-// A mount is finished or undone, never left in the middle by Ctrl-C or somebody's alarm clock.
-// That children are waited for must not depend on the starter's handling of SIGCHLD either.
+// Blocks signals so that a mount is never half done. Resets SIGCHLD: if it is ignored, waitpid
+// fails.
 void blockSignals() {
     std::signal(SIGCHLD, SIG_DFL);
     sigset_t all;
@@ -39,9 +39,9 @@ void blockSignals() {
     sigprocmask(SIG_SETMASK, &all, nullptr);
 }
 
-// The driver lives on with them: a limit on its time would kill it while it writes.
+// The driver inherits the limits; a CPU limit would kill it while it writes.
 void liftLimits() {
-    // A stack without a limit would make the kernel lay out memory in the old, predictable way.
+    // An unlimited stack selects the legacy, predictable memory layout.
     constexpr rlim_t UsualStack = 8U << 20U;
     constexpr std::array Limits{
         std::pair{RLIMIT_CPU, RLIM_INFINITY},   std::pair{RLIMIT_RTTIME, RLIM_INFINITY},

@@ -1,4 +1,4 @@
-// What whoever starts the tool hands down to it: descriptors, signals, limits, environment.
+// Sanitizes the inherited process state: descriptors, signals, limits, environment.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -8,10 +8,9 @@
 
 namespace brisel::mounttool {
 
-/// Makes the process independent of how it was started, or says why it cannot: standard
-/// descriptors are open, all others closed, signals blocked, limits lifted as far as possible, the
-/// environment is empty, the working folder is `/` and new files are the owner's alone. For the
-/// start of `main`, while there is one thread and nothing is open.
+/// Opens the standard descriptors, closes all others, blocks signals, lifts resource limits, clears
+/// the environment, changes to `/` and sets umask 077. Returns a refusal on failure. Call first in
+/// main, while single-threaded.
 std::optional<Refusal> shakeOffSurroundings();
 
 }  // namespace brisel::mounttool

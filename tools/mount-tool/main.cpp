@@ -1,4 +1,4 @@
-// Mounts an NTFS volume read-write on a folder in ~/.brisel, as root, for the user who asked.
+// Mounts an NTFS volume read-write on a folder in ~/.brisel, as root for a user.
 // SPDX-License-Identifier: MIT
 #include <unistd.h>
 
@@ -18,7 +18,7 @@ namespace brisel::mounttool {
 
 namespace {
 
-// The request's own checks come first, and nothing is mounted before all of them have passed.
+// The checks of the request come first; nothing is mounted before they pass.
 std::optional<Refusal> mount(const Request& request, const char* pkexecUID) {
     auto person = whoAsked(pkexecUID);
     if (!person) return person.refusal();

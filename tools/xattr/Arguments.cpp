@@ -20,7 +20,7 @@ const char* const Usage =
 
 namespace {
 
-/// Takes a word such as `-cr`; says whether each of its letters is an option.
+/// Parses the letters of a word such as `-cr`; false if one is unknown.
 bool takeOptions(std::string_view letters, Arguments& arguments) {
     for (const char letter : letters) {
         if (letter == 'c') {

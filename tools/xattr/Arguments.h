@@ -18,11 +18,9 @@ struct Arguments {
     std::vector<std::string> paths;
 };
 
-/// What the arguments, without the program's name, ask for. Options end at the first path: what
-/// follows it is a path too, however it begins.
+/// Parses the arguments without the program's name. Options end at the first path.
 Arguments argumentsFrom(std::span<const char* const> words);
 
-/// How the program is used, in lines.
 extern const char* const Usage;
 
 }  // namespace brisel::xattr

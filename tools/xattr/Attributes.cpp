@@ -11,14 +11,14 @@ namespace brisel::xattr {
 
 namespace {
 
-/// The names, each with a zero byte behind it; `error` is an errno, or 0.
+/// Null-terminated names in a row. `error` is an errno, or 0.
 struct NameList {
     std::string names;
     int error = 0;
 };
 
-/// The kernel takes no attribute calls on a descriptor that was opened with O_PATH, but it does on
-/// this path, which leads to the very same file whatever happens to its name.
+/// fgetxattr and its like fail on O_PATH descriptors. This path leads to the open file even after a
+/// rename.
 std::string pathOf(const Descriptor& file) {
     return "/proc/self/fd/" + std::to_string(file.number());
 }
@@ -55,7 +55,7 @@ std::optional<std::string> removeUserAttributes(const Descriptor& file) {
         const std::string name = list.names.c_str() + start;
         start += name.size() + 1;
         if (!name.starts_with("user.") || removexattr(path.c_str(), name.c_str()) == 0) continue;
-        // Somebody else may have removed it meanwhile.
+        // Another process may have removed it.
         if (errno != ENODATA && !firstReason) firstReason = reasonFor(errno);
     }
     return firstReason;

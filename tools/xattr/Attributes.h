@@ -9,10 +9,9 @@
 
 namespace brisel::xattr {
 
-/// Removes every attribute of the namespace `user.` from what the descriptor stands for, which may
-/// have been opened with O_PATH. One that cannot be removed does not keep the others. Returns why
-/// the first such could not be, or nothing; that there are none, or that the file system knows of
-/// none, is no failure.
+/// Removes all `user.` attributes of `file`, which may be opened with O_PATH. Continues after a
+/// failure and returns the reason of the first; nullopt on success, also without attributes or
+/// support for them.
 [[nodiscard]] std::optional<std::string> removeUserAttributes(const Descriptor& file);
 
 }  // namespace brisel::xattr

@@ -1,4 +1,4 @@
-// A file descriptor that is closed with its owner.
+// Owns a file descriptor.
 // SPDX-License-Identifier: MIT
 #include "tools/xattr/Descriptor.h"
 

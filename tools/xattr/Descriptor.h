@@ -1,4 +1,4 @@
-// A file descriptor that is closed with its owner.
+// Owns a file descriptor.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -10,10 +10,9 @@ namespace brisel::xattr {
 
 class Descriptor {
   public:
-    /// None; false.
     Descriptor() = default;
-    /// Opens `name`, seen from the folder `folder` (or AT_FDCWD), by openat(2). On failure the
-    /// descriptor is false and errno tells why.
+    /// Opens `name` relative to `folder` (or AT_FDCWD) by openat(2), close-on-exec. On failure it
+    /// is false, and errno is set.
     Descriptor(int folder, const std::string& name, int flags);
     Descriptor(Descriptor&& other) noexcept;
     Descriptor& operator=(Descriptor&& other) noexcept;
@@ -23,7 +22,7 @@ class Descriptor {
 
     explicit operator bool() const { return number_ >= 0; }
     [[nodiscard]] int number() const { return number_; }
-    /// Gives the descriptor away; the caller closes it.
+    /// Passes ownership to the caller.
     [[nodiscard]] int release();
 
   private:

@@ -1,4 +1,4 @@
-// Strips files and whole trees of their extended attributes.
+// Removes extended attributes from files and trees.
 // SPDX-License-Identifier: MIT
 #include "tools/xattr/Stripper.h"
 
@@ -18,12 +18,12 @@ namespace brisel::xattr {
 namespace {
 
 constexpr unsigned char Delete = 0x7f;
-/// UTF-8 writes the control characters U+0080 to U+009F as this byte and one of this range.
+/// UTF-8 encodes the C1 controls, U+0080 to U+009F, as Lead and a byte of this range.
 constexpr unsigned char Lead = 0xc2;
 constexpr unsigned char FirstSecond = 0x80;
 constexpr unsigned char LastSecond = 0x9f;
 
-/// Whether the byte at `index` is a control character or part of one.
+/// True if the byte at `index` is a control character or part of one.
 bool isControl(const std::string& text, std::size_t index) {
     const auto byteAt = [&text](std::size_t at) {
         return at < text.size() ? static_cast<unsigned char>(text[at]) : 0U;

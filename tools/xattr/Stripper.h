@@ -1,4 +1,4 @@
-// Strips files and whole trees of their extended attributes.
+// Removes extended attributes from files and trees.
 // SPDX-License-Identifier: MIT
 #pragma once
 
@@ -11,14 +11,13 @@ namespace brisel::xattr {
 
 class Stripper {
   public:
-    /// `complaints`, which must outlive this, gets a line for each thing that failed.
+    /// Writes a line for each failure to `complaints`, which must outlive this object.
     explicit Stripper(std::ostream& complaints) : complaints_(complaints) {}
 
-    /// Strips what is at `path`, and with Depth::EverythingBelow what is below it on the same file
-    /// system. A symbolic link has no user attributes, so that there is nothing to do for one.
+    /// Strips `path`, and with Depth::EverythingBelow the tree below it on its file system. Skips
+    /// symbolic links, which have no user attributes.
     void strip(const std::string& path, Depth depth);
 
-    /// Whether there has been a complaint.
     [[nodiscard]] bool hasFailed() const { return hasFailed_; }
 
   private:
@@ -28,7 +27,7 @@ class Stripper {
     bool hasFailed_ = false;
 };
 
-/// The text with its control characters, those of UTF-8 included, made visible as in `\x0a`.
+/// Replaces control characters, C1 controls in UTF-8 included, by escapes such as `\x0a`.
 std::string visible(const std::string& text);
 
 }  // namespace brisel::xattr

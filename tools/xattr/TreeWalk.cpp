@@ -21,11 +21,11 @@ struct CloseFolder {
 
 using OpenDirectory = std::unique_ptr<DIR, CloseFolder>;
 
-/// For readdir(3); null, with errno, if the folder cannot be read.
+/// For readdir(3); null, with errno, on failure.
 OpenDirectory openForReading(const Descriptor& folder) {
     Descriptor readable(folder.number(), ".", O_RDONLY | O_DIRECTORY);
     OpenDirectory directory(readable ? fdopendir(readable.number()) : nullptr);
-    // The descriptor belongs to the directory now.
+    // fdopendir has taken the descriptor over.
     if (directory) static_cast<void>(readable.release());
     return directory;
 }
@@ -40,7 +40,7 @@ bool isFileOrFolder(const struct stat& status) {
     return S_ISREG(status.st_mode) || S_ISDIR(status.st_mode);
 }
 
-/// Whether opening failed with `error` since the folder is gone, or something else stands there.
+/// True if `error` of an open means that the folder was removed or replaced.
 bool isGone(int error) {
     return error == ENOENT || error == ENOTDIR || error == ELOOP;
 }
@@ -127,7 +127,7 @@ void TreeWalk::ascend() {
         current_ = std::move(above);
         return;
     }
-    // Someone has moved the folder, and what is above it now is none of ours.
+    // The folder was moved; its new parent is not part of the tree.
     complain_(path_, "it was moved meanwhile, and what was to follow has been left out");
     levels_.clear();
 }

@@ -14,34 +14,33 @@
 
 namespace brisel::xattr {
 
-/// Visits the files and folders of a tree that are on one file system, and nothing but files and
-/// folders: nothing else has user attributes. It goes from folder to folder by descriptors that
-/// follow no links, so that nobody can lead it elsewhere by exchanging a folder for a link; and it
-/// holds a handful of them, however deep the tree is.
+/// Visits only files and folders, on one file system; nothing else has user attributes. Opens each
+/// folder relative to its parent with O_NOFOLLOW, so that a link put in its place cannot redirect
+/// the walk. Keeps few descriptors open, however deep the tree is.
 class TreeWalk {
   public:
-    /// Called with a descriptor opened with O_PATH, and the path to show.
+    /// `file` is opened with O_PATH; `path` is for messages.
     using Visit = std::function<void(const Descriptor& file, const std::string& path)>;
-    /// Called for what cannot be visited, or read. The walk goes on with the rest.
+    /// Called for an entry that cannot be opened or read; the walk continues.
     using Complain = std::function<void(const std::string& path, const std::string& reason)>;
 
     TreeWalk(Visit visit, Complain complain)
         : visit_(std::move(visit)), complain_(std::move(complain)) {}
 
-    /// Visits `start`, opened with O_PATH, and all below it. `path` names it in paths to show.
+    /// Visits `start`, opened with O_PATH, and everything below it. `path` is its name in messages.
     void run(Descriptor start, const std::string& path);
 
   private:
-    /// A folder on the way from the start to where we are.
+    /// A folder from the start to the current one.
     struct Level {
         ino_t node = 0;
         std::size_t pathLength = 0;
-        /// The names of those that are still to be gone into.
+        /// Names of the subfolders still to enter.
         std::vector<std::string> subfolders;
     };
 
-    /// Visits what is in the folder, which path_ names, and makes it the current one if there are
-    /// folders in it.
+    /// Visits the entries of `folder`, whose path is path_. Makes it the current folder if it has
+    /// subfolders.
     void enter(Descriptor folder);
     void visitEntries(const Descriptor& folder, Level& level);
     void visitEntry(const Descriptor& folder, const std::string& name, Level& level);
@@ -49,7 +48,7 @@ class TreeWalk {
     void ascend();
     void complain(const std::string& path, int error);
 
-    /// Its status, if that can be had and it is on the file system of the start.
+    /// Status of `file`; nullopt on error, or if it is on another file system than the start.
     [[nodiscard]] std::optional<struct stat> statusIfHere(const Descriptor& file) const;
     [[nodiscard]] std::string pathOf(const std::string& name) const;
 
@@ -59,11 +58,11 @@ class TreeWalk {
     std::vector<Level> levels_;
     /// The folder of the last level.
     Descriptor current_;
-    /// The path of the folder at hand.
+    /// Path of the folder being visited.
     std::string path_;
 };
 
-/// Whether it is a file or a folder.
+/// True for a regular file or a folder.
 bool canHoldUserAttributes(const Descriptor& file);
 
 }  // namespace brisel::xattr
