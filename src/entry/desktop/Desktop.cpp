@@ -45,7 +45,7 @@ int Desktop::run() {
     }
     if (singleInstance_.place() == Place::Second && singleInstance_.activateFirst())
         return EXIT_SUCCESS;
-    systemLog_.log("Another Brisel refuses to show itself, or the session bus is out of order.");
+    systemLog_.log("Brisel is already running but does not answer, or the session bus failed.");
     return EXIT_FAILURE;
 }
 
