@@ -1,4 +1,4 @@
-# What there is to do with the sources; CMakePresets.json says how each build is made.
+# Entry points for development; CMakePresets.json configures the builds.
 .PHONY: all deps run test macos-stage bench bench-desktop package coverage fuzz tidy diagram format clean
 
 # Installs nothing; `make deps` does.
@@ -17,8 +17,8 @@ run:
 	cmake --build --preset run
 	scripts/main-job build/bin
 
-# Both compilers, all tests under the address, undefined-behaviour and leak sanitizers, those with
-# threads under the thread sanitizer, the fuzzers for a short while, and the linters.
+# Builds with both compilers. Runs all tests under the address, undefined-behaviour and leak
+# sanitizers, those with threads under the thread sanitizer, short fuzzer runs, and the linters.
 test:
 	scripts/install-needs test
 	cmake --preset release
@@ -31,8 +31,7 @@ test:
 	@reason=$$(scripts/real-volumes-possible) || echo "Skipping the tests on real volumes: $$reason"
 	ctest --preset asan -j 2
 
-# The Mac application's own sources on stand-in frameworks, to be driven by scenarios. They run under
-# the sanitizers, as in the tests.
+# The macOS application's sources on stand-in frameworks, driven by scenarios, with sanitizers.
 macos-stage:
 	scripts/install-needs test
 	cmake --preset asan
@@ -47,14 +46,14 @@ bench:
 	build/bench/bin/brisel-benchmarks
 	build/bench/bin/brisel-benchmarks --check-growth
 
-# Beside another tray program, in a session of its own; better on a machine that does nothing else.
+# Compares with another tray program, in a session of its own; needs an idle machine.
 bench-desktop:
 	scripts/install-needs bench-desktop
 	cmake --preset release
 	cmake --build --preset release
 	/usr/bin/python3 -B benchmarks/desktop/compare.py build/bin
 
-# The times in the packages are those of the last change, so that the same sources make the same bytes.
+# Timestamps of the last commit make the packages reproducible.
 package: export SOURCE_DATE_EPOCH ?= $(shell git log -1 --format=%ct)
 package:
 	scripts/install-needs package
@@ -79,7 +78,7 @@ tidy:
 	scripts/install-needs test
 	scripts/tidy
 
-# The drawing in docs/architecture.md.
+# Renders the drawing in docs/architecture.md.
 diagram:
 	scripts/install-needs diagram
 	dot -Tsvg docs/architecture.dot -o docs/pictures/architecture.svg

@@ -1,7 +1,7 @@
-# Fails unless BUNDLE holds the files that CONTENTS lists, no more and no fewer.
+# Fails unless BUNDLE holds exactly the files that CONTENTS lists.
 file(STRINGS ${CONTENTS} wanted)
 file(GLOB_RECURSE found LIST_DIRECTORIES FALSE RELATIVE ${BUNDLE} ${BUNDLE}/*)
-# What signing adds, and what a notarised application carries with it.
+# Signatures and the notarisation ticket.
 list(FILTER found EXCLUDE REGEX "/_CodeSignature/|^Contents/CodeResources$")
 
 set(missing ${wanted})

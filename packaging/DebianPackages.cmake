@@ -2,7 +2,7 @@
 set(CPACK_GENERATOR DEB)
 set(CPACK_COMPONENTS_ALL brisel mount-tool)
 set(CPACK_STRIP_FILES ON)
-# For intermediate folders: keeps the umask out of the package.
+# Keeps the umask out of the modes of intermediate folders.
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
@@ -41,7 +41,7 @@ It accepts only an NTFS block device and an empty folder of the requesting
 user, and never forces a mount.")
 set(CPACK_DEBIAN_MOUNT-TOOL_PACKAGE_NAME brisel-mount-tool)
 set(CPACK_DEBIAN_MOUNT-TOOL_PACKAGE_SECTION admin)
-# The command line between them may change with the version.
+# The command line between them may change in any version.
 set(CPACK_DEBIAN_MOUNT-TOOL_PACKAGE_DEPENDS
     "brisel (= ${PROJECT_VERSION}), ntfs-3g, pkexec, polkitd")
 set(CPACK_DEBIAN_MOUNT-TOOL_PACKAGE_ENHANCES "brisel")

@@ -1,4 +1,4 @@
-# Brisel.app: built, filled, signed from the inside out and checked; and the disk image it comes in.
+# Builds, signs and checks Brisel.app and its disk image.
 option(BRISEL_MAC_APPLICATION "Build Brisel.app, which takes Xcode" ON)
 if(NOT BRISEL_MAC_APPLICATION)
   return()
@@ -7,7 +7,7 @@ include(MacBundle.cmake)
 
 find_program(BRISEL_CODESIGN codesign REQUIRED)
 if(NOT BRISEL_IBTOOL)
-  # There is an `ibtool` on every Mac, but without Xcode all it does is to say so.
+  # Every Mac has an `ibtool`, but without Xcode it only fails.
   execute_process(COMMAND xcrun --find ibtool RESULT_VARIABLE failure OUTPUT_VARIABLE path
                   OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
   if(failure)
@@ -47,11 +47,11 @@ foreach(framework AppKit Foundation CoreFoundation DiskArbitration Security Serv
         UserNotifications)
   target_link_libraries(Brisel PRIVATE "-framework ${framework}")
 endforeach()
-# Classes and categories that are only asked for by name, as the nib does, are no reason to link them.
+# Links classes and categories that only the nib refers to, by name.
 target_link_options(Brisel PRIVATE -ObjC)
 
-# The seal: made anew whenever anything in the bundle changes, for it covers all of it. Nobody but
-# this machine trusts it; scripts/sign-macos makes one that others do.
+# Signs again after any change in the bundle. The ad-hoc signature is valid on this machine only;
+# scripts/sign-macos makes one for release.
 set(application $<TARGET_BUNDLE_DIR:Brisel>)
 set(helper ${application}/Contents/${BRISEL_HELPER_FOLDER}/BriselHelper.app)
 set(sign ${BRISEL_CODESIGN} --force --sign - --timestamp=none --options runtime)

@@ -1,7 +1,7 @@
-# Makes the ten status images from the five drawings; the build tree becomes an icon theme's folder.
+# Makes the ten status images from the five drawings.
 set(BRISEL_STATUS_COLOURS grey green blue orange red)
 
-# `dark` and `light` are menu bars; on a dark one the ink is light.
+# `dark` and `light` name the menu bar; the ink is the opposite.
 set(INK_dark "#f5f5f5")
 set(INK_light "#242424")
 set(INK_grey_dark "#c0c0c0")
@@ -15,8 +15,8 @@ set(ACCENT_orange_light "#a85200")
 set(ACCENT_red_dark "#ff7a70")
 set(ACCENT_red_light "#c3201c")
 
-# make_status_icons(FOLDER): brisel-status-COLOUR-BAR.svg for each colour and bar, and nothing else
-# in the folder.
+# make_status_icons(FOLDER): empties FOLDER and writes brisel-status-COLOUR-BAR.svg for each colour
+# and bar.
 function(make_status_icons folder)
   file(REMOVE_RECURSE ${folder})
   foreach(colour IN LISTS BRISEL_STATUS_COLOURS)

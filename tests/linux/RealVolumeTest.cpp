@@ -158,10 +158,9 @@ TEST_F(RealVolume, OutlivesTheDiskService) {
     const auto process = shell(Scripts + "/disk-services udisks-process");
     if (process.empty()) GTEST_SKIP() << "UDisks2 was not started by this test";
     shell("kill " + process);
-    ASSERT_TRUE(console_->waitFor("The disk service UDisks2 has gone; waiting for it."))
-        << transcript();
+    ASSERT_TRUE(console_->waitFor("UDisks2 has stopped; waiting for it to start.")) << transcript();
     ASSERT_TRUE(succeeds(Scripts + "/disk-services start"));
-    ASSERT_TRUE(console_->waitFor("The disk service UDisks2 is back.")) << transcript();
+    ASSERT_TRUE(console_->waitFor("Connected to UDisks2 again.")) << transcript();
     EXPECT_FALSE(console_->printed("disappeared")) << transcript();
     console_->type("y");
     EXPECT_TRUE(succeeds("touch '" + folderShown() + "/allowed'"));

@@ -97,7 +97,9 @@ TEST_F(Script, RefusesAPathThatIsOnNoVolume) {
                              volumes_ + "-other/Data", std::string("/etc"), std::string("Data")}) {
         const auto result = cleanUp(path);
         ASSERT_TRUE(result.error.has_value()) << path;
-        EXPECT_THAT(result.error->front().second, HasSubstr("not the folder of a volume")) << path;
+        EXPECT_THAT(result.error->front().second,
+                    HasSubstr("Not in a folder that volumes are mounted in"))
+            << path;
         EXPECT_THAT(arguments(), IsEmpty()) << path;
     }
 }

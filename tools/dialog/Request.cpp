@@ -12,8 +12,8 @@ const char* const Usage =
     "       brisel-dialog menu TITLE    (lines ID<TAB>KIND<TAB>TITLE on standard input,\n"
     "                                    KIND being item, checked, text or separator)\n"
     "\n"
-    "Shows a window, writes `shown` when it is there, and then `pressed` with the button's number\n"
-    "from 0 or the item's ID, or `closed`. Ends with status 3 if there is no display.\n";
+    "Shows a window. Writes `shown` once it is on screen, then `pressed` with the button's number\n"
+    "from 0 or the item's ID, or `closed`. Exits with status 3 if there is no display.\n";
 
 namespace {
 

@@ -31,7 +31,6 @@ using Request = std::variant<AlertRequest, AboutRequest, MenuRequest>;
 /// malformed.
 std::optional<Request> requestFrom(std::span<const char* const> words);
 
-/// The usage text.
 extern const char* const Usage;
 
 }  // namespace brisel::dialog

@@ -22,14 +22,12 @@ GtkWindow* newWindow(const std::string& title);
 enum class Side { Width, Height };
 int partOfScreen(Side side, double part);
 
-/// A vertical box.
 GtkBox* newColumn(int spacing);
 void append(GtkBox* box, GtkWidget* child);
 
 /// A label that wraps to fit the screen, and is cut if very long.
 GtkLabel* newWrappedLabel(const std::string& text);
 
-/// Bold and larger.
 void makeHeading(GtkLabel* label);
 
 /// Grows with its content to part of the screen's height, then scrolls.

@@ -45,7 +45,7 @@ int main(int argumentCount, char** words) {
         return Misused;
     }
     if (!openDisplay()) {
-        std::cerr << "brisel-dialog: there is no display to show a window on.\n";
+        std::cerr << "brisel-dialog: cannot open a display.\n";
         return NoDisplay;
     }
     tell(answerLine(std::visit(Showing{}, *request)));

@@ -31,12 +31,12 @@ std::optional<Refusal> complaintAboutOptions(std::string_view options) {
     const auto words = splitAtCommas(options);
     for (const auto word : words) {
         if (std::count(KnownOptions.begin(), KnownOptions.end(), word) == 0)
-            return refuse("There is an unknown mount option.");
+            return refuse("A mount option is unknown.");
         if (std::count(words.begin(), words.end(), word) > 1)
             return refuse("A mount option is given twice.");
     }
     if (std::count(words.begin(), words.end(), "rw") == 0)
-        return refuse("This tool mounts read-write only: the option rw is missing.");
+        return refuse("The mount option rw is missing.");
     return std::nullopt;
 }
 
@@ -77,7 +77,7 @@ Result<Request> parseCommandLine(int argumentCount, const char* const* arguments
         return refuse("An argument is too long.");
     if (words[0] != "-o") return refuse("The first argument must be -o.");
     if (auto complaint = complaintAboutOptions(words[1])) return *complaint;
-    if (!isDevice(words[2])) return refuse("The device must be /dev/ and a plain name.");
+    if (!isDevice(words[2])) return refuse("The device must be /dev/NAME.");
     if (!words[3].starts_with('/')) return refuse("The mount point must be an absolute path.");
     return Request{std::string(words[2]), std::string(words[3])};
 }
@@ -85,9 +85,9 @@ Result<Request> parseCommandLine(int argumentCount, const char* const* arguments
 Result<std::string> labelOf(std::string_view mountPoint, std::string_view home) {
     const bool below =
         mountPoint.starts_with(home) && mountPoint.substr(home.size()).starts_with(MountFolder);
-    if (!below) return refuse("The mount point must be in .brisel of the asking user's home.");
+    if (!below) return refuse("The mount point must be in .brisel of the requesting user's home.");
     const auto label = mountPoint.substr(home.size() + MountFolder.size());
-    if (!isLabel(label)) return refuse("The mount point's name cannot be that of a folder.");
+    if (!isLabel(label)) return refuse("The mount point's name is not a valid folder name.");
     return std::string(label);
 }
 

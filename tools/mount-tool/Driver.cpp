@@ -19,23 +19,24 @@ struct Meaning {
 };
 
 constexpr std::array Meanings{
-    Meaning{SyntaxError, "The NTFS driver did not understand what it was asked."},
+    Meaning{SyntaxError, "The NTFS driver received an invalid request."},
     Meaning{NotNTFS, "The NTFS driver finds no valid NTFS volume on the device."},
     Meaning{Inconsistent,
             "The volume is damaged, or the disk is failing: let Windows check it (chkdsk /f), "
             "then try again."},
-    Meaning{Hibernated,
-            "Windows is hibernated on this volume (or fast start-up left it so): shut Windows down "
-            "fully, then try again."},
+    Meaning{
+        Hibernated,
+        "Windows is hibernated on this volume, or was shut down with fast startup: shut Windows "
+        "down fully, then try again."},
     Meaning{NotCleanlyUnmounted,
             "The volume was not cleanly unmounted: attach it to Windows and eject it there, then "
             "try again."},
     Meaning{InUse, "The volume is in use by another program or already mounted."},
-    Meaning{RAID, "The volume is part of a RAID that is not set up."},
-    Meaning{Unknown, "The NTFS driver failed without saying why."},
+    Meaning{RAID, "The volume is part of a RAID that is not assembled."},
+    Meaning{Unknown, "The NTFS driver failed for an unknown reason."},
     Meaning{NoPrivilege, "The NTFS driver lacks the rights to mount the volume."},
     Meaning{OutOfMemory, "There is not enough memory to mount the volume."},
-    Meaning{FUSEError, "FUSE, which the NTFS driver needs, does not work here."},
+    Meaning{FUSEError, "FUSE does not work; the NTFS driver needs it."},
 };
 
 constexpr std::array ProbePaths{"/usr/bin/ntfs-3g.probe", "/bin/ntfs-3g.probe"};

@@ -86,25 +86,25 @@ Mount::~Mount() = default;
 
 Result<Mount> Mount::make(const NTFSDevice& device, const Person& person) {
     auto staging = std::make_unique<StagingFolder>();
-    if (staging->path().empty()) return refuseByError("No folder can be made below /run");
+    if (staging->path().empty()) return refuseByError("No folder can be created in /run");
     if (const auto refusal = mountWithDriver(device.path(), staging->path(), person))
         return *refusal;
     Descriptor tree(cloneMount(staging->path().c_str()));
-    if (!tree.isOpen()) return refuseByMountCall("The mounted volume cannot be taken over");
+    if (!tree.isOpen()) return refuseByMountCall("The mount cannot be cloned");
     return Mount(std::move(staging), std::move(tree));
 }
 
 std::optional<Refusal> Mount::complaintAs(const NTFSDevice& device) const {
     const int root = tree_.number();
     if (!isFUSE(root) || !isOf(root, device))
-        return disbelieved("The NTFS driver has not mounted the volume, though it says so.");
+        return disbelieved("The NTFS driver reported success but has not mounted the volume.");
     struct statvfs facts {};
     if (fstatvfs(root, &facts) != 0) return refuseByError("The mounted volume cannot be examined");
     if ((facts.f_flag & ST_RDONLY) != 0)
-        return disbelieved("The NTFS driver can mount the volume read-only, not read-write.");
+        return disbelieved("The NTFS driver mounted the volume read-only.");
     if ((facts.f_flag & ST_NOSUID) == 0 || (facts.f_flag & ST_NODEV) == 0)
-        return disbelieved("The volume was mounted without the protection it needs.");
-    if (!canCreateFiles(root)) return disbelieved("No file can be written to the volume.");
+        return disbelieved("The volume was mounted without nosuid or nodev.");
+    if (!canCreateFiles(root)) return disbelieved("No file can be created on the volume.");
     return std::nullopt;
 }
 

@@ -18,10 +18,10 @@ constexpr const char* MountFolders = ".brisel";
 constexpr int Folder = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 
 Result<Descriptor> owned(Descriptor folder, const Person& person, const std::string& name) {
-    if (!folder.isOpen()) return refuseByError(name + " is no folder that can be opened");
+    if (!folder.isOpen()) return refuseByError(name + " cannot be opened as a folder");
     struct stat facts {};
     if (fstat(folder.number(), &facts) != 0) return refuseByError(name + " cannot be examined");
-    if (facts.st_uid != person.uid) return refuse(name + " belongs to somebody else.");
+    if (facts.st_uid != person.uid) return refuse(name + " belongs to another user.");
     return folder;
 }
 
@@ -76,7 +76,7 @@ Result<MountFolder> MountFolder::open(const Person& person, const std::string& l
     if (!folder) return folder.refusal();
     const auto plain = isPlainFolderOf(parent->number(), folder->number());
     if (!plain) return refuseByError("The mount point cannot be examined");
-    if (!*plain) return refuse("Something is mounted on the mount point already.");
+    if (!*plain) return refuse("A file system is already mounted on the mount point.");
     const auto empty = isEmpty(folder->number());
     if (!empty) return refuseByError("The mount point cannot be listed");
     if (!*empty) return refuse("The mount point is not empty.");

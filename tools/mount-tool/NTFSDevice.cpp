@@ -47,7 +47,7 @@ Result<NTFSDevice> NTFSDevice::open(const std::string& path) {
     Descriptor device(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     if (!device.isOpen()) return refuseByError("The device cannot be opened");
     if (blockDeviceNumber(device.number()) != number)
-        return refuse("The device has just been replaced by another.");
+        return refuse("The device was replaced while it was opened.");
     const auto isNTFS = startsAsNTFS(device.number());
     if (!isNTFS) return refuseByError("The device cannot be read");
     if (!*isNTFS) return Refusal{NotNTFS, "There is no NTFS volume on the device."};

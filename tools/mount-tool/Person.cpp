@@ -34,11 +34,11 @@ std::string withoutLastSlash(std::string folder) {
 
 Result<Person> whoAsked(const char* pkexecUID) {
     const auto uid = parseUID(pkexecUID != nullptr ? pkexecUID : "0");
-    if (!uid) return refuse("PKEXEC_UID is not the number of a user.");
+    if (!uid) return refuse("PKEXEC_UID is not a user ID.");
     const passwd* const entry = getpwuid(*uid);
-    if (entry == nullptr) return refuse("The user who asked does not exist.");
+    if (entry == nullptr) return refuse("The requesting user does not exist.");
     Person person{entry->pw_uid, entry->pw_gid, withoutLastSlash(entry->pw_dir)};
-    if (!person.home.starts_with('/')) return refuse("The user who asked has no home folder.");
+    if (!person.home.starts_with('/')) return refuse("The requesting user has no home folder.");
     return person;
 }
 

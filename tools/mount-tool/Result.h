@@ -28,7 +28,6 @@ enum ExitStatus : int {
     FUSEError = 21,
 };
 
-/// Exit status and message for the user.
 struct Refusal {
     int status = Refused;
     std::string sentence;

@@ -67,7 +67,8 @@ std::optional<Refusal> shakeOffSurroundings() {
     blockSignals();
     liftLimits();
     umask(OwnerOnly);
-    if (clearenv() != 0 || chdir("/") != 0) return refuseByError("The tool cannot get ready");
+    if (clearenv() != 0 || chdir("/") != 0)
+        return refuseByError("The environment or working folder cannot be reset");
     return std::nullopt;
 }
 

@@ -39,7 +39,7 @@ std::optional<Refusal> run(int argumentCount, const char* const* arguments) {
     std::optional<std::string> pkexecUID;
     if (const char* const value = std::getenv("PKEXEC_UID")) pkexecUID = value;
     if (auto refusal = shakeOffSurroundings()) return refusal;
-    if (getuid() != 0 || geteuid() != 0) return refuse("This tool must be run by root.");
+    if (getuid() != 0 || geteuid() != 0) return refuse("This tool must run as root.");
     auto request = parseCommandLine(argumentCount, arguments);
     if (!request) return request.refusal();
     return mount(*request, pkexecUID ? pkexecUID->c_str() : nullptr);

@@ -21,7 +21,6 @@ struct Arguments {
 /// Parses the arguments without the program's name. Options end at the first path.
 Arguments argumentsFrom(std::span<const char* const> words);
 
-/// The usage text.
 extern const char* const Usage;
 
 }  // namespace brisel::xattr

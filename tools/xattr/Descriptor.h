@@ -10,7 +10,6 @@ namespace brisel::xattr {
 
 class Descriptor {
   public:
-    /// No descriptor; false.
     Descriptor() = default;
     /// Opens `name` relative to `folder` (or AT_FDCWD) by openat(2), close-on-exec. On failure it
     /// is false, and errno is set.

@@ -18,7 +18,6 @@ class Stripper {
     /// symbolic links, which have no user attributes.
     void strip(const std::string& path, Depth depth);
 
-    /// True after any failure.
     [[nodiscard]] bool hasFailed() const { return hasFailed_; }
 
   private:

@@ -128,7 +128,7 @@ void TreeWalk::ascend() {
         return;
     }
     // The folder was moved; its new parent is not part of the tree.
-    complain_(path_, "it was moved meanwhile, and what was to follow has been left out");
+    complain_(path_, "it was moved during the walk; the rest is skipped");
     levels_.clear();
 }
 

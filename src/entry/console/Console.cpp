@@ -11,7 +11,7 @@ namespace brisel::console {
 namespace {
 
 constexpr const char* Help =
-    "A number chooses from the menu, y or n answers a prompt; also: menu, quit.";
+    "Type the number of a menu item, y or n to answer a prompt, menu or quit.";
 
 }  // namespace
 

@@ -32,7 +32,7 @@ int Desktop::run() {
         services_.singleInstance.activateFirst())
         return EXIT_SUCCESS;
     services_.systemLog.log(
-        "Another Brisel refuses to show itself, or the session bus is out of order.");
+        "Brisel is already running but does not answer, or the session bus failed.");
     return EXIT_FAILURE;
 }
 

@@ -65,7 +65,7 @@ Alert::Waiting Alert::waitFor(DialogProcess& window) const {
 }
 
 void Alert::tellOtherwise(const AlertContent& content) const {
-    surroundings_.log.log("An alert could not be shown: %@ %@", content.messageText,
+    surroundings_.log.log("Cannot show an alert: %@ %@", content.messageText,
                           content.informativeText);
     surroundings_.notifications.showCritical(content.messageText, content.informativeText);
 }

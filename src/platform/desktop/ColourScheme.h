@@ -13,7 +13,6 @@ class ColourScheme {
   public:
     enum class Scheme { Light, Dark };
 
-    /// Calls `changed` when the scheme changes.
     ColourScheme(GDBusConnection* bus, std::function<void(Scheme)> changed);
 
   private:

@@ -36,7 +36,6 @@ std::optional<int> numberIn(std::string_view text) {
     return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
 }
 
-/// Redirects the child's standard input and output.
 class Streams {
   public:
     Streams(int input, int output) {

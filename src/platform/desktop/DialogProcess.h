@@ -23,9 +23,9 @@ class DialogProcess {
     /// Kills the process, which closes the window.
     ~DialogProcess();
 
-    /// Call takeIn when it is readable. -1 once ended.
+    /// -1 once ended.
     [[nodiscard]] int descriptor() const { return output_; }
-    /// Reads the available output and updates the state.
+    /// Reads output and updates the state. Call when the descriptor is readable.
     void takeIn();
 
     [[nodiscard]] State state() const { return state_; }

@@ -90,7 +90,7 @@ guint TrayIcon::exportObject() {
     const auto object = g_dbus_connection_register_object(bus_.get(), ObjectPath, *node->interfaces,
                                                           &Answers, this, nullptr, error.receive());
     g_dbus_node_info_unref(node);
-    if (error) log_.log("The tray icon cannot be offered: %@", error.message());
+    if (error) log_.log("Cannot export the tray icon on the session bus: %@", error.message());
     return object;
 }
 
@@ -146,8 +146,8 @@ void TrayIcon::waitForHost(std::chrono::milliseconds patience) {
     patience_ = headless::RunLoop().scheduledTimer(patience, [this] {
         const auto once = std::move(patience_);
         log_.log(
-            "No tray shows status icons here. The prompts work all the same, and starting Brisel "
-            "again shows its menu.");
+            "This desktop has no tray for status icons. Prompts still work; start Brisel again to "
+            "open its menu.");
     });
 }
 

@@ -18,7 +18,6 @@ class TrayMenu {
   public:
     static constexpr const char* ObjectPath = "/MenuBar";
 
-    /// Called with the number of the chosen entry.
     using Chosen = std::function<void(int number)>;
 
     explicit TrayMenu(Chosen chosen);

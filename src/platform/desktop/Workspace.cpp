@@ -19,7 +19,7 @@ void finishOpening(GObject* /*source*/, GAsyncResult* result, gpointer data) {
     headless::CallError error;
     const bool opened = g_app_info_launch_default_for_uri_finish(result, error.receive()) != FALSE;
     if (opened || g_cancellable_is_cancelled(opening->cancellable.get()) != FALSE) return;
-    opening->log.log("The folder cannot be shown: %@", error.message());
+    opening->log.log("Cannot open the folder: %@", error.message());
 }
 
 }  // namespace

@@ -84,7 +84,7 @@ OSStatus Authorization::askPolkit() const {
     const OwnedObject<PolkitAuthority> authority(
         polkit_authority_get_sync(nullptr, error.receive()));
     if (!authority) {
-        log_.log("polkit cannot be reached: %@", error.message());
+        log_.log("Cannot connect to polkit: %@", error.message());
         return errAuthorizationInternal;
     }
     const auto answer = PolkitQuestion().ask(authority.get(), terminationSignals_, error);
@@ -92,7 +92,7 @@ OSStatus Authorization::askPolkit() const {
         return errAuthorizationDenied;
     }
     if (!answer) {
-        log_.log("polkit did not answer: %@", error.message());
+        log_.log("The polkit authorization check failed: %@", error.message());
         return errAuthorizationInternal;
     }
     return statusOf(answer.get());

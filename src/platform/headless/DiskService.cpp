@@ -39,8 +39,7 @@ DiskService::CallFailure failureOf(const GError* error) {
 }
 
 DiskService::CallFailure noSuchDisk() {
-    return {.errorName = "org.freedesktop.DBus.Error.UnknownObject",
-            .message = "The disk is not there."};
+    return {.errorName = "org.freedesktop.DBus.Error.UnknownObject", .message = "No such disk."};
 }
 
 }  // namespace

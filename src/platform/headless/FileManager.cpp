@@ -58,7 +58,7 @@ FolderListing FileManager::contentsOfDirectory(const FileURL& folder) {
 
 std::optional<Error> FileManager::createDirectory(const std::string& path) {
     if (!isMountPointIn(mountFolderIn(home_), path)) {
-        return Error{.localizedDescription = "The label cannot be the name of a folder",
+        return Error{.localizedDescription = "The label is not a valid folder name",
                      .localizedFailureReason = std::nullopt};
     }
     std::error_code code;

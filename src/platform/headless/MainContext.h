@@ -38,7 +38,6 @@ class OwnMainLoop {
     OwnMainLoop& operator=(const OwnMainLoop&) = delete;
     ~OwnMainLoop();
 
-    /// Runs until `quit`.
     void run() { g_main_loop_run(loop_); }
     void quit() { g_main_loop_quit(loop_); }
     [[nodiscard]] GMainContext* context() const { return context_; }

@@ -36,11 +36,11 @@ bool isOfDriver(const DiskService::CallFailure& failure) {
 
 std::string reasonToTakeBack(const std::string& mountPoint) {
     if (isHibernated(mountPoint)) {
-        return "Windows is hibernated on it, or was shut down with its fast start-up. Start "
-               "Windows and shut it down fully";
+        return "Windows is hibernated or was shut down with fast startup. Start Windows and shut "
+               "it down fully";
     }
-    return "it came up read-only. The device is write-protected, or the driver found the volume "
-           "unsafe to write";
+    return "it was mounted read-only. The device is write-protected, or the driver considers the "
+           "volume unsafe to write";
 }
 
 }  // namespace

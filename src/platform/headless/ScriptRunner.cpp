@@ -63,15 +63,15 @@ ScriptRunner::ScriptRunner(const platform::FileManager& files, std::string xattr
 
 ScriptResult ScriptRunner::execute(const std::string& source) {
     const auto command = shellCommandOf(source);
-    if (!command) return failed("A syntax error in: " + source, SyntaxError);
+    if (!command) return failed("Syntax error in: " + source, SyntaxError);
     auto words = wordsOf(*command);
     if (words.size() < 3 || words[0] != "xattr" || words[1] != "-cr") {
-        return failed("Only xattr -cr can be run, not: " + *command, PrivilegeError);
+        return failed("Only xattr -cr is allowed, not: " + *command, PrivilegeError);
     }
     const auto stray = std::find_if(words.begin() + 2, words.end(),
                                     [this](const auto& path) { return !isOnAVolume(path); });
     if (stray != words.end()) {
-        return failed("This is not the folder of a volume: " + *stray, PrivilegeError);
+        return failed("Not in a folder that volumes are mounted in: " + *stray, PrivilegeError);
     }
     return removeAttributes(std::move(words));
 }

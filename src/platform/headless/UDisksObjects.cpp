@@ -119,14 +119,14 @@ void UDisksObjects::disconnect() {
     nextTry_ = whenMainLoopTurns([this] {
         connections_.clear();
         objects_.reset();
-        tryAgain("The system bus has closed the connection.");
+        tryAgain("The system bus closed the connection.");
     });
 }
 
 void UDisksObjects::tryAgain(const std::string& reason) {
     constexpr std::chrono::seconds Pause{3};
     if (std::exchange(toldThere_, false)) {
-        log_.log("No disk can be watched, UDisks2 cannot be reached: %@", reason);
+        log_.log("Cannot connect to UDisks2, so no disks are watched: %@", reason);
     }
     nextTry_ = RunLoop().scheduledTimer(Pause, [this] {
         const auto thisTry = std::move(nextTry_);
@@ -150,11 +150,11 @@ void UDisksObjects::noteOwner() {
 
 void UDisksObjects::tell(bool there) {
     if (there) {
-        log_.log("The disk service UDisks2 is %@.", wasThere_ ? "back" : "there");
+        log_.log(wasThere_ ? "Connected to UDisks2 again." : "Connected to UDisks2.");
         return;
     }
-    log_.log("The disk service UDisks2 %@; waiting for it.",
-             wasThere_ ? "has gone" : "is not there");
+    log_.log(wasThere_ ? "UDisks2 has stopped; waiting for it to start."
+                       : "UDisks2 is not running; waiting for it to start.");
     askForRestart();
 }
 

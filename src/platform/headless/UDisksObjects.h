@@ -29,7 +29,6 @@ class UDisksObjects {
 
     /// True while connected to UDisks2.
     [[nodiscard]] bool areThere() const;
-    /// Calls `visit` for each block device.
     void forEachBlock(const std::function<void(UDisksObject*, UDisksBlock*)>& visit) const;
 
   private:

@@ -52,7 +52,7 @@ void UserDefaults::load() {
 
 std::string UserDefaults::read() {
     std::error_code code;
-    if (!fs::is_regular_file(path_, code)) return "It is no file.";
+    if (!fs::is_regular_file(path_, code)) return "It is not a regular file.";
     CallError error;
     char* text = nullptr;
     gsize length = 0;
@@ -62,7 +62,7 @@ std::string UserDefaults::read() {
     const OwnedText owned(text);
     // GLib ends a line at a null byte and would drop the rest.
     if (std::string_view(text, length).find('\0') != std::string_view::npos) {
-        return "It holds null bytes.";
+        return "It contains null bytes.";
     }
     g_key_file_load_from_data(file_.get(), text, length, G_KEY_FILE_KEEP_COMMENTS, error.receive());
     return error ? error.message() : "";
@@ -74,9 +74,9 @@ void UserDefaults::setAside() {
     fs::rename(path_, name, code);
     mayWrite_ = !code;
     if (mayWrite_) {
-        log_.log("They are kept as %@; starting on defaults.", name);
+        log_.log("Renamed the file to %@; starting with the defaults.", name);
     } else {
-        log_.log("They stay where they are; starting on defaults, which will not be saved.");
+        log_.log("The file cannot be renamed; starting with the defaults and saving no changes.");
     }
 }
 

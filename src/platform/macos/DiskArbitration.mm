@@ -36,7 +36,6 @@ void report(DADiskRef disk, void* context) noexcept {
     }
 }
 
-/// A pending request.
 struct Request {
     Completion completion;
     bool mustBeWritable = false;

@@ -10,7 +10,6 @@ namespace brisel::platform::terminal {
 
 class LoginItems final : public platform::LoginItems {
   public:
-    /// Always fails.
     [[nodiscard]] bool setEnabled(const std::string& /*identifier*/, bool /*enabled*/) override {
         return false;
     }

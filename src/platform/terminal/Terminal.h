@@ -35,7 +35,6 @@ class Terminal {
   private:
     /// Waits for input; false on termination.
     [[nodiscard]] bool wait() const;
-    /// Reads the available input.
     void readMore();
     [[nodiscard]] std::optional<std::string> takeLine();
     void handOutLines();

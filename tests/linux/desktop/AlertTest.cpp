@@ -50,9 +50,8 @@ class AnAlert : public testing::Test {
         EXPECT_THAT(desktop_.calls(), IsEmpty());
     }
     void expectToldOtherwise(const AlertContent& content) {
-        EXPECT_THAT(log_.entries(),
-                    ElementsAre("An alert could not be shown: " + content.messageText + " " +
-                                content.informativeText));
+        EXPECT_THAT(log_.entries(), ElementsAre("Cannot show an alert: " + content.messageText +
+                                                " " + content.informativeText));
         const auto calls = desktop_.calls();
         ASSERT_EQ(calls.size(), 1U);
         EXPECT_EQ(calls.front().summary, content.messageText);

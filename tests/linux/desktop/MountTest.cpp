@@ -160,7 +160,7 @@ TEST_F(AMount, ThatIsNotWritableIsUndone) {
     EXPECT_THAT(disks_->calls(),
                 ElementsAre("mount rw,noatime,x-gvfs-hide,norecover ntfs", "unmount"));
     EXPECT_THAT(log_.entries(),
-                testing::Contains(HasSubstr("sdz1 is unmounted again: it came up")));
+                testing::Contains(HasSubstr("sdz1 is unmounted again: it was mounted read-only")));
 }
 
 TEST_F(AMount, OfAHibernatedVolumeIsUndoneThoughItIsWritable) {
@@ -174,7 +174,7 @@ TEST_F(AMount, OfAHibernatedVolumeIsUndoneThoughItIsWritable) {
     const auto dissenter = mount();
     ASSERT_TRUE(dissenter.has_value());
     EXPECT_EQ(dissenter->status, DAReturn::NotWritable);
-    EXPECT_THAT(log_.entries(), testing::Contains(HasSubstr("again: Windows is hibernated on it")));
+    EXPECT_THAT(log_.entries(), testing::Contains(HasSubstr("again: Windows is hibernated")));
 }
 
 }  // namespace

@@ -113,7 +113,7 @@ TEST_F(ThePasswordQuestion, IsDismissed) {
 TEST_F(ThePasswordQuestion, FailsWithTheAuthority) {
     authorityDoes([](const auto& call) { call.refuse("org.freedesktop.PolicyKit1.Error.Failed"); });
     EXPECT_EQ(ask(), errAuthorizationInternal);
-    EXPECT_THAT(log_.entries(), ElementsAre(HasSubstr("polkit did not answer")));
+    EXPECT_THAT(log_.entries(), ElementsAre(HasSubstr("polkit authorization check failed")));
 }
 
 TEST_F(ThePasswordQuestion, FailsWithoutAnAuthority) {

@@ -100,7 +100,8 @@ TEST_F(TheTrayIcon, ReportsOnceThatNothingShowsIt) {
     start(Brief);
     turnUntil([this] { return !log_.entries().empty(); });
     waitLongEnough();
-    EXPECT_THAT(log_.entries(), ElementsAre(HasSubstr("No tray shows status icons here.")));
+    EXPECT_THAT(log_.entries(),
+                ElementsAre(HasSubstr("This desktop has no tray for status icons.")));
 }
 
 TEST_F(TheTrayIcon, ReportsThatNothingShowsItIfTheWatcherHasNoHost) {

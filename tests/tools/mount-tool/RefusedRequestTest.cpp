@@ -43,7 +43,7 @@ TEST_F(RefusedRequest, IsOneByALinkInPlaceOfTheMountPoint) {
     ASSERT_EQ(chown(mine.c_str(), static_cast<uid_t>(std::stoul(user->uid())), 0), 0);
     for (const auto& target : {mine, std::string("/etc"), folder()}) {
         replaceMountPointByLinkTo(target);
-        expectRefusal(runTool(), "The mount point is no folder that can be opened");
+        expectRefusal(runTool(), "The mount point cannot be opened as a folder");
     }
 }
 
@@ -51,26 +51,26 @@ TEST_F(RefusedRequest, IsOneByALinkInPlaceOfDotBrisel) {
     const auto elsewhere = user->home() + "/elsewhere";
     fs::rename(brisel(), elsewhere);
     fs::create_directory_symlink(elsewhere, brisel());
-    expectRefusal(runTool(), "The folder .brisel is no folder that can be opened");
+    expectRefusal(runTool(), "The folder .brisel cannot be opened as a folder");
     fs::remove_all(elsewhere);
 }
 
 TEST_F(RefusedRequest, IsOneForAFolderOfAnotherUser) {
     giveAway(mountPoint());
-    expectRefusal(runTool(), "The mount point belongs to somebody else.");
+    expectRefusal(runTool(), "The mount point belongs to another user.");
     useLabel("Data");
     giveAway(brisel());
-    expectRefusal(runTool(), "The folder .brisel belongs to somebody else.");
+    expectRefusal(runTool(), "The folder .brisel belongs to another user.");
     useLabel("Data");
     const std::string home = user->home();
     giveAway(home);
-    expectRefusal(runTool(), "The home folder belongs to somebody else.");
+    expectRefusal(runTool(), "The home folder belongs to another user.");
     shell("chown " + user->uid() + " " + home);
 }
 
 TEST_F(RefusedRequest, IsOneForTheHomeOfAnotherUser) {
-    expectRefusal(runTool("PKEXEC_UID=1"), "must be in .brisel of the asking user's home");
-    expectRefusal(runTool("-u PKEXEC_UID"), "must be in .brisel of the asking user's home");
+    expectRefusal(runTool("PKEXEC_UID=1"), "must be in .brisel of the requesting user's home");
+    expectRefusal(runTool("-u PKEXEC_UID"), "must be in .brisel of the requesting user's home");
 }
 
 TEST_F(RefusedRequest, IsOneForAFolderThatIsNotEmpty) {
@@ -80,16 +80,16 @@ TEST_F(RefusedRequest, IsOneForAFolderThatIsNotEmpty) {
 
 TEST_F(RefusedRequest, IsOneForAMissingFolderOrAFile) {
     fs::remove(mountPoint());
-    expectRefusal(runTool(), "The mount point is no folder that can be opened");
+    expectRefusal(runTool(), "The mount point cannot be opened as a folder");
     std::ofstream(mountPoint()) << "a file";
-    expectRefusal(runTool(), "The mount point is no folder that can be opened");
+    expectRefusal(runTool(), "The mount point cannot be opened as a folder");
 }
 
 TEST_F(RefusedRequest, IsOneForAMountPoint) {
     const auto bind = "mount --bind " + mountPoint() + " " + mountPoint();
     const auto other = "mount -t tmpfs -o uid=" + user->uid() + " none " + mountPoint();
     for (const auto& mount : {bind, other})
-        expectRefusal(runToolAfter(mount), "Something is mounted on the mount point already.");
+        expectRefusal(runToolAfter(mount), "A file system is already mounted on the mount point.");
 }
 
 TEST_F(RefusedRequest, IsOneThatClimbsOutOfDotBrisel) {
@@ -101,14 +101,14 @@ TEST_F(RefusedRequest, IsOneThatClimbsOutOfDotBrisel) {
 
 TEST_F(RefusedRequest, IsOneByAnInvalidUser) {
     for (const char* const uid : {"''", "-1", "+0", "0x0", "root", "' 0'", "4294967295"})
-        expectRefusal(runTool(std::string("PKEXEC_UID=") + uid), "PKEXEC_UID is not the number");
-    expectRefusal(runTool("PKEXEC_UID=4294967213"), "The user who asked does not exist.");
+        expectRefusal(runTool(std::string("PKEXEC_UID=") + uid), "PKEXEC_UID is not a user ID.");
+    expectRefusal(runTool("PKEXEC_UID=4294967213"), "The requesting user does not exist.");
 }
 
 TEST_F(RefusedRequest, IsOneWithoutRootsRights) {
-    expectRefusal(runTool(user->runs()), "This tool must be run by root.");
+    expectRefusal(runTool(user->runs()), "This tool must run as root.");
     expectRefusal(runTool("setpriv --ruid " + user->uid() + " --euid 0"),
-                  "This tool must be run by root.");
+                  "This tool must run as root.");
 }
 
 TEST_F(RefusedRequest, IsOneForADeviceThatIsNotABlockDevice) {

@@ -41,7 +41,7 @@ TEST_F(UntrustedDriver, ThatMountsNothingIsNotBelieved) {
 
 TEST_F(UntrustedDriver, ThatMountsReadOnlyIsNotBelieved) {
     expectNothingMounted(runWithDriver("exec " + realDriver() + " -o ro,nosuid,nodev $3 $4"), 18,
-                         "read-only, not read-write");
+                         "mounted the volume read-only");
 }
 
 TEST_F(UntrustedDriver, ThatMountsSomethingElseIsNotBelieved) {
@@ -60,16 +60,16 @@ TEST_F(UntrustedDriver, ThatMountsAnotherFileSystemIsNotBelieved) {
 
 TEST_F(UntrustedDriver, ThatLeavesOutTheProtectionIsNotBelieved) {
     expectNothingMounted(runWithDriver("exec " + realDriver() + " -o rw,nodev $3 $4"), 18,
-                         "without the protection");
+                         "without nosuid or nodev");
     expectNothingMounted(runWithDriver("exec " + realDriver() + " -o rw,nosuid $3 $4"), 18,
-                         "without the protection");
+                         "without nosuid or nodev");
 }
 
 TEST_F(UntrustedDriver, ThatFailsPassesOnItsStatusOrUnknown) {
     expectNothingMounted(runWithDriver("exit 16"), 16, "in use");
     expectNothingMounted(runWithDriver("exit 21"), 21, "FUSE");
-    expectNothingMounted(runWithDriver("exit 99"), 18, "without saying why");
-    expectNothingMounted(runWithDriver("kill -9 $$"), 18, "without saying why");
+    expectNothingMounted(runWithDriver("exit 99"), 18, "for an unknown reason");
+    expectNothingMounted(runWithDriver("kill -9 $$"), 18, "for an unknown reason");
     expectNothingMounted(runToolAfter("mount --bind /etc/passwd /usr/bin/ntfs-3g"), 1,
                          "cannot be started");
 }

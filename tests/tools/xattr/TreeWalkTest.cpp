@@ -91,7 +91,7 @@ TEST_F(AWalk, EndsWithAComplaintWhenAFolderIsMovedAwayWithIt) {
                                      "/above/folder/below/file", "/above/folder/below/deep",
                                      "/above/folder/below/deep/end"));
     EXPECT_THAT(complaints_,
-                ElementsAre(Pair("/above/folder", testing::HasSubstr("moved meanwhile"))));
+                ElementsAre(Pair("/above/folder", testing::HasSubstr("moved during the walk"))));
 }
 
 }  // namespace
