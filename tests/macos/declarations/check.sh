@@ -5,7 +5,8 @@
 # usage: check.sh ROOT x86_64|arm64 [SOURCE...]
 #
 # Compiles for macOS 11 and stops short of the code: what it shows is that the sources, and the facts
-# in facts.mm, agree with the interfaces as they are declared here. The C++ library is this system's, and so are the C
+# in facts.mm, agree with the interfaces as the project itself declares them, as much of them as it
+# uses. The C++ library is this system's, and so are the C
 # headers that include/ does not have, with their numbers of errors and signals.
 cd "$1" || exit 2
 processor=$2

@@ -1,7 +1,5 @@
 // Short words that Foundation brings along as macros: no function may have such a name.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 #define BRISEL_LOOKED_AT(value) \

@@ -1,7 +1,5 @@
 // Keeping blocks.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 #ifdef __cplusplus

@@ -1,7 +1,5 @@
 // Opening files and managing descriptors, with the Mac's numbers.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 #include <sys/types.h>

@@ -1,7 +1,5 @@
 // The part of POSIX that every program needs.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 #include <stddef.h>

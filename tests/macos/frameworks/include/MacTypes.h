@@ -1,8 +1,5 @@
 // The old number types of the Mac, on 64 bits.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
 #pragma once
 
 typedef unsigned char UInt8;

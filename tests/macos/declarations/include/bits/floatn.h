@@ -1,7 +1,5 @@
 // The floating-point types of the C library's headers: a Mac has none of 128 bits.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 #define __HAVE_FLOAT128 0

@@ -1,7 +1,5 @@
 // The signed numbers of stdint.h, which takes them from here: 64 bits are a long long.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 typedef __INT8_TYPE__ int8_t;

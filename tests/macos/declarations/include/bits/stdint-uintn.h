@@ -1,7 +1,5 @@
 // The unsigned numbers of stdint.h, which takes them from here.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 typedef __UINT8_TYPE__ uint8_t;

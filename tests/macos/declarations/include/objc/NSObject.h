@@ -1,7 +1,5 @@
 // The root class and its protocol.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>

@@ -1,7 +1,5 @@
 // The types of the Objective-C language.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 #include <stdbool.h>

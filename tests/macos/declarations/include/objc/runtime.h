@@ -1,7 +1,5 @@
 // Looking at classes and changing them.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 #include <objc/objc.h>

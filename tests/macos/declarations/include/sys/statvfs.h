@@ -1,7 +1,5 @@
 // How a file system is mounted.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking the adapters without a Mac.
 #pragma once
 
 #include <sys/types.h>

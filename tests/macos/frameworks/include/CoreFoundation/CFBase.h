@@ -1,16 +1,53 @@
-// What every Core Foundation header needs, and what every Core Foundation object can do.
+// The base of Core Foundation.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
 #pragma once
 
 #include <MacTypes.h>
+#include <os/availability.h>
 #include <stdbool.h>
 #include <stddef.h>
 #include <stdint.h>
 
-#include <CoreFoundation/CFAvailability.h>
+// How Core Foundation declares functions, enumerations and option sets.
+#ifdef __cplusplus
+#define CF_EXTERN_C_BEGIN extern "C" {
+#define CF_EXTERN_C_END }
+#define CF_EXPORT extern "C"
+#else
+#define CF_EXTERN_C_BEGIN
+#define CF_EXTERN_C_END
+#define CF_EXPORT extern
+#endif
+
+// In C++ the enumeration's name is a type already; the type definition that its header begins with
+// goes to a name that nobody uses.
+#ifdef __cplusplus
+#define BRISEL_CF_NAMED_ENUM(type, name) \
+    type brisel_type_of_##name;          \
+    enum __attribute__((enum_extensibility(open))) name : type
+#else
+#define BRISEL_CF_NAMED_ENUM(type, name)                             \
+    enum __attribute__((enum_extensibility(open))) name : type name; \
+    enum name : type
+#endif
+#define BRISEL_CF_ANONYMOUS_ENUM(type) enum __attribute__((enum_extensibility(open))) : type
+#define BRISEL_CF_CHOSEN_ENUM(first, second, chosen, ...) chosen
+#define CF_ENUM(...)                                                                     \
+    BRISEL_CF_CHOSEN_ENUM(__VA_ARGS__, BRISEL_CF_NAMED_ENUM, BRISEL_CF_ANONYMOUS_ENUM, ) \
+    (__VA_ARGS__)
+
+// In C++ the name of an option set is a plain number, so that its options can be combined.
+#ifdef __cplusplus
+#define CF_OPTIONS(type, name) \
+    type name;                 \
+    enum __attribute__((flag_enum, enum_extensibility(open))) : type
+#else
+#define CF_OPTIONS(type, name)                                                  \
+    enum __attribute__((flag_enum, enum_extensibility(open))) name : type name; \
+    enum name : type
+#endif
+
+// What every Core Foundation header needs, and what every Core Foundation object can do.
 
 #define CF_ASSUME_NONNULL_BEGIN _Pragma("clang assume_nonnull begin")
 #define CF_ASSUME_NONNULL_END _Pragma("clang assume_nonnull end")

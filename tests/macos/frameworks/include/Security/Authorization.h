@@ -1,8 +1,5 @@
 // Authorization Services.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
 #pragma once
 
 #include <CoreFoundation/CFBase.h>

@@ -1,8 +1,5 @@
 // The names of rights and of what goes with a request for them.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
 #pragma once
 
 #define kAuthorizationEnvironmentUsername "username"

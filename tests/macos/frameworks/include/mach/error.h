@@ -1,8 +1,5 @@
 // The kernel's error numbers: a system, a subsystem and a code in one signed number.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
 #pragma once
 
 typedef int kern_return_t;

@@ -1,8 +1,5 @@
 // From which version of macOS something is there, and since when it is deprecated.
 // SPDX-License-Identifier: MIT
-//
-// The project's own declarations of a public interface, for checking and running the adapters
-// without a Mac.
 #pragma once
 
 #define BRISEL_SINCE_macos(version) macos, introduced = version
