@@ -34,7 +34,6 @@ extern "C" {
 #endif
 
 int open(const char* path, int flags, ...);
-int creat(const char* path, mode_t mode);
 int fcntl(int descriptor, int command, ...);
 
 #ifdef __cplusplus

@@ -26,11 +26,6 @@ typedef signed char BOOL;
 extern "C" {
 #endif
 
-const char* _Nonnull sel_getName(SEL _Nonnull selector);
-SEL _Nonnull sel_registerName(const char* _Nonnull name);
-const char* _Nonnull object_getClassName(id _Nullable object);
-BOOL sel_isMapped(SEL _Nonnull selector);
-
 #ifdef __cplusplus
 }
 #endif

@@ -25,7 +25,6 @@ struct statvfs {
 extern "C" {
 #endif
 
-int fstatvfs(int descriptor, struct statvfs* result);
 int statvfs(const char* path, struct statvfs* result);
 
 #ifdef __cplusplus

@@ -83,9 +83,6 @@ CFTypeID CFGetTypeID(CFTypeRef object);
 CFTypeRef CFRetain(CFTypeRef object);
 // Crashes on null.
 void CFRelease(CFTypeRef object);
-CFIndex CFGetRetainCount(CFTypeRef object);
-Boolean CFEqual(CFTypeRef one, CFTypeRef other);
-CFHashCode CFHash(CFTypeRef object);
 
 CF_ASSUME_NONNULL_END
 CF_EXTERN_C_END

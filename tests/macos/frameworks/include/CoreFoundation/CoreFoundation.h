@@ -11,10 +11,6 @@ CF_ASSUME_NONNULL_BEGIN
 
 typedef const struct CF_BRIDGED_TYPE(NSArray) __CFArray* CFArrayRef;
 
-CFTypeID CFArrayGetTypeID(void);
-CFIndex CFArrayGetCount(CFArrayRef array);
-const void* _Null_unspecified CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
-
 CF_ASSUME_NONNULL_END
 CF_EXTERN_C_END
 
@@ -25,9 +21,6 @@ CF_ASSUME_NONNULL_BEGIN
 
 typedef const struct CF_BRIDGED_TYPE(NSDictionary) __CFDictionary* CFDictionaryRef;
 
-CFTypeID CFDictionaryGetTypeID(void);
-CFIndex CFDictionaryGetCount(CFDictionaryRef dictionary);
-Boolean CFDictionaryContainsKey(CFDictionaryRef dictionary, const void* key);
 // Null for a key that is not there; else the dictionary's own reference.
 const void* _Nullable CFDictionaryGetValue(CFDictionaryRef dictionary, const void* key);
 
@@ -59,8 +52,6 @@ typedef CF_ENUM(CFIndex, CFNumberType) {
 
 CFTypeID CFBooleanGetTypeID(void);
 Boolean CFBooleanGetValue(CFBooleanRef value);
-CFTypeID CFNumberGetTypeID(void);
-Boolean CFNumberGetValue(CFNumberRef number, CFNumberType type, void* value);
 
 CF_ASSUME_NONNULL_END
 CF_EXTERN_C_END
@@ -88,20 +79,8 @@ typedef CF_ENUM(CFStringEncoding, CFStringBuiltInEncodings) {
 };
 
 CFTypeID CFStringGetTypeID(void);
-CFIndex CFStringGetLength(CFStringRef string);
 // In bytes, without the terminating zero.
-CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding encoding);
 // False where the string and its terminating zero do not fit in the buffer.
-Boolean CFStringGetCString(CFStringRef string, char* buffer, CFIndex bufferSize,
-                           CFStringEncoding encoding);
-const char* _Nullable CFStringGetCStringPtr(CFStringRef string, CFStringEncoding encoding);
-CFStringRef _Nullable CFStringCreateWithCString(CFAllocatorRef _Nullable allocator,
-                                                const char* text,
-                                                CFStringEncoding encoding) CF_RETURNS_RETAINED;
-CFStringRef _Nullable CFStringCreateWithBytes(CFAllocatorRef _Nullable allocator,
-                                              const UInt8* bytes, CFIndex byteCount,
-                                              CFStringEncoding encoding,
-                                              Boolean startsWithMark) CF_RETURNS_RETAINED;
 
 CF_ASSUME_NONNULL_END
 CF_EXTERN_C_END
@@ -127,11 +106,6 @@ extern const CFRunLoopMode kCFRunLoopCommonModes;
 
 CFRunLoopRef _Null_unspecified CFRunLoopGetCurrent(void);
 CFRunLoopRef _Null_unspecified CFRunLoopGetMain(void);
-void CFRunLoopRun(void);
-CFRunLoopRunResult CFRunLoopRunInMode(CFRunLoopMode _Null_unspecified mode, CFTimeInterval seconds,
-                                      Boolean returnAfterSourceHandled);
-void CFRunLoopStop(CFRunLoopRef _Null_unspecified loop);
-void CFRunLoopWakeUp(CFRunLoopRef _Null_unspecified loop);
 
 CF_ASSUME_NONNULL_END
 CF_EXTERN_C_END
@@ -149,14 +123,6 @@ typedef CF_ENUM(CFIndex, CFURLPathStyle) {
 };
 
 CFTypeID CFURLGetTypeID(void);
-CFURLRef _Nullable CFURLCreateFromFileSystemRepresentation(CFAllocatorRef _Nullable allocator,
-                                                           const UInt8* path, CFIndex length,
-                                                           Boolean isDirectory) CF_RETURNS_RETAINED;
-CFURLRef _Nullable CFURLCreateWithFileSystemPath(CFAllocatorRef _Nullable allocator,
-                                                 CFStringRef path, CFURLPathStyle style,
-                                                 Boolean isDirectory) CF_RETURNS_RETAINED;
-CFStringRef _Nullable CFURLCopyFileSystemPath(CFURLRef url,
-                                              CFURLPathStyle style) CF_RETURNS_RETAINED;
 // False where the path and its terminating zero do not fit in the buffer.
 Boolean CFURLGetFileSystemRepresentation(CFURLRef url, Boolean resolveAgainstBase, UInt8* buffer,
                                          CFIndex bufferSize);
@@ -172,8 +138,6 @@ CF_ASSUME_NONNULL_BEGIN
 typedef const struct CF_BRIDGED_TYPE(id) __CFUUID* CFUUIDRef;
 
 CFTypeID CFUUIDGetTypeID(void);
-CFUUIDRef _Nullable CFUUIDCreateFromString(CFAllocatorRef _Nullable allocator,
-                                           CFStringRef text) CF_RETURNS_RETAINED;
 // Crashes on a null identifier.
 CFStringRef _Null_unspecified CFUUIDCreateString(CFAllocatorRef _Nullable allocator,
                                                  CFUUIDRef uuid) CF_RETURNS_RETAINED;

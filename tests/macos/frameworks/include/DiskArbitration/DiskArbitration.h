@@ -12,7 +12,6 @@ CF_ASSUME_NONNULL_BEGIN
 
 typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __DASession* DASessionRef;
 
-CFTypeID DASessionGetTypeID(void);
 DASessionRef _Nullable DASessionCreate(CFAllocatorRef _Nullable allocator) CF_RETURNS_RETAINED;
 void DASessionScheduleWithRunLoop(DASessionRef session, CFRunLoopRef runLoop,
                                   CFStringRef runLoopMode);
@@ -52,7 +51,6 @@ extern const CFStringRef kDADiskDescriptionMediaWritableKey;   // CFBoolean
 extern const CFStringRef kDADiskDescriptionDeviceInternalKey;  // CFBoolean
 extern const CFStringRef kDADiskDescriptionDeviceProtocolKey;  // CFString
 
-CFTypeID DADiskGetTypeID(void);
 DADiskRef _Nullable DADiskCreateFromBSDName(CFAllocatorRef _Nullable allocator,
                                             DASessionRef session,
                                             const char* name) CF_RETURNS_RETAINED;
@@ -62,7 +60,6 @@ DADiskRef _Nullable DADiskCreateFromVolumePath(CFAllocatorRef _Nullable allocato
 // The disk's own text, without /dev/.
 const char* _Nullable DADiskGetBSDName(DADiskRef disk);
 CFDictionaryRef _Nullable DADiskCopyDescription(DADiskRef disk) CF_RETURNS_RETAINED;
-DADiskRef _Nullable DADiskCopyWholeDisk(DADiskRef disk) CF_RETURNS_RETAINED;
 
 CF_ASSUME_NONNULL_END
 CF_EXTERN_C_END
@@ -94,10 +91,7 @@ enum {
     kDAReturnUnsupported = err_local | err_local_diskarbitration | 0x0C,
 };
 
-DADissenterRef DADissenterCreate(CFAllocatorRef _Nullable allocator, DAReturn status,
-                                 CFStringRef _Nullable string) CF_RETURNS_RETAINED;
 DAReturn DADissenterGetStatus(DADissenterRef dissenter);
-CFStringRef _Nullable DADissenterGetStatusString(DADissenterRef dissenter);
 
 CF_ASSUME_NONNULL_END
 CF_EXTERN_C_END
@@ -141,17 +135,11 @@ typedef void (*DADiskUnmountCallback)(DADiskRef disk, DADissenterRef _Nullable d
 
 void DARegisterDiskAppearedCallback(DASessionRef session, CFDictionaryRef _Nullable match,
                                     DADiskAppearedCallback callback, void* _Nullable context);
-void DARegisterDiskDescriptionChangedCallback(DASessionRef session, CFDictionaryRef _Nullable match,
-                                              CFArrayRef _Nullable watch,
-                                              DADiskDescriptionChangedCallback callback,
-                                              void* _Nullable context);
 void DARegisterDiskDisappearedCallback(DASessionRef session, CFDictionaryRef _Nullable match,
                                        DADiskDisappearedCallback callback, void* _Nullable context);
 void DAUnregisterCallback(DASessionRef session, void* callback, void* _Nullable context);
 
 // A completion may come before the call returns. `arguments` ends with a null.
-void DADiskMount(DADiskRef disk, CFURLRef _Nullable path, DADiskMountOptions options,
-                 DADiskMountCallback _Nullable callback, void* _Nullable context);
 void DADiskMountWithArguments(DADiskRef disk, CFURLRef _Nullable path, DADiskMountOptions options,
                               DADiskMountCallback _Nullable callback, void* _Nullable context,
                               CFStringRef _Nullable arguments[_Nullable]);

@@ -67,7 +67,6 @@ OSStatus AuthorizationCopyRights(AuthorizationRef authorization, const Authoriza
                                  const AuthorizationEnvironment* _Nullable environment,
                                  AuthorizationFlags flags,
                                  AuthorizationRights* _Nullable* _Nullable authorizedRights);
-OSStatus AuthorizationFreeItemSet(AuthorizationItemSet* set);
 // `arguments` ends with a null and leaves the tool's path out.
 OSStatus AuthorizationExecuteWithPrivileges(AuthorizationRef authorization, const char* pathToTool,
                                             AuthorizationFlags options,

@@ -21,13 +21,21 @@ typedef NS_ENUM(NSInteger, UNErrorCode) {
 typedef NSString* UNNotificationSoundName;
 
 API_AVAILABLE(macos(10.14))
-@interface UNNotificationSound : NSObject
+@interface UNNotificationSound : NSObject {
+    NSString* name_;
+}
 + (instancetype)soundNamed:(UNNotificationSoundName)name;
 @end
 
 // What a notification says.
 API_AVAILABLE(macos(10.14))
-@interface UNNotificationContent : NSObject
+@interface UNNotificationContent : NSObject {
+    NSString* title_;
+    NSString* body_;
+    NSString* categoryIdentifier_;
+    UNNotificationSound* sound_;
+    NSDictionary* userInfo_;
+}
 @property(readonly, copy) NSString* title;
 @property(readonly, copy) NSString* body;
 @property(readonly, copy) NSString* categoryIdentifier;
@@ -47,20 +55,28 @@ API_AVAILABLE(macos(10.14))
 
 // When a notification is shown.
 API_AVAILABLE(macos(10.14))
-@interface UNNotificationTrigger : NSObject
+@interface UNNotificationTrigger : NSObject {
+    BOOL repeats_;
+}
 @property(readonly) BOOL repeats;
 @end
 
 // An interval is greater than 0, and at least 60 seconds where it repeats.
 API_AVAILABLE(macos(10.14))
-@interface UNTimeIntervalNotificationTrigger : UNNotificationTrigger
+@interface UNTimeIntervalNotificationTrigger : UNNotificationTrigger {
+    NSTimeInterval timeInterval_;
+}
 @property(readonly) NSTimeInterval timeInterval;
 + (instancetype)triggerWithTimeInterval:(NSTimeInterval)timeInterval repeats:(BOOL)repeats;
 @end
 
 // The wish to show a notification.
 API_AVAILABLE(macos(10.14))
-@interface UNNotificationRequest : NSObject
+@interface UNNotificationRequest : NSObject {
+    NSString* identifier_;
+    UNNotificationContent* content_;
+    UNNotificationTrigger* trigger_;
+}
 @property(readonly, copy) NSString* identifier;
 @property(readonly, copy) UNNotificationContent* content;
 @property(readonly, copy, nullable) UNNotificationTrigger* trigger;
@@ -71,7 +87,9 @@ API_AVAILABLE(macos(10.14))
 
 // A notification that is shown.
 API_AVAILABLE(macos(10.14))
-@interface UNNotification : NSObject
+@interface UNNotification : NSObject {
+    UNNotificationRequest* request_;
+}
 @property(readonly, copy) UNNotificationRequest* request;
 @end
 
@@ -86,7 +104,10 @@ static const UNNotificationActionOptions UNNotificationActionOptionNone
     API_AVAILABLE(macos(10.14)) = 0;
 
 API_AVAILABLE(macos(10.14))
-@interface UNNotificationAction : NSObject
+@interface UNNotificationAction : NSObject {
+    NSString* identifier_;
+    NSString* title_;
+}
 @property(copy, readonly) NSString* identifier;
 @property(copy, readonly) NSString* title;
 + (instancetype)actionWithIdentifier:(NSString*)identifier
@@ -105,7 +126,10 @@ static const UNNotificationCategoryOptions UNNotificationCategoryOptionNone
     API_AVAILABLE(macos(10.14)) = 0;
 
 API_AVAILABLE(macos(10.14))
-@interface UNNotificationCategory : NSObject
+@interface UNNotificationCategory : NSObject {
+    NSString* identifier_;
+    NSArray<UNNotificationAction*>* actions_;
+}
 @property(copy, readonly) NSString* identifier;
 @property(copy, readonly) NSArray<UNNotificationAction*>* actions;
 + (instancetype)categoryWithIdentifier:(NSString*)identifier
@@ -121,7 +145,10 @@ extern NSString* const UNNotificationDefaultActionIdentifier API_AVAILABLE(macos
 extern NSString* const UNNotificationDismissActionIdentifier API_AVAILABLE(macos(10.14));
 
 API_AVAILABLE(macos(10.14))
-@interface UNNotificationResponse : NSObject
+@interface UNNotificationResponse : NSObject {
+    UNNotification* notification_;
+    NSString* actionIdentifier_;
+}
 @property(readonly, copy) UNNotification* notification;
 @property(readonly, copy) NSString* actionIdentifier;
 @end
