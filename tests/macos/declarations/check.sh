@@ -1,11 +1,13 @@
 #!/bin/sh
-# Type-checks the macOS sources against declarations of Apple's interfaces, for one processor.
+# Checks the macOS sources against the declarations of Apple's interfaces, for one kind of Mac.
 # SPDX-License-Identifier: MIT
 #
 # usage: check.sh ROOT x86_64|arm64 [SOURCE...]
 #
-# Compiles the sources and facts.mm for macOS 11 without generating code. The C++ library is the
-# host's, and so are the C headers that include/ lacks, with the host's error and signal numbers.
+# Compiles for macOS 11 and stops short of the code: what it shows is that the sources, and the facts
+# in facts.mm, agree with the interfaces as the project itself declares them, as much of them as it
+# uses. The C++ library is this system's, and so are the C
+# headers that include/ does not have, with their numbers of errors and signals.
 cd "$1" || exit 2
 processor=$2
 shift 2
@@ -13,23 +15,23 @@ compiler=${BRISEL_CLANG:-clang++}
 macos=tests/macos
 settings='-std=c++20 -fblocks -fno-objc-arc -I src -I .'
 
-# The warnings of cmake/BuildOptions.cmake and those for Apple's interfaces, as errors.
+# The project's own warnings, without the word that lets them pass.
 warnings="$(sed -n '/brisel_options INTERFACE$/,/)/s/[^-]*\(-W[^)]*\).*/\1/p' cmake/BuildOptions.cmake)
     -Werror -Wdeprecated-declarations -Wunguarded-availability -Wundeclared-selector
     -Wstrict-selector-match -Wsuper-class-method-mismatch -Wobjc-missing-super-calls
     -Wobjc-signed-char-bool -Wnullable-to-nonnull-conversion -Wnullability-completeness"
 
-# The host's headers require the host's processor.
+# This system's headers take the processor for its own.
 pretend() {
     echo "-D__$(uname -m)__"
     if [ "$(uname -m) $processor" = "x86_64 arm64" ]; then
         echo "-D__builtin_ia32_pause()=__builtin_arm_yield()"
     fi
-    # glibc has other uses for these keywords of Apple's compiler.
+    # Words of Apple's compilers, which this system's C library uses for its own ends.
     echo "-U__nonnull -U__nullable -U__null_unspecified -D_GNU_SOURCE"
 }
 
-# The host's include folders except the compiler's own.
+# The folders where this system's compiler looks, but for the compiler's own.
 system_folders() {
     "$compiler" -x c++ -E -v /dev/null 2>&1 >/dev/null |
         sed -n '/^#include <\.\.\.>/,/^End of/s/^ \//-isystem \//p' | grep -v /clang/
@@ -45,7 +47,7 @@ if ! command -v "$compiler" >/dev/null; then
     exit 1
 fi
 if [ $# -eq 0 ]; then
-    # The application, and the sources of the simulated Mac that use more than the standard library.
+    # What the application is built of, and what of the simulator asks for more than the standard library.
     set -- $(find src/platform/macos src/entry/macos helper src/platform/common src/privileged \
         -name '*.mm' -o -name '*.cpp' | sort) $(grep -l '#include <.*\.h>' src/platform/simulated/*.cpp)
     if [ $# -eq 0 ]; then

@@ -2,44 +2,38 @@
 // SPDX-License-Identifier: MIT
 #import "tests/macos/frameworks/UserNotificationValues.h"
 
-// Apple's classes declare no storage; their factory methods return the Stage subclasses.
-
 @implementation UNNotificationSound
 
 + (instancetype)soundNamed:(UNNotificationSoundName)name {
-    StageSound* const sound = [[[StageSound alloc] init] autorelease];
-    sound->name = [name copy];
+    UNNotificationSound* const sound = [[[self alloc] init] autorelease];
+    sound->name_ = [name copy];
     return sound;
 }
 
-@end
-
-@implementation StageSound
-
 - (void)dealloc {
-    [name release];
+    [name_ release];
     [super dealloc];
+}
+
+- (NSString*)name {
+    return name_;
 }
 
 @end
 
 @implementation UNNotificationAction
-@dynamic identifier;
-@dynamic title;
+@synthesize identifier = identifier_;
+@synthesize title = title_;
 
 + (instancetype)actionWithIdentifier:(NSString*)identifier
                                title:(NSString*)title
                              options:(UNNotificationActionOptions)options {
     (void)options;
-    StageAction* const action = [[[StageAction alloc] init] autorelease];
+    UNNotificationAction* const action = [[[self alloc] init] autorelease];
     action->identifier_ = [identifier copy];
     action->title_ = [title copy];
     return action;
 }
-
-@end
-
-@implementation StageAction
 
 - (void)dealloc {
     [identifier_ release];
@@ -47,19 +41,11 @@
     [super dealloc];
 }
 
-- (NSString*)identifier {
-    return identifier_;
-}
-
-- (NSString*)title {
-    return title_;
-}
-
 @end
 
 @implementation UNNotificationCategory
-@dynamic identifier;
-@dynamic actions;
+@synthesize identifier = identifier_;
+@synthesize actions = actions_;
 
 + (instancetype)categoryWithIdentifier:(NSString*)identifier
                                actions:(NSArray<UNNotificationAction*>*)actions
@@ -67,15 +53,11 @@
                                options:(UNNotificationCategoryOptions)options {
     (void)intentIdentifiers;
     (void)options;
-    StageCategory* const category = [[[StageCategory alloc] init] autorelease];
+    UNNotificationCategory* const category = [[[self alloc] init] autorelease];
     category->identifier_ = [identifier copy];
     category->actions_ = [actions copy];
     return category;
 }
-
-@end
-
-@implementation StageCategory
 
 - (void)dealloc {
     [identifier_ release];
@@ -83,29 +65,21 @@
     [super dealloc];
 }
 
-- (NSString*)identifier {
-    return identifier_;
-}
-
-- (NSArray<UNNotificationAction*>*)actions {
-    return actions_;
-}
-
 @end
 
 @implementation UNNotificationTrigger
-@dynamic repeats;
+@synthesize repeats = repeats_;
 @end
 
 @implementation UNTimeIntervalNotificationTrigger
-@dynamic timeInterval;
+@synthesize timeInterval = timeInterval_;
 
 + (instancetype)triggerWithTimeInterval:(NSTimeInterval)timeInterval repeats:(BOOL)repeats {
     if (timeInterval <= 0) {
         [NSException raise:NSInternalInconsistencyException
                     format:@"time interval must be greater than 0"];
     }
-    StageTrigger* const trigger = [[[StageTrigger alloc] init] autorelease];
+    UNTimeIntervalNotificationTrigger* const trigger = [[[self alloc] init] autorelease];
     trigger->timeInterval_ = timeInterval;
     trigger->repeats_ = repeats;
     return trigger;
@@ -113,41 +87,12 @@
 
 @end
 
-@implementation StageTrigger
-
-- (NSTimeInterval)timeInterval {
-    return timeInterval_;
-}
-
-- (BOOL)repeats {
-    return repeats_;
-}
-
-@end
-
 @implementation UNNotificationContent
-@dynamic title;
-@dynamic body;
-@dynamic sound;
-@dynamic categoryIdentifier;
-@dynamic userInfo;
-@end
-
-@implementation UNMutableNotificationContent
-@dynamic title;
-@dynamic body;
-@dynamic sound;
-@dynamic categoryIdentifier;
-@dynamic userInfo;
-
-+ (instancetype)allocWithZone:(NSZone*)zone {
-    if (self != [UNMutableNotificationContent class]) return [super allocWithZone:zone];
-    return [StageContent allocWithZone:zone];
-}
-
-@end
-
-@implementation StageContent
+@synthesize title = title_;
+@synthesize body = body_;
+@synthesize sound = sound_;
+@synthesize categoryIdentifier = categoryIdentifier_;
+@synthesize userInfo = userInfo_;
 
 - (void)dealloc {
     [title_ release];
@@ -158,40 +103,29 @@
     [super dealloc];
 }
 
-- (NSString*)title {
-    return title_;
-}
+@end
+
+@implementation UNMutableNotificationContent
+@dynamic title;
+@dynamic body;
+@dynamic sound;
+@dynamic categoryIdentifier;
+@dynamic userInfo;
 
 - (void)setTitle:(NSString*)title {
     ASSIGNCOPY(title_, title);
-}
-
-- (NSString*)body {
-    return body_;
 }
 
 - (void)setBody:(NSString*)body {
     ASSIGNCOPY(body_, body);
 }
 
-- (UNNotificationSound*)sound {
-    return sound_;
-}
-
 - (void)setSound:(UNNotificationSound*)sound {
     ASSIGN(sound_, sound);
 }
 
-- (NSString*)categoryIdentifier {
-    return categoryIdentifier_;
-}
-
 - (void)setCategoryIdentifier:(NSString*)identifier {
     ASSIGNCOPY(categoryIdentifier_, identifier);
-}
-
-- (NSDictionary*)userInfo {
-    return userInfo_;
 }
 
 - (void)setUserInfo:(NSDictionary*)userInfo {
@@ -201,23 +135,19 @@
 @end
 
 @implementation UNNotificationRequest
-@dynamic identifier;
-@dynamic content;
-@dynamic trigger;
+@synthesize identifier = identifier_;
+@synthesize content = content_;
+@synthesize trigger = trigger_;
 
 + (instancetype)requestWithIdentifier:(NSString*)identifier
                               content:(UNNotificationContent*)content
                               trigger:(UNNotificationTrigger*)trigger {
-    StageRequest* const request = [[[StageRequest alloc] init] autorelease];
+    UNNotificationRequest* const request = [[[self alloc] init] autorelease];
     request->identifier_ = [identifier copy];
     request->content_ = [content retain];
     request->trigger_ = [trigger retain];
     return request;
 }
-
-@end
-
-@implementation StageRequest
 
 - (void)dealloc {
     [identifier_ release];
@@ -226,16 +156,39 @@
     [super dealloc];
 }
 
-- (NSString*)identifier {
-    return identifier_;
+@end
+
+@implementation UNNotification
+@synthesize request = request_;
+
+- (instancetype)initWithRequest:(UNNotificationRequest*)request {
+    self = [super init];
+    request_ = [request retain];
+    return self;
 }
 
-- (UNNotificationContent*)content {
-    return content_;
+- (void)dealloc {
+    [request_ release];
+    [super dealloc];
 }
 
-- (UNNotificationTrigger*)trigger {
-    return trigger_;
+@end
+
+@implementation UNNotificationResponse
+@synthesize notification = notification_;
+@synthesize actionIdentifier = actionIdentifier_;
+
++ (instancetype)responseTo:(UNNotificationRequest*)request action:(NSString*)identifier {
+    UNNotificationResponse* const response = [[[self alloc] init] autorelease];
+    response->notification_ = [[UNNotification alloc] initWithRequest:request];
+    response->actionIdentifier_ = [identifier copy];
+    return response;
+}
+
+- (void)dealloc {
+    [notification_ release];
+    [actionIdentifier_ release];
+    [super dealloc];
 }
 
 @end

@@ -13,7 +13,6 @@
 
 #include "platform/macos/Text.h"
 #include "tests/macos/frameworks/Raising.h"
-#include "tests/macos/frameworks/UserNotificationResponses.h"
 #include "tests/macos/frameworks/UserNotificationValues.h"
 #include "tests/macos/frameworks/World.h"
 
@@ -79,13 +78,13 @@ platform::UserInfo valuesOf(NSDictionary* userInfo) {
 
 platform::NotificationRequest valueOf(UNNotificationRequest* request) {
     UNNotificationContent* const content = [request content];
-    const auto* const sound = static_cast<StageSound*>([content sound]);
+    UNNotificationSound* const sound = [content sound];
     const auto* const trigger = static_cast<UNTimeIntervalNotificationTrigger*>([request trigger]);
     const auto delay = std::chrono::duration<double>([trigger timeInterval]);
     return {.identifier = stdString([request identifier]),
             .title = stdString([content title]),
             .body = stdString([content body]),
-            .soundName = sound != nil ? stdString(sound->name) : "",
+            .soundName = sound != nil ? stdString([sound name]) : "",
             .categoryIdentifier = stdString([content categoryIdentifier]),
             .userInfo = valuesOf([content userInfo]),
             .delay = std::chrono::round<std::chrono::milliseconds>(delay)};
@@ -103,16 +102,11 @@ UNNotificationResponse* responseFrom(const platform::NotificationResponse& respo
     UNMutableNotificationContent* const content =
         [[[UNMutableNotificationContent alloc] init] autorelease];
     [content setUserInfo:userInfo];
-    StageNotification* const notification = [[[StageNotification alloc] init] autorelease];
-    notification->request_ =
-        [[UNNotificationRequest requestWithIdentifier:nsString(response.requestIdentifier)
-                                              content:content
-                                              trigger:nil] retain];
-    StageResponse* const made = [[[StageResponse alloc] init] autorelease];
-    made->notification_ = [notification retain];
-    made->actionIdentifier_ = nsString(response.actionIdentifier);
-    [made->actionIdentifier_ retain];
-    return made;
+    UNNotificationRequest* const request =
+        [UNNotificationRequest requestWithIdentifier:nsString(response.requestIdentifier)
+                                             content:content
+                                             trigger:nil];
+    return [UNNotificationResponse responseTo:request action:nsString(response.actionIdentifier)];
 }
 
 platform::NotificationCategory valueOf(UNNotificationCategory* category) {

@@ -1,7 +1,5 @@
-// Declares the assertion macros of Foundation, which reserve names such as check and verify.
+// Short words that Foundation brings along as macros: no function may have such a name.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #define BRISEL_LOOKED_AT(value) \

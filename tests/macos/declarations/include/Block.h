@@ -1,7 +1,5 @@
-// Declares Block_copy and Block_release.
+// Keeping blocks.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #ifdef __cplusplus
@@ -15,6 +13,6 @@ void _Block_release(const void* block);
 }
 #endif
 
-// The result has the block's type.
+// The type of the result is the block's own.
 #define Block_copy(...) ((__typeof(__VA_ARGS__))_Block_copy((const void*)(__VA_ARGS__)))
 #define Block_release(...) _Block_release((const void*)(__VA_ARGS__))

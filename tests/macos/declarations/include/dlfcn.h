@@ -1,7 +1,5 @@
-// Declares dlopen, dlsym and their constants.
+// Looking up symbols in what is loaded.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <stdbool.h>
@@ -23,10 +21,7 @@ extern "C" {
 #define RTLD_SELF ((void*)-3)
 #define RTLD_MAIN_ONLY ((void*)-5)
 
-void* dlopen(const char* path, int mode);
-int dlclose(void* handle);
 void* dlsym(void* handle, const char* symbol);
-char* dlerror(void);
 
 #ifdef __cplusplus
 }

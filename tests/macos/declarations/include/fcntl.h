@@ -1,7 +1,5 @@
-// Declares open, fcntl and their constants, with the values of macOS.
+// Opening files and managing descriptors, with the Mac's numbers.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <sys/types.h>
@@ -36,7 +34,6 @@ extern "C" {
 #endif
 
 int open(const char* path, int flags, ...);
-int creat(const char* path, mode_t mode);
 int fcntl(int descriptor, int command, ...);
 
 #ifdef __cplusplus

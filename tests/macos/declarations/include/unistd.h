@@ -1,7 +1,5 @@
-// Declares the part of POSIX that the program needs.
+// The part of POSIX that every program needs.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <stddef.h>
@@ -11,7 +9,7 @@
 #define NULL __null
 #endif
 
-// The thread headers of the C++ library require it.
+// What the thread headers of the C++ library ask for.
 #define _POSIX_TIMEOUTS 200112L
 
 #define STDIN_FILENO 0
@@ -28,31 +26,18 @@ extern "C" {
 
 extern char** environ;
 
-int access(const char* path, int mode);
 int chdir(const char* path);
 int close(int descriptor);
-int dup(int descriptor);
 int dup2(int from, int to);
-int execv(const char* path, char* const* arguments);
-int execve(const char* path, char* const* arguments, char* const* environment);
 void _exit(int status) __attribute__((noreturn));
 pid_t fork(void);
 char* getcwd(char* buffer, size_t size);
-gid_t getgid(void);
-gid_t getegid(void);
-pid_t getpid(void);
-pid_t getppid(void);
-uid_t getuid(void);
-uid_t geteuid(void);
-int isatty(int descriptor);
 int pipe(int descriptors[2]);
 ssize_t read(int descriptor, void* buffer, size_t count);
-int rmdir(const char* path);
 unsigned int sleep(unsigned int seconds);
-int unlink(const char* path);
 int usleep(useconds_t microseconds);
 ssize_t write(int descriptor, const void* buffer, size_t count);
-// The C++ library calls it; deprecated since macOS 10.12.
+// The C++ library at hand calls it; on the Mac it has been deprecated since 10.12.
 long syscall(long number, ...)
     __attribute__((availability(macos, introduced = 10.0, deprecated = 10.12)));
 

@@ -1,7 +1,5 @@
-// Declares the integer types of classic Mac OS, for 64 bits.
+// The old number types of the Mac, on 64 bits.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 typedef unsigned char UInt8;

@@ -1,7 +1,5 @@
-// Replaces glibc's floating-point feature macros: macOS has no 128-bit type.
+// The floating-point types of the C library's headers: a Mac has none of 128 bits.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #define __HAVE_FLOAT128 0

@@ -1,7 +1,5 @@
-// Replaces glibc's signed integer types: on macOS, 64 bits are a long long.
+// The signed numbers of stdint.h, which takes them from here: 64 bits are a long long.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 typedef __INT8_TYPE__ int8_t;

@@ -1,7 +1,5 @@
-// Replaces glibc's unsigned integer types: on macOS, 64 bits are a long long.
+// The unsigned numbers of stdint.h, which takes them from here.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 typedef __UINT8_TYPE__ uint8_t;

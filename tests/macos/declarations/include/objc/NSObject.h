@@ -1,7 +1,5 @@
-// Declares the root class NSObject and its protocol.
+// The root class and its protocol.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -13,7 +11,7 @@ typedef unsigned long NSUInteger;
 @class NSString, NSMethodSignature, NSInvocation, Protocol;
 typedef struct _NSZone NSZone;
 
-// Without nullability, as in Apple's header.
+// What may be null here is not written down, as little as it is in the platform's own header.
 @protocol NSObject
 - (BOOL)isEqual:(id)object;
 @property(readonly) NSUInteger hash;

@@ -1,7 +1,5 @@
-// Declares the basic types of Objective-C.
+// The types of the Objective-C language.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <stdbool.h>
@@ -9,10 +7,10 @@
 typedef struct objc_class* Class;
 typedef struct objc_object* id;
 typedef struct objc_selector* SEL;
-// Cast to the method's type before calling.
+// Called only through a pointer cast to the method's own type.
 typedef void (*IMP)(void);
 
-// A signed char on Intel, a bool on Apple silicon.
+// A signed char on Intel, a bool on Apple silicon: the compiler knows.
 #if __OBJC_BOOL_IS_BOOL
 typedef bool BOOL;
 #else
@@ -27,11 +25,6 @@ typedef signed char BOOL;
 #ifdef __cplusplus
 extern "C" {
 #endif
-
-const char* _Nonnull sel_getName(SEL _Nonnull selector);
-SEL _Nonnull sel_registerName(const char* _Nonnull name);
-const char* _Nonnull object_getClassName(id _Nullable object);
-BOOL sel_isMapped(SEL _Nonnull selector);
 
 #ifdef __cplusplus
 }

@@ -1,7 +1,5 @@
-// Declares functions of the Objective-C runtime.
+// Looking at classes and changing them.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <objc/objc.h>
@@ -25,30 +23,9 @@ typedef unsigned long objc_AssociationPolicy;
 extern "C" {
 #endif
 
-Class _Nullable object_getClass(id _Nullable object);
-Class _Nullable object_setClass(id _Nullable object, Class _Nonnull cls);
-Class _Nullable objc_getClass(const char* _Nonnull name);
-Class _Nullable objc_lookUpClass(const char* _Nonnull name);
-
-const char* _Nonnull class_getName(Class _Nullable cls);
-Class _Nullable class_getSuperclass(Class _Nullable cls);
-Method _Nullable class_getInstanceMethod(Class _Nullable cls, SEL _Nonnull name);
-Method _Nullable class_getClassMethod(Class _Nullable cls, SEL _Nonnull name);
-BOOL class_respondsToSelector(Class _Nullable cls, SEL _Nonnull selector);
-BOOL class_conformsToProtocol(Class _Nullable cls, Protocol* _Nullable protocol);
-// False if the class itself already has this method.
+// False where the class itself has such a method already.
 BOOL class_addMethod(Class _Nullable cls, SEL _Nonnull name, IMP _Nonnull implementation,
                      const char* _Nullable types);
-IMP _Nullable class_replaceMethod(Class _Nullable cls, SEL _Nonnull name,
-                                  IMP _Nonnull implementation, const char* _Nullable types);
-
-IMP _Nonnull method_getImplementation(Method _Nonnull method);
-SEL _Nonnull method_getName(Method _Nonnull method);
-BOOL sel_isEqual(SEL _Nonnull one, SEL _Nonnull other);
-
-id _Nullable objc_getAssociatedObject(id _Nonnull object, const void* _Nonnull key);
-void objc_setAssociatedObject(id _Nonnull object, const void* _Nonnull key, id _Nullable value,
-                              objc_AssociationPolicy policy);
 
 #ifdef __cplusplus
 }

@@ -1,7 +1,5 @@
-// Declares sockets, with the values of macOS.
+// Sockets, with the Mac's numbers.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <sys/types.h>
@@ -34,11 +32,7 @@ struct sockaddr {
 extern "C" {
 #endif
 
-int getsockopt(int socket, int level, int name, void* value, unsigned int* length);
-ssize_t recv(int socket, void* buffer, size_t length, int flags);
 ssize_t send(int socket, const void* buffer, size_t length, int flags);
-int setsockopt(int socket, int level, int name, const void* value, unsigned int length);
-int shutdown(int socket, int how);
 int socket(int domain, int type, int protocol);
 int socketpair(int domain, int type, int protocol, int descriptors[2]);
 

@@ -1,7 +1,5 @@
-// Declares statvfs.
+// How a file system is mounted.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile the adapters without a Mac.
 #pragma once
 
 #include <sys/types.h>
@@ -27,7 +25,6 @@ struct statvfs {
 extern "C" {
 #endif
 
-int fstatvfs(int descriptor, struct statvfs* result);
 int statvfs(const char* path, struct statvfs* result);
 
 #ifdef __cplusplus

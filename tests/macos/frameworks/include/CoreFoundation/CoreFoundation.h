@@ -1,15 +1,146 @@
-// Core Foundation's umbrella header, with the parts that a small menu-bar program needs.
+// Core Foundation, as much of it as the application uses.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
-#include <CoreFoundation/CFArray.h>
-#include <CoreFoundation/CFAvailability.h>
 #include <CoreFoundation/CFBase.h>
-#include <CoreFoundation/CFDictionary.h>
-#include <CoreFoundation/CFNumber.h>
-#include <CoreFoundation/CFRunLoop.h>
-#include <CoreFoundation/CFString.h>
-#include <CoreFoundation/CFURL.h>
-#include <CoreFoundation/CFUUID.h>
+
+// Arrays.
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef const struct CF_BRIDGED_TYPE(NSArray) __CFArray* CFArrayRef;
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END
+
+// Dictionaries.
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef const struct CF_BRIDGED_TYPE(NSDictionary) __CFDictionary* CFDictionaryRef;
+
+// Null for a key that is not there; else the dictionary's own reference.
+const void* _Nullable CFDictionaryGetValue(CFDictionaryRef dictionary, const void* key);
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END
+
+// Truth values and numbers.
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef const struct CF_BRIDGED_TYPE(NSNumber) __CFBoolean* CFBooleanRef;
+typedef const struct CF_BRIDGED_TYPE(NSNumber) __CFNumber* CFNumberRef;
+
+extern const CFBooleanRef kCFBooleanTrue;
+extern const CFBooleanRef kCFBooleanFalse;
+
+typedef CF_ENUM(CFIndex, CFNumberType) {
+    kCFNumberSInt8Type = 1,
+    kCFNumberSInt16Type = 2,
+    kCFNumberSInt32Type = 3,
+    kCFNumberSInt64Type = 4,
+    kCFNumberFloat32Type = 5,
+    kCFNumberFloat64Type = 6,
+    kCFNumberIntType = 9,
+    kCFNumberLongLongType = 11,
+    kCFNumberDoubleType = 13,
+};
+
+CFTypeID CFBooleanGetTypeID(void);
+Boolean CFBooleanGetValue(CFBooleanRef value);
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END
+
+// Strings.
+
+// A constant string of the program itself.
+#ifdef __OBJC__
+#define CFSTR(text) ((CFStringRef) @text)
+#else
+#define CFSTR(text) ((CFStringRef)__builtin___CFStringMakeConstantString(text))
+#endif
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef UInt32 CFStringEncoding;
+
+typedef CF_ENUM(CFStringEncoding, CFStringBuiltInEncodings) {
+    kCFStringEncodingMacRoman = 0,
+    kCFStringEncodingISOLatin1 = 0x0201,
+    kCFStringEncodingASCII = 0x0600,
+    kCFStringEncodingUnicode = 0x0100,
+    kCFStringEncodingUTF8 = 0x08000100,
+};
+
+CFTypeID CFStringGetTypeID(void);
+// In bytes, without the terminating zero.
+// False where the string and its terminating zero do not fit in the buffer.
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END
+
+// Run loops and their modes.
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef double CFTimeInterval;
+typedef CFStringRef CFRunLoopMode;
+typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFRunLoop* CFRunLoopRef;
+
+typedef CF_ENUM(SInt32, CFRunLoopRunResult) {
+    kCFRunLoopRunFinished = 1,
+    kCFRunLoopRunStopped = 2,
+    kCFRunLoopRunTimedOut = 3,
+    kCFRunLoopRunHandledSource = 4,
+};
+
+extern const CFRunLoopMode kCFRunLoopDefaultMode;
+extern const CFRunLoopMode kCFRunLoopCommonModes;
+
+CFRunLoopRef _Null_unspecified CFRunLoopGetCurrent(void);
+CFRunLoopRef _Null_unspecified CFRunLoopGetMain(void);
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END
+
+// Addresses.
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef const struct CF_BRIDGED_TYPE(NSURL) __CFURL* CFURLRef;
+
+typedef CF_ENUM(CFIndex, CFURLPathStyle) {
+    kCFURLPOSIXPathStyle = 0,
+    kCFURLWindowsPathStyle = 2,
+};
+
+CFTypeID CFURLGetTypeID(void);
+// False where the path and its terminating zero do not fit in the buffer.
+Boolean CFURLGetFileSystemRepresentation(CFURLRef url, Boolean resolveAgainstBase, UInt8* buffer,
+                                         CFIndex bufferSize);
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END
+
+// Universally unique identifiers; no Objective-C class is the same.
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef const struct CF_BRIDGED_TYPE(id) __CFUUID* CFUUIDRef;
+
+CFTypeID CFUUIDGetTypeID(void);
+// Crashes on a null identifier.
+CFStringRef _Null_unspecified CFUUIDCreateString(CFAllocatorRef _Nullable allocator,
+                                                 CFUUIDRef uuid) CF_RETURNS_RETAINED;
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END

@@ -1,17 +1,107 @@
-// Disk Arbitration's umbrella header: callbacks for disks, and mount and unmount requests.
+// Disk Arbitration, as much of it as the application uses.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
-#include <DiskArbitration/DADisk.h>
-#include <DiskArbitration/DADissenter.h>
-#include <DiskArbitration/DASession.h>
+#include <CoreFoundation/CoreFoundation.h>
+#include <mach/error.h>
+
+// A session with the service that watches disks.
 
 CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
-// Null until the first session is created. Passing null matches every disk.
+typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __DASession* DASessionRef;
+
+DASessionRef _Nullable DASessionCreate(CFAllocatorRef _Nullable allocator) CF_RETURNS_RETAINED;
+void DASessionScheduleWithRunLoop(DASessionRef session, CFRunLoopRef runLoop,
+                                  CFStringRef runLoopMode);
+// A session must not be released while it is scheduled.
+void DASessionUnscheduleFromRunLoop(DASessionRef session, CFRunLoopRef runLoop,
+                                    CFStringRef runLoopMode);
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END
+
+// Disks and the keys of their descriptions.
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __DADisk* DADiskRef;
+
+extern const CFStringRef kDADiskDescriptionVolumeKindKey;       // CFString
+extern const CFStringRef kDADiskDescriptionVolumeMountableKey;  // CFBoolean
+extern const CFStringRef kDADiskDescriptionVolumeNameKey;       // CFString
+extern const CFStringRef kDADiskDescriptionVolumeNetworkKey;    // CFBoolean
+extern const CFStringRef kDADiskDescriptionVolumePathKey;       // CFURL
+extern const CFStringRef kDADiskDescriptionVolumeTypeKey;       // CFString
+extern const CFStringRef kDADiskDescriptionVolumeUUIDKey;       // CFUUID
+
+extern const CFStringRef kDADiskDescriptionMediaBlockSizeKey;  // CFNumber
+extern const CFStringRef kDADiskDescriptionMediaBSDNameKey;    // CFString
+extern const CFStringRef kDADiskDescriptionMediaContentKey;    // CFString
+extern const CFStringRef kDADiskDescriptionMediaEjectableKey;  // CFBoolean
+extern const CFStringRef kDADiskDescriptionMediaLeafKey;       // CFBoolean
+extern const CFStringRef kDADiskDescriptionMediaRemovableKey;  // CFBoolean
+extern const CFStringRef kDADiskDescriptionMediaSizeKey;       // CFNumber
+extern const CFStringRef kDADiskDescriptionMediaUUIDKey;       // CFUUID
+extern const CFStringRef kDADiskDescriptionMediaWholeKey;      // CFBoolean
+extern const CFStringRef kDADiskDescriptionMediaWritableKey;   // CFBoolean
+
+extern const CFStringRef kDADiskDescriptionDeviceInternalKey;  // CFBoolean
+extern const CFStringRef kDADiskDescriptionDeviceProtocolKey;  // CFString
+
+DADiskRef _Nullable DADiskCreateFromBSDName(CFAllocatorRef _Nullable allocator,
+                                            DASessionRef session,
+                                            const char* name) CF_RETURNS_RETAINED;
+DADiskRef _Nullable DADiskCreateFromVolumePath(CFAllocatorRef _Nullable allocator,
+                                               DASessionRef session,
+                                               CFURLRef path) CF_RETURNS_RETAINED;
+// The disk's own text, without /dev/.
+const char* _Nullable DADiskGetBSDName(DADiskRef disk);
+CFDictionaryRef _Nullable DADiskCopyDescription(DADiskRef disk) CF_RETURNS_RETAINED;
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END
+
+// Refusals of requests, and their statuses.
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+typedef const struct CF_BRIDGED_TYPE(id) __DADissenter* DADissenterRef;
+// Signed: 0xF8DA0001 and its like are negative.
+typedef mach_error_t DAReturn;
+
+#define err_local_diskarbitration err_sub(0x368)
+
+enum {
+    kDAReturnSuccess = 0,
+    kDAReturnError = err_local | err_local_diskarbitration | 0x01,
+    kDAReturnBusy = err_local | err_local_diskarbitration | 0x02,
+    kDAReturnBadArgument = err_local | err_local_diskarbitration | 0x03,
+    kDAReturnExclusiveAccess = err_local | err_local_diskarbitration | 0x04,
+    kDAReturnNoResources = err_local | err_local_diskarbitration | 0x05,
+    kDAReturnNotFound = err_local | err_local_diskarbitration | 0x06,
+    kDAReturnNotMounted = err_local | err_local_diskarbitration | 0x07,
+    kDAReturnNotPermitted = err_local | err_local_diskarbitration | 0x08,
+    kDAReturnNotPrivileged = err_local | err_local_diskarbitration | 0x09,
+    kDAReturnNotReady = err_local | err_local_diskarbitration | 0x0A,
+    kDAReturnNotWritable = err_local | err_local_diskarbitration | 0x0B,
+    kDAReturnUnsupported = err_local | err_local_diskarbitration | 0x0C,
+};
+
+DAReturn DADissenterGetStatus(DADissenterRef dissenter);
+
+CF_ASSUME_NONNULL_END
+CF_EXTERN_C_END
+
+// Requests.
+
+CF_EXTERN_C_BEGIN
+CF_ASSUME_NONNULL_BEGIN
+
+// Null until the first session is created; null as a match means every disk.
 extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchMediaUnformatted;
 extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchMediaWhole;
 extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchVolumeMountable;
@@ -45,17 +135,11 @@ typedef void (*DADiskUnmountCallback)(DADiskRef disk, DADissenterRef _Nullable d
 
 void DARegisterDiskAppearedCallback(DASessionRef session, CFDictionaryRef _Nullable match,
                                     DADiskAppearedCallback callback, void* _Nullable context);
-void DARegisterDiskDescriptionChangedCallback(DASessionRef session, CFDictionaryRef _Nullable match,
-                                              CFArrayRef _Nullable watch,
-                                              DADiskDescriptionChangedCallback callback,
-                                              void* _Nullable context);
 void DARegisterDiskDisappearedCallback(DASessionRef session, CFDictionaryRef _Nullable match,
                                        DADiskDisappearedCallback callback, void* _Nullable context);
 void DAUnregisterCallback(DASessionRef session, void* callback, void* _Nullable context);
 
-// A callback may run before the call returns. `arguments` ends with a null.
-void DADiskMount(DADiskRef disk, CFURLRef _Nullable path, DADiskMountOptions options,
-                 DADiskMountCallback _Nullable callback, void* _Nullable context);
+// A completion may come before the call returns. `arguments` ends with a null.
 void DADiskMountWithArguments(DADiskRef disk, CFURLRef _Nullable path, DADiskMountOptions options,
                               DADiskMountCallback _Nullable callback, void* _Nullable context,
                               CFStringRef _Nullable arguments[_Nullable]);

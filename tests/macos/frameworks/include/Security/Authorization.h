@@ -1,7 +1,5 @@
-// Declares Authorization Services.
+// Authorization Services.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CFBase.h>
@@ -44,7 +42,7 @@ enum { kAuthorizationFlagCanNotPreAuthorize = 1 << 0 };
 typedef const struct AuthorizationOpaqueRef* AuthorizationRef;
 typedef const char* AuthorizationString;
 
-// `value` points to `valueLength` bytes, or is null with length 0.
+// `value` points to `valueLength` bytes, or is null with a length of 0.
 typedef struct {
     AuthorizationString name;
     size_t valueLength;
@@ -69,8 +67,7 @@ OSStatus AuthorizationCopyRights(AuthorizationRef authorization, const Authoriza
                                  const AuthorizationEnvironment* _Nullable environment,
                                  AuthorizationFlags flags,
                                  AuthorizationRights* _Nullable* _Nullable authorizedRights);
-OSStatus AuthorizationFreeItemSet(AuthorizationItemSet* set);
-// `arguments` ends with a null and excludes the tool's path.
+// `arguments` ends with a null and leaves the tool's path out.
 OSStatus AuthorizationExecuteWithPrivileges(AuthorizationRef authorization, const char* pathToTool,
                                             AuthorizationFlags options,
                                             char* _Nonnull const* _Nonnull arguments,

@@ -1,7 +1,5 @@
-// Declares the names of rights and of environment items.
+// The names of rights and of what goes with a request for them.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #define kAuthorizationEnvironmentUsername "username"

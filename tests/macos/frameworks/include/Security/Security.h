@@ -1,7 +1,5 @@
-// Security's umbrella header, with the parts that a small menu-bar program needs.
+// Security, as much of it as a small menu-bar program needs.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <Security/Authorization.h>

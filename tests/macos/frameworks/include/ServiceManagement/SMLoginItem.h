@@ -1,7 +1,5 @@
-// Declares SMLoginItemSetEnabled.
+// Login items: helper applications inside an application.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -9,7 +7,7 @@
 CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
-// True if the calling application contains the helper and its state changed.
+// Whether the helper was found in the calling application and its state changed.
 Boolean SMLoginItemSetEnabled(CFStringRef identifier, Boolean enabled)
     API_DEPRECATED("use SMAppService", macos(10.6, 13.0));
 

@@ -1,7 +1,5 @@
-// Declares Mach error numbers: system, subsystem and code in one signed integer.
+// The kernel's error numbers: a system, a subsystem and a code in one signed number.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 typedef int kern_return_t;

@@ -1,7 +1,5 @@
-// Declares the macros for availability and deprecation.
+// From which version of macOS something is there, and since when it is deprecated.
 // SPDX-License-Identifier: MIT
-//
-// Our declarations of a public interface, to compile and run the adapters without a Mac.
 #pragma once
 
 #define BRISEL_SINCE_macos(version) macos, introduced = version
