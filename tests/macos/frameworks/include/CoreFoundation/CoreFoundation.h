@@ -11,32 +11,15 @@ CF_ASSUME_NONNULL_BEGIN
 
 typedef const struct CF_BRIDGED_TYPE(NSArray) __CFArray* CFArrayRef;
 
-CF_ASSUME_NONNULL_END
-CF_EXTERN_C_END
-
 // Dictionaries.
-
-CF_EXTERN_C_BEGIN
-CF_ASSUME_NONNULL_BEGIN
-
 typedef const struct CF_BRIDGED_TYPE(NSDictionary) __CFDictionary* CFDictionaryRef;
 
 // Null for a key that is not there; else the dictionary's own reference.
 const void* _Nullable CFDictionaryGetValue(CFDictionaryRef dictionary, const void* key);
 
-CF_ASSUME_NONNULL_END
-CF_EXTERN_C_END
-
 // Truth values and numbers.
-
-CF_EXTERN_C_BEGIN
-CF_ASSUME_NONNULL_BEGIN
-
 typedef const struct CF_BRIDGED_TYPE(NSNumber) __CFBoolean* CFBooleanRef;
 typedef const struct CF_BRIDGED_TYPE(NSNumber) __CFNumber* CFNumberRef;
-
-extern const CFBooleanRef kCFBooleanTrue;
-extern const CFBooleanRef kCFBooleanFalse;
 
 typedef CF_ENUM(CFIndex, CFNumberType) {
     kCFNumberSInt8Type = 1,
@@ -79,17 +62,8 @@ typedef CF_ENUM(CFStringEncoding, CFStringBuiltInEncodings) {
 };
 
 CFTypeID CFStringGetTypeID(void);
-// In bytes, without the terminating zero.
-// False where the string and its terminating zero do not fit in the buffer.
-
-CF_ASSUME_NONNULL_END
-CF_EXTERN_C_END
 
 // Run loops and their modes.
-
-CF_EXTERN_C_BEGIN
-CF_ASSUME_NONNULL_BEGIN
-
 typedef double CFTimeInterval;
 typedef CFStringRef CFRunLoopMode;
 typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFRunLoop* CFRunLoopRef;
@@ -107,14 +81,7 @@ extern const CFRunLoopMode kCFRunLoopCommonModes;
 CFRunLoopRef _Null_unspecified CFRunLoopGetCurrent(void);
 CFRunLoopRef _Null_unspecified CFRunLoopGetMain(void);
 
-CF_ASSUME_NONNULL_END
-CF_EXTERN_C_END
-
 // Addresses.
-
-CF_EXTERN_C_BEGIN
-CF_ASSUME_NONNULL_BEGIN
-
 typedef const struct CF_BRIDGED_TYPE(NSURL) __CFURL* CFURLRef;
 
 typedef CF_ENUM(CFIndex, CFURLPathStyle) {
@@ -127,14 +94,7 @@ CFTypeID CFURLGetTypeID(void);
 Boolean CFURLGetFileSystemRepresentation(CFURLRef url, Boolean resolveAgainstBase, UInt8* buffer,
                                          CFIndex bufferSize);
 
-CF_ASSUME_NONNULL_END
-CF_EXTERN_C_END
-
 // Universally unique identifiers; no Objective-C class is the same.
-
-CF_EXTERN_C_BEGIN
-CF_ASSUME_NONNULL_BEGIN
-
 typedef const struct CF_BRIDGED_TYPE(id) __CFUUID* CFUUIDRef;
 
 CFTypeID CFUUIDGetTypeID(void);

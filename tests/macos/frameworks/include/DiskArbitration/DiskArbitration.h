@@ -19,37 +19,17 @@ void DASessionScheduleWithRunLoop(DASessionRef session, CFRunLoopRef runLoop,
 void DASessionUnscheduleFromRunLoop(DASessionRef session, CFRunLoopRef runLoop,
                                     CFStringRef runLoopMode);
 
-CF_ASSUME_NONNULL_END
-CF_EXTERN_C_END
-
 // Disks and the keys of their descriptions.
-
-CF_EXTERN_C_BEGIN
-CF_ASSUME_NONNULL_BEGIN
-
 typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __DADisk* DADiskRef;
 
 extern const CFStringRef kDADiskDescriptionVolumeKindKey;       // CFString
 extern const CFStringRef kDADiskDescriptionVolumeMountableKey;  // CFBoolean
 extern const CFStringRef kDADiskDescriptionVolumeNameKey;       // CFString
-extern const CFStringRef kDADiskDescriptionVolumeNetworkKey;    // CFBoolean
 extern const CFStringRef kDADiskDescriptionVolumePathKey;       // CFURL
-extern const CFStringRef kDADiskDescriptionVolumeTypeKey;       // CFString
 extern const CFStringRef kDADiskDescriptionVolumeUUIDKey;       // CFUUID
 
-extern const CFStringRef kDADiskDescriptionMediaBlockSizeKey;  // CFNumber
-extern const CFStringRef kDADiskDescriptionMediaBSDNameKey;    // CFString
-extern const CFStringRef kDADiskDescriptionMediaContentKey;    // CFString
-extern const CFStringRef kDADiskDescriptionMediaEjectableKey;  // CFBoolean
-extern const CFStringRef kDADiskDescriptionMediaLeafKey;       // CFBoolean
-extern const CFStringRef kDADiskDescriptionMediaRemovableKey;  // CFBoolean
-extern const CFStringRef kDADiskDescriptionMediaSizeKey;       // CFNumber
-extern const CFStringRef kDADiskDescriptionMediaUUIDKey;       // CFUUID
-extern const CFStringRef kDADiskDescriptionMediaWholeKey;      // CFBoolean
-extern const CFStringRef kDADiskDescriptionMediaWritableKey;   // CFBoolean
-
-extern const CFStringRef kDADiskDescriptionDeviceInternalKey;  // CFBoolean
-extern const CFStringRef kDADiskDescriptionDeviceProtocolKey;  // CFString
+extern const CFStringRef kDADiskDescriptionMediaBSDNameKey;  // CFString
+extern const CFStringRef kDADiskDescriptionMediaUUIDKey;     // CFUUID
 
 DADiskRef _Nullable DADiskCreateFromBSDName(CFAllocatorRef _Nullable allocator,
                                             DASessionRef session,
@@ -61,14 +41,7 @@ DADiskRef _Nullable DADiskCreateFromVolumePath(CFAllocatorRef _Nullable allocato
 const char* _Nullable DADiskGetBSDName(DADiskRef disk);
 CFDictionaryRef _Nullable DADiskCopyDescription(DADiskRef disk) CF_RETURNS_RETAINED;
 
-CF_ASSUME_NONNULL_END
-CF_EXTERN_C_END
-
 // Refusals of requests, and their statuses.
-
-CF_EXTERN_C_BEGIN
-CF_ASSUME_NONNULL_BEGIN
-
 typedef const struct CF_BRIDGED_TYPE(id) __DADissenter* DADissenterRef;
 // Signed: 0xF8DA0001 and its like are negative.
 typedef mach_error_t DAReturn;
@@ -93,21 +66,9 @@ enum {
 
 DAReturn DADissenterGetStatus(DADissenterRef dissenter);
 
-CF_ASSUME_NONNULL_END
-CF_EXTERN_C_END
-
 // Requests.
-
-CF_EXTERN_C_BEGIN
-CF_ASSUME_NONNULL_BEGIN
-
 // Null until the first session is created; null as a match means every disk.
-extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchMediaUnformatted;
-extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchMediaWhole;
 extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchVolumeMountable;
-extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchVolumeUnrecognized;
-extern CFArrayRef _Null_unspecified kDADiskDescriptionWatchVolumeName;
-extern CFArrayRef _Null_unspecified kDADiskDescriptionWatchVolumePath;
 
 enum { kDADiskOptionDefault = 0x00000000 };
 
