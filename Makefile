@@ -7,7 +7,7 @@ all:
 	cmake --preset release
 	cmake --build --preset release
 
-# Installs what any of the targets needs.
+# Installs the packages that the other targets need.
 deps:
 	scripts/install-needs all
 
