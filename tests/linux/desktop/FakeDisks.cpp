@@ -40,6 +40,9 @@ FakeDisks::FakeDisks() {
     udisks_object_skeleton_set_block(object_.get(), block_.get());
     udisks_object_skeleton_set_filesystem(object_.get(), filesystem_.get());
     g_dbus_object_manager_server_export(objects_.get(), G_DBUS_OBJECT_SKELETON(object_.get()));
+    udisks_block_set_device(otherBlock_.get(), "/dev/sdy1");
+    udisks_object_skeleton_set_block(otherObject_.get(), otherBlock_.get());
+    g_dbus_object_manager_server_export(objects_.get(), G_DBUS_OBJECT_SKELETON(otherObject_.get()));
     g_dbus_object_manager_server_set_connection(objects_.get(), bus_.get());
     const OwnedVariant answer(g_dbus_connection_call_sync(
         bus_.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
@@ -63,6 +66,38 @@ void FakeDisks::behaveAs(Release release, Drivers drivers) {
 void FakeDisks::script(const std::vector<std::string>& results) {
     scripted_ = {results.begin(), results.end()};
     calls_.clear();
+}
+
+void FakeDisks::setMounted(const std::string& mountPoint) {
+    const std::array<const char*, 2> points{mountPoint.c_str(), nullptr};
+    udisks_filesystem_set_mount_points(filesystem_.get(), points.data());
+    g_dbus_interface_skeleton_flush(G_DBUS_INTERFACE_SKELETON(filesystem_.get()));
+}
+
+void FakeDisks::setUnmounted() {
+    const std::array<const char*, 1> none{nullptr};
+    udisks_filesystem_set_mount_points(filesystem_.get(), none.data());
+    g_dbus_interface_skeleton_flush(G_DBUS_INTERFACE_SKELETON(filesystem_.get()));
+}
+
+void FakeDisks::becomeVolume(const std::string& type, const std::string& uuid) {
+    udisks_block_set_id_type(block_.get(), type.c_str());
+    udisks_block_set_id_uuid(block_.get(), uuid.c_str());
+    g_dbus_interface_skeleton_flush(G_DBUS_INTERFACE_SKELETON(block_.get()));
+}
+
+void FakeDisks::remove() {
+    g_dbus_object_manager_server_unexport(
+        objects_.get(), g_dbus_object_get_object_path(G_DBUS_OBJECT(object_.get())));
+}
+
+void FakeDisks::add() {
+    g_dbus_object_manager_server_export(objects_.get(), G_DBUS_OBJECT_SKELETON(object_.get()));
+}
+
+void FakeDisks::relabelOther(const std::string& label) {
+    udisks_block_set_id_label(otherBlock_.get(), label.c_str());
+    g_dbus_interface_skeleton_flush(G_DBUS_INTERFACE_SKELETON(otherBlock_.get()));
 }
 
 bool FakeDisks::has(const std::string& driver) const {
@@ -118,6 +153,7 @@ gboolean FakeDisks::mount(UDisksFilesystem* filesystem, GDBusMethodInvocation* i
     disks.calls_.push_back("mount " + call.options + " " + call.driver);
     const auto result = disks.resultOf(call);
     if (result.front() == '/') {
+        disks.setMounted(result);
         udisks_filesystem_complete_mount(filesystem, invocation, result.c_str());
     } else {
         g_dbus_method_invocation_return_dbus_error(invocation, result.c_str(), "Refused.");
@@ -127,7 +163,9 @@ gboolean FakeDisks::mount(UDisksFilesystem* filesystem, GDBusMethodInvocation* i
 
 gboolean FakeDisks::unmount(UDisksFilesystem* filesystem, GDBusMethodInvocation* invocation,
                             GVariant* /*options*/, gpointer self) {
-    static_cast<FakeDisks*>(self)->calls_.emplace_back("unmount");
+    auto& disks = *static_cast<FakeDisks*>(self);
+    disks.calls_.emplace_back("unmount");
+    disks.setUnmounted();
     udisks_filesystem_complete_unmount(filesystem, invocation);
     return TRUE;
 }

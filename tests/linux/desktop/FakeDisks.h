@@ -38,6 +38,15 @@ class FakeDisks {
     /// The driver of the last unscripted mount that succeeded.
     [[nodiscard]] const std::string& mountedBy() const { return mountedBy_; }
 
+    /// Changes the objects on the bus, as other programs and the user do.
+    void setMounted(const std::string& mountPoint);
+    void setUnmounted();
+    void becomeVolume(const std::string& type, const std::string& uuid);
+    void remove();
+    void add();
+    /// Changes the label of another device, /dev/sdy1, which has no file system.
+    void relabelOther(const std::string& label);
+
   private:
     struct MountCall {
         std::string options;
@@ -70,6 +79,9 @@ class FakeDisks {
         udisks_object_skeleton_new("/org/freedesktop/UDisks2/block_devices/sdz1")};
     OwnedObject<UDisksBlock> block_{udisks_block_skeleton_new()};
     OwnedObject<UDisksFilesystem> filesystem_{udisks_filesystem_skeleton_new()};
+    OwnedObject<UDisksObjectSkeleton> otherObject_{
+        udisks_object_skeleton_new("/org/freedesktop/UDisks2/block_devices/sdy1")};
+    OwnedObject<UDisksBlock> otherBlock_{udisks_block_skeleton_new()};
 };
 
 }  // namespace brisel::tests

@@ -1,0 +1,153 @@
+// The disks that DiskArbitration reports, as UDisks2's objects come, change and go.
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "platform/headless/DiskArbitration.h"
+#include "platform/headless/MountFolder.h"
+#include "tests/linux/desktop/FakeDesktop.h"
+#include "tests/linux/desktop/FakeDisks.h"
+
+namespace brisel::platform::headless {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using tests::FakeDisks;
+
+class DiskReports : public testing::Test {
+  protected:
+    DiskReports() {
+        machine_.run([this] { disks_ = std::make_unique<FakeDisks>(); });
+        arbitration_.createSession();
+        appeared_ = arbitration_.registerDiskAppearedCallback(
+            [this](const Disk& disk) { note("appeared", disk); });
+        disappeared_ = arbitration_.registerDiskDisappearedCallback(
+            [this](const Disk& disk) { note("disappeared", disk); });
+        tests::turnUntil(
+            [this] { return arbitration_.copyDescription(Volume).volumeKind.has_value(); });
+    }
+    ~DiskReports() override {
+        machine_.run([this] { disks_.reset(); });
+    }
+
+    void start() {
+        arbitration_.scheduleWithRunLoop();
+        tests::turnUntil([this] { return !events_.empty(); });
+        events_.clear();
+    }
+    /// Changes the disk and waits for a later change of another device, so for both.
+    template <typename Change>
+    void change(const Change& change) {
+        machine_.run([&] { change(*disks_); });
+        ++changes_;
+        machine_.run([this] { disks_->relabelOther(std::to_string(changes_)); });
+        tests::turnUntil([this] {
+            return arbitration_.copyDescription(Other).volumeName == std::to_string(changes_);
+        });
+    }
+    void note(const std::string& event, const Disk& disk) {
+        const auto path = arbitration_.copyDescription(disk).volumePath;
+        events_.push_back(event + " " + disk.bsdName + (path ? " " + path->path() : ""));
+    }
+
+    const Disk Volume{.bsdName = "sdz1", .reported = std::nullopt};
+    const Disk Other{.bsdName = "sdy1", .reported = std::nullopt};
+    tests::TestLoop loop_;
+    tests::RecordedLog log_;
+    tests::OtherProgram machine_;
+    std::unique_ptr<FakeDisks> disks_;
+    DiskArbitration arbitration_{log_};
+    Subscription appeared_;
+    Subscription disappeared_;
+    std::vector<std::string> events_;
+    int changes_ = 0;
+};
+
+TEST_F(DiskReports, StartOnceTheSessionIsScheduled) {
+    loop_.turn();
+    EXPECT_THAT(events_, IsEmpty());
+    arbitration_.scheduleWithRunLoop();
+    EXPECT_THAT(events_, IsEmpty());
+    loop_.turn();
+    EXPECT_THAT(events_, ElementsAre("appeared sdz1"));
+}
+
+TEST_F(DiskReports, FollowTheDeviceAsItGoesAndComes) {
+    start();
+    change([](auto& disks) { disks.remove(); });
+    EXPECT_THAT(events_, ElementsAre("disappeared sdz1"));
+    change([](auto& disks) { disks.add(); });
+    EXPECT_THAT(events_, ElementsAre("disappeared sdz1", "appeared sdz1"));
+}
+
+TEST_F(DiskReports, TakeAnotherVolumeOnTheDeviceForAnotherDisk) {
+    start();
+    change([](auto& disks) { disks.becomeVolume("ntfs", "FEDCBA9876543210"); });
+    EXPECT_THAT(events_, ElementsAre("disappeared sdz1", "appeared sdz1"));
+}
+
+TEST_F(DiskReports, LeaveOutADeviceWithoutAVolume) {
+    start();
+    change([](auto& disks) { disks.becomeVolume("", ""); });
+    EXPECT_THAT(events_, ElementsAre("disappeared sdz1"));
+    change([](auto& disks) { disks.becomeVolume("ntfs", "0123456789ABCDEF"); });
+    EXPECT_THAT(events_, ElementsAre("disappeared sdz1", "appeared sdz1"));
+}
+
+TEST_F(DiskReports, RenewADiskThatAnotherProgramMounts) {
+    start();
+    change([](auto& disks) { disks.setMounted("/media/other/Data"); });
+    EXPECT_THAT(events_, ElementsAre("disappeared sdz1", "appeared sdz1 /media/other/Data"));
+    change([](auto& disks) { disks.setMounted("/media/other/Data"); });
+    EXPECT_EQ(events_.size(), 2U);
+}
+
+TEST_F(DiskReports, DropADiskThatAnotherProgramUnmounts) {
+    start();
+    change([](auto& disks) { disks.setMounted("/media/other/Data"); });
+    events_.clear();
+    change([](auto& disks) { disks.setUnmounted(); });
+    EXPECT_THAT(events_, ElementsAre("disappeared sdz1 /media/other/Data"));
+}
+
+TEST_F(DiskReports, PassOverMountsOfTheMountTool) {
+    start();
+    change([](auto& disks) { disks.setMounted("/run/brisel-x7Ghq2"); });
+    EXPECT_THAT(events_, IsEmpty());
+    change([](auto& disks) {
+        disks.setMounted(mountFolderIn(FileURL(g_get_home_dir()).path()) + "/Data");
+    });
+    EXPECT_THAT(events_, IsEmpty());
+}
+
+TEST_F(DiskReports, PassOverTheProgramsOwnUnmount) {
+    start();
+    change([](auto& disks) { disks.setMounted("/media/other/Data"); });
+    events_.clear();
+    bool done = false;
+    arbitration_.unmount(Volume, [&](const Disk&, const auto&) { done = true; });
+    tests::turnUntil([&done] { return done; });
+    change([](auto& /*disks*/) {});
+    EXPECT_THAT(events_, IsEmpty());
+}
+
+TEST_F(DiskReports, StandStillWhileTheServiceIsAway) {
+    start();
+    machine_.run([this] { disks_.reset(); });
+    tests::turnUntil([this] {
+        return !log_.entries().empty() &&
+               log_.entries().back().find("stopped") != std::string::npos;
+    });
+    machine_.run([this] { disks_ = std::make_unique<FakeDisks>(); });
+    tests::turnUntil([this] { return log_.entries().back() == "Connected to UDisks2 again."; });
+    loop_.turn();
+    EXPECT_THAT(events_, IsEmpty());
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::headless
