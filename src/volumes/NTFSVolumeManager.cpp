@@ -10,10 +10,19 @@
 
 namespace brisel {
 
+namespace {
+
+// The manager's registrations with the system last as long as the process.
+struct NeverDestroyed {
+    void operator()(NTFSVolumeManager* /*manager*/) const {}
+};
+
+}  // namespace
+
 NTFSVolumeManager& NTFSVolumeManager::sharedInstance() {
-    // Never destroyed: its registrations with the system last as long as the process.
-    static auto& manager = *new NTFSVolumeManager(platform::installed());
-    return manager;
+    static const std::unique_ptr<NTFSVolumeManager, NeverDestroyed> manager(
+        new NTFSVolumeManager(platform::installed()));
+    return *manager;
 }
 
 NTFSVolumeManager::NTFSVolumeManager(const platform::Platform& platform) : platform_(platform) {
