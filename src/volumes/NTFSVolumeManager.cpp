@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "volumes/NTFSVolumeManager.h"
 
+#include <functional>
 #include <utility>
 
 #include "platform/DiskArbitration.h"
@@ -10,19 +11,11 @@
 
 namespace brisel {
 
-namespace {
-
-// The manager's registrations with the system last as long as the process.
-struct NeverDestroyed {
-    void operator()(NTFSVolumeManager* /*manager*/) const {}
-};
-
-}  // namespace
-
 NTFSVolumeManager& NTFSVolumeManager::sharedInstance() {
-    static const std::unique_ptr<NTFSVolumeManager, NeverDestroyed> manager(
-        new NTFSVolumeManager(platform::installed()));
-    return *manager;
+    // Never destroyed: its registrations with the system last as long as the process.
+    static const std::reference_wrapper<NTFSVolumeManager> manager(
+        *new NTFSVolumeManager(platform::installed()));
+    return manager;
 }
 
 NTFSVolumeManager::NTFSVolumeManager(const platform::Platform& platform) : platform_(platform) {

@@ -84,6 +84,7 @@ bool ScriptRunner::isOnAVolume(const std::string& path) const {
 ScriptResult ScriptRunner::removeAttributes(std::vector<std::string> arguments) const {
     arguments[0] = xattr_;
     std::vector<char*> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (auto& argument : arguments)
         pointers.push_back(argument.data());
     pointers.push_back(nullptr);
