@@ -103,6 +103,7 @@ std::string ConsoleSession::menu() {
     // Skips menus printed earlier.
     while (readMore(std::chrono::steady_clock::now() + std::chrono::milliseconds(2))) {
     }
+    if (output_.ends_with("1 = OK ? ")) type("1");
     seen_ = output_.size();
     type("menu");
     if (!waitFor("Quit Brisel\n")) return {};

@@ -24,6 +24,7 @@ class ConsoleSession {
     /// Waits for the menu and types the number of the item `title`; false if it is absent.
     bool choose(const std::string& title);
     /// Types `menu` and returns the printed menu, one line per item.
+    /// Closes an alert that is up first.
     [[nodiscard]] std::string menu();
     /// The rest of the line after the last match of waitFor().
     [[nodiscard]] std::string restOfLine();
