@@ -92,7 +92,7 @@ void AutomountRule::rest(bool /*blocked*/) {
     constexpr std::size_t Most = 128;
     const auto list = mac().userDefaults.stringArrayForKey("volumeList");
     const auto size = list ? list->size() : 0;
-    // A list that somebody else has made longer may stay so.
+    // A list that was longer before may stay so.
     require(manager() == nullptr || size <= std::max(Most, before_),
             "The automount list has grown to " + std::to_string(size) + ".");
     before_ = size;

@@ -14,11 +14,10 @@
 
 namespace brisel::platform::headless {
 
-/// A disk that carries a file system counts as one with a mountable volume, loop devices and
-/// system disks included, unless UDisks2 says to ignore it. A volume that nothing has mounted yet
-/// counts as unmounted when it is asked to be: here no system mounts every volume by itself. A
-/// volume that somebody else mounts is reported as gone and appeared, so that what the program
-/// knows of it is true again; one that somebody else unmounts is reported as gone.
+/// Reports every disk with a file system, loop devices and system disks included, unless UDisks2
+/// says to ignore it. Unmounting a volume that is not mounted succeeds: Linux does not mount every
+/// volume by itself. Reports a disk that another program mounts as disappeared and appeared, and
+/// one that another program unmounts as disappeared.
 class DiskArbitration final : public platform::DiskArbitration {
   public:
     explicit DiskArbitration(platform::SystemLog& log) : log_(log) {}

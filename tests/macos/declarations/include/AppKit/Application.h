@@ -136,7 +136,7 @@ static const CGFloat NSSquareStatusItemLength = -2.0;
 
 @interface NSStatusBar : NSObject
 @property(class, readonly, strong) NSStatusBar* systemStatusBar;
-// The item goes when nobody keeps it.
+// The item is released with its last reference.
 - (NSStatusItem*)statusItemWithLength:(CGFloat)length;
 @end
 

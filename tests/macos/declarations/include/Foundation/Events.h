@@ -19,7 +19,7 @@ NS_ASSUME_NONNULL_BEGIN
                                                    errorInfo NS_DESIGNATED_INITIALIZER;
 - (nullable instancetype)initWithSource:(NSString*)source NS_DESIGNATED_INITIALIZER;
 @property(nullable, readonly, copy) NSString* source;
-// Nil where it fails, whatever the type says.
+// Nil on failure, although the type excludes it.
 - (NSAppleEventDescriptor*)executeAndReturnError:
     (NSDictionary<NSString*, id>* _Nullable* _Nullable)errorInfo;
 @end

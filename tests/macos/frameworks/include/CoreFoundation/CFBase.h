@@ -20,7 +20,7 @@
 #endif
 
 // In C++ the enumeration's name is a type already; the type definition that its header begins with
-// goes to a name that nobody uses.
+// goes to an unused name.
 #ifdef __cplusplus
 #define BRISEL_CF_NAMED_ENUM(type, name) \
     type brisel_type_of_##name;          \
