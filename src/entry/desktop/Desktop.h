@@ -26,8 +26,15 @@ class Desktop {
 
   private:
     void runFirst();
+    void watchPrompts();
+    void withdrawPromptsSoon();
+    void endPrompts();
 
+    GDBusConnection* bus_;
     Services services_;
+    platform::Subscription menuChanges_;
+    platform::Subscription withdrawal_;
+    platform::Subscription clicksOnPrompts_;
     std::shared_ptr<AppDelegate> delegate_;
 };
 

@@ -25,11 +25,10 @@ struct StatusItem::Tray {
 };
 
 StatusItem::StatusItem(const Dependencies& dependencies) : dependencies_(dependencies) {
-    dependencies_.menu.setChanged([this] { showMenuSoon(); });
+    menuChanges_ = dependencies_.menu.observeChanges([this] { showMenuSoon(); });
 }
 
 StatusItem::~StatusItem() {
-    dependencies_.menu.setChanged({});
     trayThread_.post([this] { tray_.reset(); });
 }
 

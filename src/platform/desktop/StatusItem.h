@@ -68,6 +68,7 @@ class StatusItem final : public platform::StatusItem {
     NumberedMenu numbered_;
     std::vector<MenuEntry> entries_;
     bool menuChanged_ = true;
+    Subscription menuChanges_;
     Subscription pending_;
     common::Signal<> appearanceChanged_;
     std::atomic<bool> dark_ = false;

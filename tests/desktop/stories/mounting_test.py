@@ -20,7 +20,8 @@ class Mounting(Story):
         stick = self.attach("StageData")
         prompt = self.notifications.wait_for("StageData detected")
         self.assertEqual(prompt.body, "Re-mount it read-write?")
-        self.assertEqual(prompt.actions, {"DO_MOUNT": "Yes, sure!", "NOTHING": "No, thanks."})
+        self.assertEqual(prompt.actions, {
+            "default": "Brisel", "DO_MOUNT": "Yes, sure!", "NOTHING": "No, thanks."})
         self.tray.wait_for_colour("green")
         self.assertEqual(self.tray.labels()[0], "re-mount StageData")
         self.take_picture("prompt")

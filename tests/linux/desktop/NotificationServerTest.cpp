@@ -31,7 +31,7 @@ TEST_F(Notifications, NameTheApplication) {
     EXPECT_EQ(call.summary, "Found");
     EXPECT_EQ(call.body, "Go?");
     EXPECT_EQ(call.replaces, 0U);
-    EXPECT_EQ(call.time, -1);
+    EXPECT_EQ(call.time, 0);
     EXPECT_THAT(call.hints, UnorderedElementsAre(Pair("urgency", "0x01"),
                                                  Pair("desktop-entry", "'org.brisel.Brisel'")));
 }
