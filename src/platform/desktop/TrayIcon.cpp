@@ -70,11 +70,8 @@ TrayIcon::TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string m
       busName_("org.kde.StatusNotifierItem-" + std::to_string(getpid()) + "-1"),
       object_(exportObject()),
       ownName_(g_bus_own_name_on_connection(bus, busName_.c_str(), G_BUS_NAME_OWNER_FLAGS_NONE,
-                                            nullptr, nullptr, nullptr, nullptr)),
+                                            &TrayIcon::noteName, nullptr, this, nullptr)),
       watcher_(bus, WatcherName, WatcherPath, WatcherName) {
-    watching_ = watcher_.watch([this] { registerWithWatcher(); }, [] {});
-    hostComing_ = watcher_.onSignal("StatusNotifierHostRegistered",
-                                    [this](auto* /*arguments*/) { registerWithWatcher(); });
     waitForHost(patience);
 }
 
@@ -92,6 +89,17 @@ guint TrayIcon::exportObject() {
     g_dbus_node_info_unref(node);
     if (error) log_.log("Cannot export the tray icon on the session bus: %@", error.message());
     return object;
+}
+
+// GNOME's extension looks at an item at once, and fails if its name has no owner yet.
+void TrayIcon::noteName(GDBusConnection* /*bus*/, const gchar* /*name*/, gpointer icon) {
+    static_cast<TrayIcon*>(icon)->watchForHosts();
+}
+
+void TrayIcon::watchForHosts() {
+    watching_ = watcher_.watch([this] { registerWithWatcher(); }, [] {});
+    hostComing_ = watcher_.onSignal("StatusNotifierHostRegistered",
+                                    [this](auto* /*arguments*/) { registerWithWatcher(); });
 }
 
 void TrayIcon::show(TrayLook look) {

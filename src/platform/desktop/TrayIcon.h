@@ -47,6 +47,9 @@ class TrayIcon {
   private:
     /// The registration ID, 0 on failure.
     [[nodiscard]] guint exportObject();
+    /// Runs once the name is owned.
+    static void noteName(GDBusConnection* bus, const gchar* name, gpointer icon);
+    void watchForHosts();
     void registerWithWatcher();
     void waitForHost(std::chrono::milliseconds patience);
     [[nodiscard]] std::string title() const;
