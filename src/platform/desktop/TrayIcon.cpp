@@ -14,6 +14,8 @@ namespace brisel::platform::desktop {
 
 namespace {
 
+using std::chrono::milliseconds;
+
 constexpr const char* ItemInterface = "org.kde.StatusNotifierItem";
 constexpr const char* WatcherName = "org.kde.StatusNotifierWatcher";
 constexpr const char* WatcherPath = "/StatusNotifierWatcher";
@@ -62,7 +64,7 @@ GVariant* text(const std::string& value) {
 }  // namespace
 
 TrayIcon::TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string menuPath,
-                   std::chrono::milliseconds patience)
+                   milliseconds patience)
     : bus_(static_cast<GDBusConnection*>(g_object_ref(bus))),
       log_(log),
       menuPath_(std::move(menuPath)),
@@ -99,7 +101,7 @@ void TrayIcon::noteName(GDBusConnection* /*bus*/, const gchar* /*name*/, gpointe
 void TrayIcon::watchForHosts() {
     watching_ = watcher_.watch([this] { registerWithWatcher(); }, [] {});
     hostComing_ = watcher_.onSignal("StatusNotifierHostRegistered",
-                                    [this](auto* /*arguments*/) { registerWithWatcher(); });
+                                    [this](auto* /*arguments*/) { registerSoon(); });
 }
 
 void TrayIcon::show(TrayLook look) {
@@ -141,6 +143,14 @@ GVariant* TrayIcon::property(const std::string& name) const {
     return nullptr;
 }
 
+void TrayIcon::registerSoon() {
+    constexpr milliseconds Pause{100};
+    registration_ = headless::RunLoop().scheduledTimer(Pause, [this] {
+        const auto once = std::move(registration_);
+        registerWithWatcher();
+    });
+}
+
 // Safe to repeat: the watcher ignores a registered name.
 void TrayIcon::registerWithWatcher() {
     watcher_.call("RegisterStatusNotifierItem", g_variant_new("(s)", busName_.c_str()), {});
@@ -150,7 +160,7 @@ void TrayIcon::registerWithWatcher() {
     });
 }
 
-void TrayIcon::waitForHost(std::chrono::milliseconds patience) {
+void TrayIcon::waitForHost(milliseconds patience) {
     patience_ = headless::RunLoop().scheduledTimer(patience, [this] {
         const auto once = std::move(patience_);
         log_.log(

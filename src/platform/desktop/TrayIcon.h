@@ -51,6 +51,8 @@ class TrayIcon {
     static void noteName(GDBusConnection* bus, const gchar* name, gpointer icon);
     void watchForHosts();
     void registerWithWatcher();
+    /// Registers when there was no call for a moment.
+    void registerSoon();
     void waitForHost(std::chrono::milliseconds patience);
     [[nodiscard]] std::string title() const;
     [[nodiscard]] GVariant* toolTip() const;
@@ -66,6 +68,7 @@ class TrayIcon {
     BusClient watcher_;
     Subscription watching_;
     Subscription hostComing_;
+    Subscription registration_;
     Subscription patience_;
 };
 

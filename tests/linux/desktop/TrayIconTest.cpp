@@ -82,6 +82,18 @@ TEST_F(TheTrayIcon, RegistersWhenAPanelComesToAWatcher) {
     EXPECT_THAT(tray.registered(), ElementsAre(name_, name_));
 }
 
+TEST_F(TheTrayIcon, RegistersOnceForAFloodOfHosts) {
+    FakeTray tray(FakeTray::Host::None);
+    tray.service.appear();
+    start();
+    waitForRegistrations(tray, 1);
+    for (int times = 0; times < 1000; ++times)
+        tray.registerHost();
+    waitForRegistrations(tray, 2);
+    waitLongEnough();
+    EXPECT_THAT(tray.registered(), ElementsAre(name_, name_));
+}
+
 // Otherwise GNOME's extension finds nothing in two starts of five.
 TEST_F(TheTrayIcon, RegistersOnlyOnceItOwnsItsName) {
     FakeTray tray(FakeTray::Host::There);
