@@ -76,6 +76,7 @@ void Desktop::runFirst() {
     const auto ending = platform::headless::whenReadable(
         services_.terminationSignals.descriptor(), [this] { services_.application.terminate(); });
     watchPrompts();
+    services_.statusItem.setMenuWindow([this] { services_.menuWindow.show(); });
     services_.singleInstance.listen([this] { services_.menuWindow.show(); });
     delegate_->awakeFromNib();
     if (!services_.application.terminated()) services_.mainLoop.run();

@@ -41,6 +41,12 @@ void tellChosen(DbusmenuMenuitem* item, guint /*timestamp*/, gpointer chosen) {
     (*static_cast<TrayMenu::Chosen*>(chosen))(dbusmenu_menuitem_get_id(item));
 }
 
+// The menu needs no update before it is shown.
+gboolean tellOpening(DbusmenuMenuitem* /*root*/, gpointer opening) {
+    (*static_cast<std::function<void()>*>(opening))();
+    return FALSE;
+}
+
 bool contains(const std::vector<MenuEntry>& entries, int number) {
     return std::any_of(entries.begin(), entries.end(),
                        [number](const auto& entry) { return entry.number == number; });
@@ -48,8 +54,11 @@ bool contains(const std::vector<MenuEntry>& entries, int number) {
 
 }  // namespace
 
-TrayMenu::TrayMenu(Chosen chosen) : chosen_(std::move(chosen)) {
+TrayMenu::TrayMenu(Chosen chosen, std::function<void()> opening)
+    : chosen_(std::move(chosen)), opening_(std::move(opening)) {
     dbusmenu_server_set_root(server_.get(), root_.get());
+    g_signal_connect(root_.get(), DBUSMENU_MENUITEM_SIGNAL_ABOUT_TO_SHOW,
+                     reinterpret_cast<GCallback>(&tellOpening), &opening_);
 }
 
 void TrayMenu::show(const std::vector<MenuEntry>& entries) {

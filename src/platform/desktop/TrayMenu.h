@@ -20,7 +20,8 @@ class TrayMenu {
 
     using Chosen = std::function<void(int number)>;
 
-    explicit TrayMenu(Chosen chosen);
+    /// Calls `opening` when a host is about to show the menu.
+    TrayMenu(Chosen chosen, std::function<void()> opening);
     TrayMenu(const TrayMenu&) = delete;
     TrayMenu& operator=(const TrayMenu&) = delete;
     ~TrayMenu() = default;
@@ -35,6 +36,7 @@ class TrayMenu {
     void arrange(const std::vector<MenuEntry>& entries);
 
     Chosen chosen_;
+    std::function<void()> opening_;
     headless::OwnedObject<DbusmenuServer> server_{dbusmenu_server_new(ObjectPath)};
     headless::OwnedObject<DbusmenuMenuitem> root_{dbusmenu_menuitem_new_with_id(0)};
     Items items_;

@@ -20,11 +20,18 @@ using tests::FakeTray;
 using tests::turnUntil;
 
 constexpr milliseconds Brief{1};
+constexpr const char* UnknownMethod = "org.freedesktop.DBus.Error.UnknownMethod";
 
 class TheTrayIcon : public testing::Test {
   protected:
     void start(milliseconds patience = TrayIcon::UsualPatience) {
-        icon_ = std::make_unique<TrayIcon>(bus_, log_, "/TheMenu", patience);
+        icon_ =
+            std::make_unique<TrayIcon>(TrayIcon::Dependencies{.bus = bus_,
+                                                              .log = log_,
+                                                              .activationToken = activationToken_,
+                                                              .menuPath = "/TheMenu",
+                                                              .clicked = [this] { ++clicks_; }},
+                                       patience);
     }
     void waitForRegistrations(const FakeTray& tray, std::size_t count) {
         turnUntil([&] { return tray.registered().size() >= count; });
@@ -39,6 +46,8 @@ class TheTrayIcon : public testing::Test {
     GDBusConnection* bus_ = tests::SessionBus::shared().program();
     tests::TestLoop loop_;
     tests::RecordedLog log_;
+    ActivationToken activationToken_;
+    int clicks_ = 0;
     const std::string name_ = "org.kde.StatusNotifierItem-" + std::to_string(getpid()) + "-1";
     std::unique_ptr<TrayIcon> icon_;
 };
@@ -210,10 +219,13 @@ TEST_F(TheTrayIconsFace, EmitsASignalOnlyForAChange) {
     EXPECT_THAT(host_.newSignals(), ElementsAre("NewIcon", "NewTitle", "NewToolTip"));
 }
 
-TEST_F(TheTrayIconsFace, TakesClicksWithoutAnError) {
+// Plasma opens the menu only if Activate fails.
+TEST_F(TheTrayIconsFace, RefusesEveryClickSoThatTheHostOpensTheMenu) {
     for (const char* const click : {"Activate", "SecondaryActivate", "ContextMenu"})
-        EXPECT_TRUE(host_.call(click, g_variant_new("(ii)", 3, 4))) << click;
-    EXPECT_TRUE(host_.call("Scroll", g_variant_new("(is)", 1, "vertical")));
+        EXPECT_EQ(host_.errorOf(click, g_variant_new("(ii)", 3, 4)), UnknownMethod) << click;
+    EXPECT_EQ(host_.errorOf("Scroll", g_variant_new("(is)", 1, "vertical")), UnknownMethod);
+    // SecondaryActivate and Scroll are not offered.
+    EXPECT_EQ(clicks_, 2);
 }
 
 }  // namespace
