@@ -26,9 +26,11 @@ std::vector<platform::MenuItem> mainMenuItems(const std::shared_ptr<AppDelegate>
                                               const platform::Platform& platform) {
     platform::MenuItem separator;
     separator.separator = true;
+    auto startAtLogin = fixedItem("Start at Login", ToggleStartAtLoginAction,
+                                  [delegate](const auto&) { delegate->toggleStartAtLogin(); });
+    startAtLogin.checkable = true;
     return {
-        fixedItem("Start at Login", ToggleStartAtLoginAction,
-                  [delegate](const auto&) { delegate->toggleStartAtLogin(); }),
+        startAtLogin,
         fixedItem("About Brisel", BringToFrontAction,
                   [delegate](const auto&) { delegate->bringToFront(); }),
         separator,

@@ -39,6 +39,7 @@ std::vector<MenuEntry> NumberedMenu::update(const std::deque<MenuItem>& items) {
         entries.push_back({.number = number,
                            .kind = kindOf(item),
                            .title = busText(item.title),
+                           .checkable = item.checkable,
                            .checked = item.checked});
     }
     items_ = std::move(now);

@@ -17,6 +17,7 @@ struct MenuEntry {
     int number = 0;
     Kind kind = Kind::Text;
     std::string title;
+    bool checkable = false;
     bool checked = false;
 
     bool operator==(const MenuEntry&) const = default;

@@ -30,8 +30,10 @@ void describe(DbusmenuMenuitem* item, const MenuEntry& entry) {
     dbusmenu_menuitem_property_set(item, DBUSMENU_MENUITEM_PROP_LABEL, label.c_str());
     dbusmenu_menuitem_property_set_bool(item, DBUSMENU_MENUITEM_PROP_ENABLED,
                                         entry.kind == MenuEntry::Kind::Choosable ? TRUE : FALSE);
+    if (!entry.checkable) return;
+    // From the first layout on: Plasma takes no notice of a later one.
     dbusmenu_menuitem_property_set(item, DBUSMENU_MENUITEM_PROP_TOGGLE_TYPE,
-                                   entry.checked ? DBUSMENU_MENUITEM_TOGGLE_CHECK : "");
+                                   DBUSMENU_MENUITEM_TOGGLE_CHECK);
     dbusmenu_menuitem_property_set_int(item, DBUSMENU_MENUITEM_PROP_TOGGLE_STATE,
                                        entry.checked ? DBUSMENU_MENUITEM_TOGGLE_STATE_CHECKED
                                                      : DBUSMENU_MENUITEM_TOGGLE_STATE_UNCHECKED);

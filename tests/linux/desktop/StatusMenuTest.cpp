@@ -28,6 +28,7 @@ class TheStatusMenu : public tests::StatusItemOnBus {
         MenuItem title;
         title.title = "Brisel 1.0";
         auto login = item("Start at Login", "toggle:");
+        login.checkable = true;
         login.checked = true;
         menu_.load({title, separator, login, item("Quit", "quit:")});
         item_->setImage("brisel-status-grey-light");
@@ -84,9 +85,10 @@ TEST_F(TheStatusMenu, ShowsItsItemsInOrder) {
     EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login [x] | Quit");
 }
 
+// Plasma shows a check mark only if the item's first layout has the toggle type.
 TEST_F(TheStatusMenu, FollowsCheckMarks) {
     menu_.setChecked("toggle:", false);
-    EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login | Quit");
+    EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login [ ] | Quit");
     menu_.setChecked("toggle:", true);
     EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login [x] | Quit");
 }
