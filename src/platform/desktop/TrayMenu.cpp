@@ -77,7 +77,7 @@ void TrayMenu::show(const std::vector<MenuEntry>& entries) {
         if (!item) item = makeItem(entry);
         describe(item.get(), entry);
     }
-    arrange(entries);
+    insertNew(entries);
 }
 
 headless::OwnedObject<DbusmenuMenuitem> TrayMenu::makeItem(const MenuEntry& entry) {
@@ -87,14 +87,12 @@ headless::OwnedObject<DbusmenuMenuitem> TrayMenu::makeItem(const MenuEntry& entr
     return item;
 }
 
-void TrayMenu::arrange(const std::vector<MenuEntry>& entries) {
+void TrayMenu::insertNew(const std::vector<MenuEntry>& entries) {
     guint position = 0;
     for (const auto& entry : entries) {
         auto* const item = items_.at(entry.number).get();
         if (dbusmenu_menuitem_get_parent(item) == nullptr) {
             dbusmenu_menuitem_child_add_position(root_.get(), item, position);
-        } else if (dbusmenu_menuitem_get_position(item, root_.get()) != position) {
-            dbusmenu_menuitem_child_reorder(root_.get(), item, position);
         }
         ++position;
     }

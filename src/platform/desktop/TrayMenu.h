@@ -26,14 +26,15 @@ class TrayMenu {
     TrayMenu& operator=(const TrayMenu&) = delete;
     ~TrayMenu() = default;
 
-    /// Replaces the entries; hosts are sent only the changes.
+    /// Replaces the entries of a NumberedMenu; hosts are sent only the changes.
     void show(const std::vector<MenuEntry>& entries);
 
   private:
     using Items = std::map<int, headless::OwnedObject<DbusmenuMenuitem>>;
 
     [[nodiscard]] headless::OwnedObject<DbusmenuMenuitem> makeItem(const MenuEntry& entry);
-    void arrange(const std::vector<MenuEntry>& entries);
+    /// The others are in order: a NumberedMenu moves no entry.
+    void insertNew(const std::vector<MenuEntry>& entries);
 
     Chosen chosen_;
     std::function<void()> opening_;
