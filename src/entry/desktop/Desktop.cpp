@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "entry/desktop/Desktop.h"
 
+#include <chrono>
 #include <cstdlib>
 
 #include "app/Launch.h"
 #include "app/RemountPrompt.h"
+#include "app/UnplugNotice.h"
+#include "mounting/Unmount.h"
 #include "platform/headless/MainContext.h"
 #include "platform/headless/MountFolder.h"
 #include "platform/headless/Process.h"
@@ -55,6 +58,15 @@ void Desktop::watchPrompts() {
     menuChanges_ = services_.statusMenu.observeChanges([this] { withdrawPromptsSoon(); });
 }
 
+void Desktop::announceUnmounted(const NTFSVolume& volume) {
+    constexpr std::chrono::seconds Lifetime{8};
+    if (!services_.diskArbitration.mayBeUnplugged(volume.deviceNode().value_or(""))) return;
+    const UnplugNotice notice(services_.bundle, volume);
+    services_.notifications.show(
+        {.summary = notice.title, .body = notice.body, .lifetime = Lifetime},
+        [](auto /*number*/, const auto& /*error*/) {});
+}
+
 // Once the main loop turns: a disk that another program mounts disappears and appears at once.
 void Desktop::withdrawPromptsSoon() {
     withdrawal_ = platform::headless::whenMainLoopTurns(
@@ -76,6 +88,9 @@ void Desktop::runFirst() {
     const auto ending = platform::headless::whenReadable(
         services_.terminationSignals.descriptor(), [this] { services_.application.terminate(); });
     watchPrompts();
+    unmounts_ = services_.notificationCenter.addObserver(
+        NTFSVolumeDidUnmountNotification,
+        [this](const void* volume) { announceUnmounted(*static_cast<const NTFSVolume*>(volume)); });
     services_.statusItem.setMenuWindow([this] { services_.menuWindow.show(); });
     services_.singleInstance.listen([this] { services_.menuWindow.show(); });
     delegate_->awakeFromNib();

@@ -67,6 +67,7 @@ GVariant* NotificationServer::hintsFor(const Notification& notification) const {
     g_variant_builder_init(&hints, G_VARIANT_TYPE_VARDICT);
     addHint(hints, "urgency", g_variant_new_byte(static_cast<guchar>(notification.urgency)));
     addHint(hints, "desktop-entry", g_variant_new_string(DesktopEntry));
+    if (notification.lifetime.count() > 0) addHint(hints, "transient", g_variant_new_boolean(TRUE));
     if (!notification.soundName.empty() && can("sound")) {
         addHint(hints, "sound-name", g_variant_new_string(notification.soundName.c_str()));
     }

@@ -27,7 +27,7 @@ struct Notification {
     /// Sound name in the freedesktop sound theme; empty for none.
     std::string soundName{};
     Urgency urgency = Urgency::Normal;
-    /// When the server closes it; zero for never.
+    /// When the server closes it, and keeps no trace of it; zero for never.
     std::chrono::milliseconds lifetime{};
     /// ID of the notification to replace; 0 for none.
     std::uint32_t replaces = 0;

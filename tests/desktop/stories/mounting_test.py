@@ -69,6 +69,16 @@ class Mounting(Story):
         self.unmount(stick)
         self.assert_greeting_arrived(stick)
 
+    def test_after_unmount_a_notification_lets_the_stick_be_unplugged(self):
+        self.start_brisel()
+        stick = self.attach("StageData")
+        self.make_writable(stick)
+        self.unmount(stick)
+        notice = self.notifications.wait_for("StageData unmounted")
+        self.assertEqual(notice.body, "You may unplug the device now.")
+        self.assertEqual(notice.actions, {})
+        self.assertGreater(notice.timeout, 0)
+
     def test_a_no_to_the_prompt_leaves_the_stick_alone(self):
         self.start_brisel()
         stick = self.attach("StageData")

@@ -50,6 +50,16 @@ TEST_F(Notifications, HaveTheirButtonsInOrder) {
                 ElementsAre("DO", "Yes, sure!", "NOT", "No,^Jthanks."));
 }
 
+TEST_F(Notifications, WithALifetimeGoByThemselves) {
+    FakeNotifications desktop({});
+    desktop.service.appear();
+    auto notification = popUp("Done");
+    notification.lifetime = std::chrono::seconds(8);
+    show(notification);
+    EXPECT_EQ(desktop.calls().front().time, 8000);
+    EXPECT_THAT(desktop.calls().front().hints, testing::Contains(Pair("transient", "true")));
+}
+
 // This includes the first notifications, and those of a server that replaces another.
 TEST_F(Notifications, RequestASoundOnlyFromAServerWithSound) {
     auto notification = popUp("Found");
