@@ -29,6 +29,8 @@ struct Orders {
     /// Mounts and unmounts are refused before the call returns, as Disk Arbitration does for a
     /// request that it cannot send.
     bool refusesAtOnce = false;
+    /// A second display has a menu bar of its own, and so a copy of the status item.
+    bool hasSecondDisplay = false;
     /// Handlers of the notification center wait for deliverAnswers().
     bool answersWait = false;
 };

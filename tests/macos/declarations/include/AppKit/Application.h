@@ -79,6 +79,7 @@ static const NSModalResponse NSModalResponseOK = 1;
 static const NSModalResponse NSModalResponseCancel = 0;
 
 extern NSRunLoopMode const NSModalPanelRunLoopMode;
+extern NSRunLoopMode const NSEventTrackingRunLoopMode;
 
 @class NSApplication;
 CF_EXPORT __kindof NSApplication* _Null_unspecified NSApp;

@@ -110,6 +110,15 @@ typedef struct {
 // Run loops and their modes.
 extern NSRunLoopMode const NSDefaultRunLoopMode;
 
+// The target is retained until the call.
+@interface NSObject (NSDelayedPerforming)
+- (void)performSelector:(SEL)selector
+             withObject:(nullable id)argument
+             afterDelay:(NSTimeInterval)delay
+                inModes:(NSArray<NSRunLoopMode>*)modes;
++ (void)cancelPreviousPerformRequestsWithTarget:(id)target;
+@end
+
 @interface NSRunLoop : NSObject
 @end
 
