@@ -10,7 +10,8 @@ namespace brisel::platform::macos {
 /// removed.
 ///
 /// The system sets no owner (F_GETOWN) on the tool's pipe, so it is 0: waiting for the tool waits
-/// for any child of this process group. Brisel starts no other child meanwhile.
+/// for any child of this process group. Brisel starts no other child meanwhile, and a start reaps
+/// the children that failed starts have left.
 class Authorization final : public platform::Authorization {
   public:
     [[nodiscard]] CreatedAuthorization create(std::uint32_t flags) override;

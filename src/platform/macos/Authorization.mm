@@ -4,6 +4,7 @@
 
 #include <dlfcn.h>
 #import <Security/Authorization.h>
+#include <sys/wait.h>
 
 #include "platform/macos/ToolOutput.h"
 
@@ -19,6 +20,13 @@ ExecuteWithPrivileges executeFunction() {
     static const auto function = reinterpret_cast<ExecuteWithPrivileges>(
         dlsym(RTLD_DEFAULT, "AuthorizationExecuteWithPrivileges"));
     return function;
+}
+
+// After some failures the system's call leaves a child that it has not waited for. Waiting for any
+// child, as for a tool without a process ID, would take the exit status of that one.
+void reapLeftChildren() {
+    while (waitpid(0, nullptr, WNOHANG) > 0) {
+    }
 }
 
 ::AuthorizationRef systemReference(AuthorizationRef authorization) {
@@ -58,6 +66,7 @@ StartedTool Authorization::executeWithPrivileges(AuthorizationRef authorization,
                                                  char* const* arguments) {
     const auto execute = executeFunction();
     if (execute == nullptr) return {};
+    reapLeftChildren();
     std::FILE* stream = nullptr;
     const auto status =
         execute(systemReference(authorization), pathToTool, flags, arguments, &stream);

@@ -103,6 +103,15 @@ TEST_F(AuthorizationAdapter, GivesAStreamWithoutAnOwner) {
     std::fclose(tool.communicationsPipe);
 }
 
+TEST_F(AuthorizationAdapter, GivesAStreamWithTheOwnerThatTheSystemNames) {
+    orders().namesOwner = true;
+    const auto tool = started({"/bin/tool"});
+    const auto owner = fcntl(fileno(tool.communicationsPipe), F_GETOWN, 0);
+    EXPECT_GT(owner, 0);
+    EXPECT_EQ(waitpid(owner, nullptr, 0), owner);
+    std::fclose(tool.communicationsPipe);
+}
+
 TEST_F(AuthorizationAdapter, LetsAToolEndWithItsOutputUnread) {
     orders().startsRealTools = true;
     const auto tool =
@@ -131,6 +140,17 @@ TEST_F(PrivilegedTaskOnAMac, GetsTheExitStatusWithoutAProcessID) {
     made->waitUntilExit();
     EXPECT_EQ(made->terminationStatus(), 3);
     EXPECT_EQ(made->outputFileHandle()->readDataToEndOfFile(), "no such volume");
+}
+
+TEST_F(PrivilegedTaskOnAMac, GetsItsOwnExitStatusAfterAFailedStart) {
+    orders().nextStartLeavesZombie = true;
+    EXPECT_EQ(task()->launch(), platform::errAuthorizationToolExecuteFailure);
+    mac.authorization.setToolEnd({.exitStatus = 3, .output = ""});
+    const auto made = task();
+    EXPECT_EQ(made->launch(), 0);
+    made->waitUntilExit();
+    EXPECT_EQ(made->terminationStatus(), 3);
+    EXPECT_EQ(nextExitStatus(), -1);
 }
 
 TEST_F(PrivilegedTaskOnAMac, AsksForThePasswordAndFreesWhatItUsed) {

@@ -4,9 +4,11 @@
 
 #include <fcntl.h>
 #import <Security/Authorization.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/common/ToolProcess.h"
@@ -29,6 +31,16 @@ platform::StartedTool startReally(const char* path, char* const* arguments) {
         words.push_back(*arguments);
     words.push_back(nullptr);
     return platform::common::startToolProcess([&] { execv(path, words.data()); });
+}
+
+// The real call returns on some failures without waiting for the child that it has forked.
+OSStatus leaveZombie() {
+    constexpr int ExitStatus = 99;
+    const auto child = fork();
+    if (child == 0) _exit(ExitStatus);
+    siginfo_t end{};
+    waitid(P_PID, static_cast<id_t>(child), &end, WEXITED | WNOWAIT);
+    return errAuthorizationToolExecuteFailure;
 }
 
 }  // namespace
@@ -63,12 +75,13 @@ OSStatus AuthorizationExecuteWithPrivileges(AuthorizationRef authorization, cons
                                             AuthorizationFlags options, char* const* arguments,
                                             FILE** communicationsPipe) {
     if (options != kAuthorizationFlagDefaults) return errAuthorizationInvalidFlags;
+    if (std::exchange(orders().nextStartLeavesZombie, false)) return leaveZombie();
     const auto started = orders().startsRealTools
                              ? startReally(pathToTool, arguments)
                              : world().authorization.executeWithPrivileges(
                                    worldReference(authorization), pathToTool, options, arguments);
-    // The real call sets no owner of the descriptor.
-    if (started.communicationsPipe != nullptr) {
+    // The real call is not known to set an owner of the descriptor.
+    if (started.communicationsPipe != nullptr && !orders().namesOwner) {
         fcntl(fileno(started.communicationsPipe), F_SETOWN, 0);
     }
     *communicationsPipe = started.communicationsPipe;

@@ -22,6 +22,10 @@ struct Orders {
     bool onlySaysItDeletes = false;
     /// Starts the system's own tools, not the simulated Mac's.
     bool startsRealTools = false;
+    /// The next start of a tool fails after the fork, and leaves a zombie.
+    bool nextStartLeavesZombie = false;
+    /// The stream of a tool names the tool's process as its owner.
+    bool namesOwner = false;
     /// The next call that can raise an exception does.
     bool nextCallRaises = false;
     /// DASessionCreate returns null.
