@@ -15,10 +15,18 @@ namespace {
 using ExecuteWithPrivileges = ::OSStatus (*)(::AuthorizationRef, const char*, ::AuthorizationFlags,
                                              char* const*, std::FILE**);
 
+void* executeSymbol() {
+    constexpr const char* Name = "AuthorizationExecuteWithPrivileges";
+    if (void* const found = dlsym(RTLD_DEFAULT, Name)) return found;
+    // macOS 26.2 is reported to find it this way only.
+    void* const framework =
+        dlopen("/System/Library/Frameworks/Security.framework/Security", RTLD_LAZY);
+    return framework != nullptr ? dlsym(framework, Name) : nullptr;
+}
+
 ExecuteWithPrivileges executeFunction() {
-    // Searches all loaded images. The result never changes.
-    static const auto function = reinterpret_cast<ExecuteWithPrivileges>(
-        dlsym(RTLD_DEFAULT, "AuthorizationExecuteWithPrivileges"));
+    // The result never changes.
+    static const auto function = reinterpret_cast<ExecuteWithPrivileges>(executeSymbol());
     return function;
 }
 

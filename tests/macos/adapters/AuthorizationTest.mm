@@ -123,6 +123,17 @@ TEST_F(AuthorizationAdapter, LetsAToolEndWithItsOutputUnread) {
     EXPECT_TRUE(output == std::string(1000000, 'x') + "end");
 }
 
+using AuthorizationAdapterDeathTest = AuthorizationAdapter;
+
+// In a process of its own, because the look-up happens once per process.
+TEST_F(AuthorizationAdapterDeathTest, FindsTheCallThatOnlyItsFrameworkHas) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    orders().hidesExecuteFromDefault = true;
+    EXPECT_EXIT(
+        std::_Exit(adapter.offersExecuteWithPrivileges() ? started({"/bin/tool"}).status : 1),
+        testing::ExitedWithCode(0), "");
+}
+
 class PrivilegedTaskOnAMac : public AuthorizationAdapter {
   protected:
     const platform::Platform withAdapter = platformWith(mac.platform, {.authorization = &adapter});

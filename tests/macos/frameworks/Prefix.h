@@ -19,4 +19,5 @@
 #define NSStatusItem StageStatusItem
 #define NSUserDefaults StageUserDefaults
 #define NSWorkspace StageWorkspace
+#define dlopen StageDlopen
 #define dlsym StageDlsym

@@ -43,6 +43,9 @@ OSStatus leaveZombie() {
     return errAuthorizationToolExecuteFailure;
 }
 
+// Only its address is used.
+char securityFramework = 0;
+
 }  // namespace
 
 OSStatus AuthorizationCreate(const AuthorizationRights* /*rights*/,
@@ -91,5 +94,12 @@ OSStatus AuthorizationExecuteWithPrivileges(AuthorizationRef authorization, cons
 void* StageDlsym(void* handle, const char* symbol) {
     const bool isStart = std::string_view(symbol) == "AuthorizationExecuteWithPrivileges";
     if (isStart && !world().authorization.offersExecuteWithPrivileges()) return nullptr;
+    if (handle == &securityFramework) return dlsym(RTLD_DEFAULT, symbol);
+    if (isStart && orders().hidesExecuteFromDefault) return nullptr;
     return dlsym(handle, symbol);
+}
+
+void* StageDlopen(const char* path, int /*mode*/) {
+    const std::string_view known = "/System/Library/Frameworks/Security.framework/Security";
+    return path == known ? &securityFramework : nullptr;
 }

@@ -22,6 +22,8 @@ struct Orders {
     bool onlySaysItDeletes = false;
     /// Starts the system's own tools, not the simulated Mac's.
     bool startsRealTools = false;
+    /// dlsym finds AuthorizationExecuteWithPrivileges by the framework's own handle alone.
+    bool hidesExecuteFromDefault = false;
     /// The next start of a tool fails after the fork, and leaves a zombie.
     bool nextStartLeavesZombie = false;
     /// The stream of a tool names the tool's process as its owner.
