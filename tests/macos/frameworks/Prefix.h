@@ -10,6 +10,7 @@
 #define NSAlert StageAlert
 #define NSAppearance StageAppearance
 #define NSAppleScript StageAppleScript
+#define NSClassFromString StageClassFromString
 #define NSFileManager StageFileManager
 #define NSHomeDirectory StageHomeDirectory
 #define NSLog StageLog

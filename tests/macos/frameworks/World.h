@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,8 @@ struct Orders {
     /// Mounts and unmounts are refused before the call returns, as Disk Arbitration does for a
     /// request that it cannot send.
     bool refusesAtOnce = false;
+    /// How the class SMAppService answers; without an answer it is missing, as before macOS 13.
+    std::optional<bool> appServiceAnswer;
     /// A second display has a menu bar of its own, and so a copy of the status item.
     bool hasSecondDisplay = false;
     /// Handlers of the notification center wait for deliverAnswers().

@@ -42,6 +42,7 @@ typedef NS_ENUM(NSInteger, NSComparisonResult) {
 static const NSInteger NSNotFound = NSIntegerMax;
 
 extern SEL NSSelectorFromString(NSString* name);
+extern Class _Nullable NSClassFromString(NSString* name);
 extern void NSLog(NSString* format, ...) NS_FORMAT_FUNCTION(1, 2);
 
 NS_ASSUME_NONNULL_END
