@@ -72,11 +72,29 @@
 }
 @end
 
-/// Answered by the simulated Mac's alert, with the main loop in the modal mode meanwhile.
-@interface StageAlert : NSAlert
+/// The window of an alert.
+@interface StageAlertWindow : NSObject {
+  @private
+    BOOL isInFront_;
+}
+- (void)center;
+- (void)orderFrontRegardless;
+- (BOOL)isInFront;
 @end
 
-/// Records activation, About panel and termination in the transcript, and performs them.
+/// Answered by the simulated Mac's alert, with the main loop in the modal mode meanwhile. Before
+/// each alert the user is in another application, behind which it is a misuse to open.
+@interface StageAlert : NSAlert {
+  @private
+    StageAlertWindow* alertWindow_;
+}
+/// GNUstep lays an alert out when it runs.
+- (void)layout;
+- (StageAlertWindow*)window;
+@end
+
+/// Records activation, About panel and termination in the transcript, and performs them. Activation
+/// while there is an alert is part of the alert.
 @interface StageApplication : NSApplication
 @end
 

@@ -124,6 +124,8 @@ static const NSModalResponse NSAlertThirdButtonReturn = 1002;
 @property(copy) NSString* informativeText;
 - (NSButton*)addButtonWithTitle:(NSString*)title;
 @property(readonly, copy) NSArray<NSButton*>* buttons;
+// At once, not before the alert is shown.
+- (void)layout;
 // Turns the run loop in NSModalPanelRunLoopMode.
 - (NSModalResponse)runModal;
 @property(readonly, strong) NSWindow* window;
