@@ -67,6 +67,8 @@ typedef NSString* NSNotificationName;
 @end
 
 @interface NSNotificationCenter : NSObject
+@property(class, readonly, strong) NSNotificationCenter* defaultCenter;
+- (void)postNotificationName:(NSNotificationName)name object:(nullable id)object;
 - (void)addObserver:(id)observer
            selector:(SEL)selector
                name:(nullable NSNotificationName)name
