@@ -32,7 +32,7 @@ void report(DADiskRef disk, void* context) noexcept {
     @autoreleasepool {
         // A copy: the callback may end the registration.
         const auto callback = *static_cast<const DiskCallback*>(context);
-        callback({.bsdName = nameOf(disk), .reported = descriptionOf(disk)});
+        callback({.bsdName = nameOf(disk)}, descriptionOf(disk));
     }
 }
 
@@ -68,12 +68,12 @@ void complete(DADiskRef disk, DADissenterRef dissenter, void* context) noexcept 
             cameOutReadOnlyAgain(disk, *request->readOnlyDisks)) {
             refusal = Dissenter{.status = DAReturn::NotWritable};
         }
-        request->completion({.bsdName = nameOf(disk), .reported = std::nullopt}, refusal);
+        request->completion({.bsdName = nameOf(disk)}, refusal);
     }
 }
 
 void refuse(const Disk& disk, const Completion& completion) {
-    completion({.bsdName = disk.bsdName, .reported = std::nullopt}, Dissenter());
+    completion({.bsdName = disk.bsdName}, Dissenter());
 }
 
 /// The null-terminated string array of DADiskMountWithArguments, which reads it during the call.
@@ -113,12 +113,12 @@ Subscription DiskArbitration::registerDiskAppearedCallback(DiskCallback callback
 }
 
 Subscription DiskArbitration::registerDiskDisappearedCallback(DiskCallback callback) {
-    return registerCallback(
-        &DARegisterDiskDisappearedCallback,
-        [disks = readOnlyDisks_, callback = std::move(callback)](const Disk& disk) {
-            disks->erase(disk.bsdName);
-            callback(disk);
-        });
+    auto forget = [disks = readOnlyDisks_, callback = std::move(callback)](
+                      const Disk& disk, const DiskDescription& description) {
+        disks->erase(disk.bsdName);
+        callback(disk, description);
+    };
+    return registerCallback(&DARegisterDiskDisappearedCallback, std::move(forget));
 }
 
 void DiskArbitration::scheduleWithRunLoop() {
@@ -135,7 +135,7 @@ Owned<DADiskRef> DiskArbitration::diskNamed(const std::string& name) const {
 
 std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
     if (!name || !diskNamed(*name)) return std::nullopt;
-    return Disk{.bsdName = *name, .reported = std::nullopt};
+    return Disk{.bsdName = *name};
 }
 
 std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<FileURL>& path) {
@@ -143,11 +143,10 @@ std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<File
     const Owned<DADiskRef> disk(DADiskCreateFromVolumePath(kCFAllocatorDefault, session_.get(),
                                                            (__bridge CFURLRef)nsURL(path)));
     if (!disk) return std::nullopt;
-    return Disk{.bsdName = nameOf(disk.get()), .reported = std::nullopt};
+    return Disk{.bsdName = nameOf(disk.get())};
 }
 
 DiskDescription DiskArbitration::copyDescription(const Disk& disk) {
-    if (disk.reported) return *disk.reported;
     const auto found = diskNamed(disk.bsdName);
     return found ? descriptionOf(found.get()) : DiskDescription();
 }
