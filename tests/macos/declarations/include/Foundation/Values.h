@@ -42,6 +42,7 @@ typedef NS_ENUM(NSInteger, NSComparisonResult) {
 static const NSInteger NSNotFound = NSIntegerMax;
 
 extern SEL NSSelectorFromString(NSString* name);
+extern Class _Nullable NSClassFromString(NSString* name);
 extern void NSLog(NSString* format, ...) NS_FORMAT_FUNCTION(1, 2);
 
 NS_ASSUME_NONNULL_END
@@ -180,6 +181,11 @@ NS_ASSUME_NONNULL_BEGIN
 - (instancetype)initWithBytes:(const void*)value
                      objCType:(const char*)type NS_DESIGNATED_INITIALIZER;
 - (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
+@end
+
+@interface NSValue (NSValueExtensionMethods)
++ (NSValue*)valueWithPointer:(nullable const void*)pointer;
+@property(nullable, readonly) void* pointerValue;
 @end
 
 @interface NSNumber : NSValue
