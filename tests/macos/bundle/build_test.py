@@ -60,12 +60,17 @@ class Build(unittest.TestCase):
         cls.mac = FakeMac(cls.folder / "mac")
         cls.sources = cls.folder / "sources"
         copy_sources(cls.sources)
-        (cls.folder / "sdk").mkdir()
+        (cls.folder / "sdk/usr/include/c++/v1").mkdir(parents=True)
         (cls.folder / "toolchain.cmake").write_text(
             TOOLCHAIN.format(folder=cls.folder, tools=cls.mac.tools))
         cls.application = cls.folder / "build/bin/Brisel.app"
-        cls.must(cls.configure("build"))
+        cls.must(cls.configure("build", *cls.options()))
         cls.must(cls.build())
+
+    @classmethod
+    def options(cls):
+        """More cache variables of the tree."""
+        return ()
 
     @classmethod
     def must(cls, result):
