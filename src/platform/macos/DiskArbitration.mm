@@ -32,7 +32,7 @@ void report(DADiskRef disk, void* context) noexcept {
     @autoreleasepool {
         // A copy: the callback may end the registration.
         const auto callback = *static_cast<const DiskCallback*>(context);
-        callback({.bsdName = nameOf(disk), .reported = descriptionOf(disk)});
+        callback({.bsdName = nameOf(disk)}, descriptionOf(disk));
     }
 }
 
@@ -59,12 +59,12 @@ void complete(DADiskRef disk, DADissenterRef dissenter, void* context) noexcept 
         if (!refusal && request->mustBeWritable && cameOutReadOnly(disk)) {
             refusal = Dissenter{.status = DAReturn::NotWritable};
         }
-        request->completion({.bsdName = nameOf(disk), .reported = std::nullopt}, refusal);
+        request->completion({.bsdName = nameOf(disk)}, refusal);
     }
 }
 
 void refuse(const Disk& disk, const Completion& completion) {
-    completion({.bsdName = disk.bsdName, .reported = std::nullopt}, Dissenter());
+    completion({.bsdName = disk.bsdName}, Dissenter());
 }
 
 /// The null-terminated string array of DADiskMountWithArguments, which reads it during the call.
@@ -121,7 +121,7 @@ Owned<DADiskRef> DiskArbitration::diskNamed(const std::string& name) const {
 
 std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
     if (!name || !diskNamed(*name)) return std::nullopt;
-    return Disk{.bsdName = *name, .reported = std::nullopt};
+    return Disk{.bsdName = *name};
 }
 
 std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<FileURL>& path) {
@@ -129,11 +129,10 @@ std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<File
     const Owned<DADiskRef> disk(DADiskCreateFromVolumePath(kCFAllocatorDefault, session_.get(),
                                                            (__bridge CFURLRef)nsURL(path)));
     if (!disk) return std::nullopt;
-    return Disk{.bsdName = nameOf(disk.get()), .reported = std::nullopt};
+    return Disk{.bsdName = nameOf(disk.get())};
 }
 
 DiskDescription DiskArbitration::copyDescription(const Disk& disk) {
-    if (disk.reported) return *disk.reported;
     const auto found = diskNamed(disk.bsdName);
     return found ? descriptionOf(found.get()) : DiskDescription();
 }

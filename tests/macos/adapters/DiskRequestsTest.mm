@@ -99,7 +99,7 @@ TEST_F(DiskRequests, WithoutADiskAreRefusedAtOnce) {
 TEST_F(DiskRequests, ReleaseTheirCompletionsAfterTheCall) {
     attach("disk4s1");
     const auto held = std::make_shared<int>();
-    adapter.unmount({.bsdName = "disk4s1", .reported = {}}, [held](const auto&, const auto&) {});
+    adapter.unmount({.bsdName = "disk4s1"}, [held](const auto&, const auto&) {});
     EXPECT_GT(held.use_count(), 1);
     deliver();
     EXPECT_EQ(held.use_count(), 1);
