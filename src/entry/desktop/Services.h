@@ -6,7 +6,6 @@
 
 #include <string>
 
-#include "platform/common/Bundle.h"
 #include "platform/common/Menu.h"
 #include "platform/common/NotificationCenter.h"
 #include "platform/desktop/Alert.h"
@@ -20,6 +19,7 @@
 #include "platform/desktop/UserNotificationCenter.h"
 #include "platform/desktop/Workspace.h"
 #include "platform/headless/Authorization.h"
+#include "platform/headless/Bundle.h"
 #include "platform/headless/DiskArbitration.h"
 #include "platform/headless/FileManager.h"
 #include "platform/headless/Installation.h"
@@ -46,7 +46,7 @@ struct Services {
     platform::desktop::SingleInstance singleInstance;
     platform::desktop::MainThreadQueue mainThread;
     platform::desktop::NotificationServer notifications;
-    platform::common::Bundle bundle;
+    platform::headless::Bundle bundle;
     platform::common::Menu statusMenu;
     platform::common::NotificationCenter notificationCenter;
     platform::desktop::Alert alert{{.log = systemLog,
