@@ -29,7 +29,7 @@ platform::NotificationRequest makeRequest(const platform::Bundle& bundle,
         .body = bundle.localizedString("Re-mount it read-write?"),
         .soundName = SoundName,
         .categoryIdentifier = CategoryIdentifier,
-        .userInfo = {{VolumeKey, platform::textOf(volume.deviceNode())}},
+        .userInfo = {{VolumeKey, platform::orNullText(volume.deviceNode())}},
         .delay = Delay};
 }
 

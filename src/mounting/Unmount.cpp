@@ -33,7 +33,7 @@ void unmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& disk,
     }
     // No delay: only yields the processor after the unmount.
     sleep(0);
-    const auto bsdName = platform::textOf(description.mediaBSDName);
+    const auto bsdName = platform::orNullText(description.mediaBSDName);
     const VolumeRecords snapshot = manager.volumes();
     for (const auto& volume : snapshot) {
         if (volume->deviceNode() != bsdName) continue;

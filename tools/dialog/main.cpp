@@ -6,7 +6,7 @@
 #include <iostream>
 #include <span>
 
-#include "tools/dialog/Faces.h"
+#include "tools/dialog/Dialogs.h"
 #include "tools/dialog/Widgets.h"
 
 namespace {
@@ -31,7 +31,7 @@ struct Showing {
     Answer operator()(const AlertRequest& request) const { return showAlert(request); }
     Answer operator()(const AboutRequest& /*request*/) const { return showAbout(); }
     Answer operator()(const MenuRequest& request) const {
-        return showMenu(request, readEntries(std::cin));
+        return showMenu(request, readMenuLines(std::cin));
     }
 };
 
@@ -39,7 +39,7 @@ struct Showing {
 
 int main(int argumentCount, char** words) {
     const auto request =
-        requestFrom({words + 1, static_cast<std::size_t>(std::max(argumentCount - 1, 0))});
+        dialogRequestFrom({words + 1, static_cast<std::size_t>(std::max(argumentCount - 1, 0))});
     if (!request) {
         std::cerr << Usage;
         return Misused;

@@ -68,7 +68,7 @@ bool isLabel(std::string_view text) {
 
 }  // namespace
 
-Result<Request> parseCommandLine(int argumentCount, const char* const* arguments) {
+Result<MountRequest> parseCommandLine(int argumentCount, const char* const* arguments) {
     constexpr int Expected = 5;
     if (argumentCount != Expected) return refuse("Usage: mount_ntfs -o OPTIONS DEVICE MOUNTPOINT");
     const std::vector<std::string_view> words(arguments + 1, arguments + argumentCount);
@@ -79,7 +79,7 @@ Result<Request> parseCommandLine(int argumentCount, const char* const* arguments
     if (auto complaint = complaintAboutOptions(words[1])) return *complaint;
     if (!isDevice(words[2])) return refuse("The device must be /dev/NAME.");
     if (!words[3].starts_with('/')) return refuse("The mount point must be an absolute path.");
-    return Request{std::string(words[2]), std::string(words[3])};
+    return MountRequest{std::string(words[2]), std::string(words[3])};
 }
 
 Result<std::string> labelOf(std::string_view mountPoint, std::string_view home) {

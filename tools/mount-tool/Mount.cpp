@@ -14,6 +14,7 @@
 #include <string>
 #include <utility>
 
+#include "shared/MountFolders.h"
 #include "tools/mount-tool/Driver.h"
 #include "tools/mount-tool/MountCalls.h"
 
@@ -38,7 +39,7 @@ class Mount::StagingFolder {
     [[nodiscard]] const std::string& path() const { return path_; }
 
   private:
-    std::string path_ = "/run/brisel-XXXXXX";
+    std::string path_ = std::string(shared::StagingPrefix) + "XXXXXX";
 };
 
 namespace {
@@ -60,7 +61,7 @@ bool canCreateFiles(int root) {
                                  O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                                  S_IRUSR | S_IWUSR));
     // A full volume is still writable: files can be deleted.
-    if (!file.isOpen()) return errno == ENOSPC || errno == EDQUOT;
+    if (!file) return errno == ENOSPC || errno == EDQUOT;
     return unlinkat(root, name.c_str(), 0) == 0;
 }
 
@@ -84,13 +85,13 @@ Mount::Mount(Mount&&) noexcept = default;
 
 Mount::~Mount() = default;
 
-Result<Mount> Mount::make(const NTFSDevice& device, const Person& person) {
+Result<Mount> Mount::make(const NTFSDevice& device, const Caller& caller) {
     auto staging = std::make_unique<StagingFolder>();
     if (staging->path().empty()) return refuseByError("No folder can be created in /run");
-    if (const auto refusal = mountWithDriver(device.path(), staging->path(), person))
+    if (const auto refusal = mountWithDriver(device.path(), staging->path(), caller))
         return *refusal;
     Descriptor tree(cloneMount(staging->path().c_str()));
-    if (!tree.isOpen()) return refuseByMountCall("The mount cannot be cloned");
+    if (!tree) return refuseByMountCall("The mount cannot be cloned");
     return Mount(std::move(staging), std::move(tree));
 }
 

@@ -19,7 +19,7 @@ struct NameList {
 
 /// fgetxattr and its like fail on O_PATH descriptors. This path leads to the open file even after a
 /// rename.
-std::string pathOf(const Descriptor& file) {
+std::string pathOf(const shared::Descriptor& file) {
     return "/proc/self/fd/" + std::to_string(file.number());
 }
 
@@ -45,7 +45,7 @@ std::string reasonFor(int error) {
 
 }  // namespace
 
-std::optional<std::string> removeUserAttributes(const Descriptor& file) {
+std::optional<std::string> removeUserAttributes(const shared::Descriptor& file) {
     const auto path = pathOf(file);
     const auto list = listAttributes(path);
     if (list.error == ENOTSUP) return std::nullopt;

@@ -23,10 +23,10 @@ using OpenDirectory = std::unique_ptr<DIR, CloseFolder>;
 
 /// For readdir(3); null, with errno, on failure.
 OpenDirectory openForReading(const Descriptor& folder) {
-    Descriptor readable(folder.number(), ".", O_RDONLY | O_DIRECTORY);
+    Descriptor readable = openAt(folder.number(), ".", O_RDONLY | O_DIRECTORY);
     OpenDirectory directory(readable ? fdopendir(readable.number()) : nullptr);
     // fdopendir has taken the descriptor over.
-    if (directory) static_cast<void>(readable.release());
+    if (directory) readable.release();
     return directory;
 }
 
@@ -46,6 +46,10 @@ bool isGone(int error) {
 }
 
 }  // namespace
+
+Descriptor openAt(int folder, const std::string& name, int flags) {
+    return Descriptor(openat(folder, name.c_str(), flags | O_CLOEXEC));
+}
 
 bool canHoldUserAttributes(const Descriptor& file) {
     const auto status = statusOf(file);
@@ -92,7 +96,7 @@ void TreeWalk::visitEntries(const Descriptor& folder, Level& level) {
 }
 
 void TreeWalk::visitEntry(const Descriptor& folder, const std::string& name, Level& level) {
-    const Descriptor entry(folder.number(), name, O_PATH | O_NOFOLLOW);
+    const Descriptor entry = openAt(folder.number(), name, O_PATH | O_NOFOLLOW);
     if (!entry) {
         if (!isGone(errno)) complain(pathOf(name), errno);
         return;
@@ -109,7 +113,7 @@ void TreeWalk::descend() {
     level.subfolders.pop_back();
     path_.resize(level.pathLength);
     path_ = pathOf(name);
-    Descriptor folder(current_.number(), name, OpenFolder);
+    Descriptor folder = openAt(current_.number(), name, OpenFolder);
     if (folder) {
         enter(std::move(folder));
     } else if (!isGone(errno)) {
@@ -121,7 +125,7 @@ void TreeWalk::ascend() {
     path_.resize(levels_.back().pathLength);
     levels_.pop_back();
     if (levels_.empty()) return;
-    Descriptor above(current_.number(), "..", OpenFolder);
+    Descriptor above = openAt(current_.number(), "..", OpenFolder);
     const auto status = above ? statusIfHere(above) : std::nullopt;
     if (status && status->st_ino == levels_.back().node) {
         current_ = std::move(above);

@@ -10,9 +10,15 @@
 #include <utility>
 #include <vector>
 
-#include "tools/xattr/Descriptor.h"
+#include "shared/Descriptor.h"
 
 namespace brisel::xattr {
+
+using shared::Descriptor;
+
+/// Opens `name` relative to `folder` (or AT_FDCWD) by openat(2), close-on-exec. On failure returns
+/// no descriptor and sets errno.
+[[nodiscard]] Descriptor openAt(int folder, const std::string& name, int flags);
 
 /// Visits only files and folders, on one file system; nothing else has user attributes. Opens each
 /// folder relative to its parent with O_NOFOLLOW, so that a link put in its place cannot redirect

@@ -52,7 +52,7 @@ struct Services {
     platform::desktop::Alert alert{{.log = systemLog,
                                     .mainThread = mainThread,
                                     .notifications = notifications,
-                                    .interruption = terminationSignals.descriptor(),
+                                    .terminationSignals = terminationSignals.descriptor(),
                                     .dialog = dialog}};
     platform::desktop::Application application{systemLog, dialog};
     platform::headless::Authorization authorization{systemLog, terminationSignals.descriptor()};

@@ -14,18 +14,22 @@
 #include <string_view>
 #include <utility>
 
+#include "shared/DialogWords.h"
+
 namespace brisel::platform::desktop {
 
 namespace {
 
-// Written by tools/dialog/Protocol.cpp.
-constexpr std::string_view ShownWord = "shown";
-constexpr std::string_view PressedWord = "pressed ";
+using shared::Descriptor;
 
-// A memfd, not a pipe: writing never blocks.
-int fileWith(const std::string& text) {
-    const int file = memfd_create("brisel-dialog-input", MFD_CLOEXEC);
-    static_cast<void>(pwrite(file, text.data(), text.size(), 0) >= 0);
+constexpr std::string_view ShownWord = shared::ShownWord;
+constexpr std::string_view PressedWord = shared::PressedWord;
+
+// A memfd, not a pipe: writing never blocks. No file if it cannot be written.
+Descriptor fileWith(const std::string& text) {
+    Descriptor file(memfd_create("brisel-dialog-input", MFD_CLOEXEC));
+    const auto written = pwrite(file.number(), text.data(), text.size(), 0);
+    if (written != static_cast<ssize_t>(text.size())) file.reset();
     return file;
 }
 
@@ -59,9 +63,7 @@ DialogProcess::DialogProcess(const std::string& program, const std::vector<std::
                              const std::string& input) {
     std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());
-    const int file = fileWith(input);
-    start(std::move(words), file);
-    close(file);
+    if (const auto file = fileWith(input)) start(std::move(words), file.number());
     if (child_ == 0) state_ = State::Ended;
 }
 
@@ -77,18 +79,18 @@ void DialogProcess::start(std::vector<std::string> words, int input) {
     vector.push_back(nullptr);
     std::array<int, 2> ends{-1, -1};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return;
-    const Streams streams(input, ends[1]);
+    output_ = Descriptor(ends[0]);
+    const Descriptor theirs(ends[1]);
+    const Streams streams(input, theirs.number());
     const int error =
         posix_spawn(&child_, vector.front(), streams.actions(), nullptr, vector.data(), environ);
-    close(ends[1]);
-    output_ = ends[0];
     if (error != 0) end();
 }
 
 void DialogProcess::takeIn() {
     constexpr std::size_t MoreThanALine = 256;
     std::array<char, MoreThanALine> chunk{};
-    const auto count = read(output_, chunk.data(), chunk.size());
+    const auto count = read(output_.number(), chunk.data(), chunk.size());
     if (count <= 0) {
         end();
         return;
@@ -116,8 +118,7 @@ void DialogProcess::end() {
         waitpid(child_, nullptr, 0);
         child_ = 0;
     }
-    if (output_ >= 0) close(output_);
-    output_ = -1;
+    output_.reset();
     if (state_ != State::Pressed) state_ = State::Ended;
 }
 

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "shared/Descriptor.h"
+
 namespace brisel::platform::desktop {
 
 /// Main thread only.
@@ -24,7 +26,7 @@ class DialogProcess {
     ~DialogProcess();
 
     /// -1 once ended.
-    [[nodiscard]] int descriptor() const { return output_; }
+    [[nodiscard]] int descriptor() const { return output_.number(); }
     /// Reads output and updates the state. Call when the descriptor is readable.
     void takeIn();
 
@@ -41,7 +43,7 @@ class DialogProcess {
     void end();
 
     pid_t child_ = 0;
-    int output_ = -1;
+    shared::Descriptor output_;
     std::string told_;
     State state_ = State::Starting;
     bool shown_ = false;

@@ -13,23 +13,23 @@ namespace brisel::platform::desktop {
 
 /// What lives on the tray's thread.
 struct StatusItem::Tray {
-    Tray(const Surroundings& surroundings, TrayMenu::Chosen chosen,
+    Tray(const Dependencies& dependencies, TrayMenu::Chosen chosen,
          const std::function<void(ColourScheme::Scheme)>& changed)
         : menu(std::move(chosen)),
-          icon(surroundings.bus, surroundings.log, TrayMenu::ObjectPath),
-          colourScheme(surroundings.bus, changed) {}
+          icon(dependencies.bus, dependencies.log, TrayMenu::ObjectPath),
+          colourScheme(dependencies.bus, changed) {}
 
     TrayMenu menu;
     TrayIcon icon;
     ColourScheme colourScheme;
 };
 
-StatusItem::StatusItem(const Surroundings& surroundings) : surroundings_(surroundings) {
-    surroundings_.menu.setChanged([this] { showMenuSoon(); });
+StatusItem::StatusItem(const Dependencies& dependencies) : dependencies_(dependencies) {
+    dependencies_.menu.setChanged([this] { showMenuSoon(); });
 }
 
 StatusItem::~StatusItem() {
-    surroundings_.menu.setChanged({});
+    dependencies_.menu.setChanged({});
     trayThread_.post([this] { tray_.reset(); });
 }
 
@@ -38,7 +38,7 @@ StatusItem::Tray& StatusItem::tray() {
         const auto chosen = [this](int number) {
             headless::handTo(mainContext_, ifAlive([this, number] { choose(number); }));
         };
-        tray_ = std::make_unique<Tray>(surroundings_, chosen,
+        tray_ = std::make_unique<Tray>(dependencies_, chosen,
                                        [this](auto scheme) { noteScheme(scheme); });
     }
     return *tray_;
@@ -54,7 +54,7 @@ void StatusItem::setImage(const std::optional<std::string>& name) {
     showMenu();
     const auto key = common::statusWords(name.value_or(""));
     TrayLook look{.iconName = name.value_or(""),
-                  .words = surroundings_.bundle.localizedString(key)};
+                  .words = dependencies_.bundle.localizedString(key)};
     trayThread_.post([this, look = std::move(look)] { tray().icon.show(look); });
 }
 
@@ -68,7 +68,7 @@ Subscription StatusItem::observeEffectiveAppearance(std::function<void()> change
 
 void StatusItem::noteScheme(ColourScheme::Scheme scheme) {
     dark_ = scheme == ColourScheme::Scheme::Dark;
-    surroundings_.mainThread.post(ifAlive([this] { appearanceChanged_(); }));
+    dependencies_.mainThread.post(ifAlive([this] { appearanceChanged_(); }));
 }
 
 void StatusItem::showMenuSoon() {
@@ -79,7 +79,7 @@ void StatusItem::showMenuSoon() {
 void StatusItem::showMenu() {
     if (!std::exchange(menuChanged_, false)) return;
     pending_.reset();
-    auto entries = numbered_.update(surroundings_.menu.items());
+    auto entries = numbered_.update(dependencies_.menu.items());
     if (entries == entries_) return;
     entries_ = std::move(entries);
     trayThread_.post([this, shown = entries_] { tray().menu.show(shown); });

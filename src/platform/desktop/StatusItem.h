@@ -28,7 +28,7 @@ namespace brisel::platform::desktop {
 class StatusItem final : public platform::StatusItem {
   public:
     /// All of them must outlive the item. `menu` is the one to show.
-    struct Surroundings {
+    struct Dependencies {
         GDBusConnection* bus;
         platform::SystemLog& log;
         const platform::Bundle& bundle;
@@ -36,7 +36,7 @@ class StatusItem final : public platform::StatusItem {
         MainThreadQueue& mainThread;
     };
 
-    explicit StatusItem(const Surroundings& surroundings);
+    explicit StatusItem(const Dependencies& dependencies);
     StatusItem(const StatusItem&) = delete;
     StatusItem& operator=(const StatusItem&) = delete;
     ~StatusItem() override;
@@ -64,7 +64,7 @@ class StatusItem final : public platform::StatusItem {
     /// `work` for the main thread, which may come to it when the item has gone: nothing then.
     [[nodiscard]] std::function<void()> ifAlive(std::function<void()> work) const;
 
-    Surroundings surroundings_;
+    Dependencies dependencies_;
     NumberedMenu numbered_;
     std::vector<MenuEntry> entries_;
     bool menuChanged_ = true;

@@ -9,6 +9,7 @@
 #include "platform/headless/MainContext.h"
 #include "platform/headless/MountFolder.h"
 #include "platform/headless/UDisksErrors.h"
+#include "shared/MountFolders.h"
 
 namespace brisel::platform::headless {
 
@@ -34,7 +35,7 @@ bool isInMountFolder(const std::optional<FileURL>& path) {
 
 // Where the mount tool has a volume for a moment, until it is in order: its StagingFolder.
 bool isUnderWay(const std::optional<FileURL>& path) {
-    return path && path->path().starts_with("/run/brisel-");
+    return path && path->path().starts_with(shared::StagingPrefix);
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ std::map<std::string, DiskDescription> DiskService::disks() const {
     std::map<std::string, DiskDescription> found;
     objects_.forEachBlock([&found](UDisksObject* object, UDisksBlock* block) {
         auto description = describe(propertiesOf(object, block));
-        auto name = textOf(description.mediaBSDName);
+        auto name = orNullText(description.mediaBSDName);
         found.insert_or_assign(std::move(name), std::move(description));
     });
     return found;

@@ -75,7 +75,7 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
     transcript_.write(event);
     auto* const entry = find(disk.bsdName);
     const auto refusal = judgeMount(entry);
-    if (!refusal) mount(*entry, "/Volumes/" + textOf(entry->properties.description.volumeName));
+    if (!refusal) mount(*entry, "/Volumes/" + orNullText(entry->properties.description.volumeName));
     complete(disk, refusal, std::move(completion));
 }
 

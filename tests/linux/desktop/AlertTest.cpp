@@ -36,7 +36,7 @@ class AnAlert : public testing::Test {
         return Alert({.log = log_,
                       .mainThread = mainThread_,
                       .notifications = notifications_,
-                      .interruption = interruption,
+                      .terminationSignals = interruption,
                       .dialog = dialog,
                       .patience = patience})
             .runModal(content);
@@ -192,7 +192,7 @@ TEST_F(TheAppearanceUnderAnAlert, FollowsTheDesktop) {
     Alert alert({.log = log_,
                  .mainThread = mainThread_,
                  .notifications = notifications,
-                 .interruption = NoInterruption,
+                 .terminationSignals = NoInterruption,
                  .dialog = dialog.path()});
     EXPECT_EQ(alert.runModal(Question), AlertFirstButtonReturn);
     program.run([&] { portal.reset(); });

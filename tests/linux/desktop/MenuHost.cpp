@@ -30,7 +30,7 @@ ShownItem itemFrom(GVariant* wrapped) {
     return shown;
 }
 
-std::string textOf(const ShownItem& item) {
+std::string orNullText(const ShownItem& item) {
     if (item.separator) return "---";
     const auto label = item.label + (item.checked ? " [x]" : "");
     return item.enabled ? label : "(" + label + ")";
@@ -41,7 +41,7 @@ std::string textOf(const ShownItem& item) {
 std::string ShownMenu::text() const {
     std::string text;
     for (const auto& item : items)
-        text += (text.empty() ? "" : " | ") + textOf(item);
+        text += (text.empty() ? "" : " | ") + orNullText(item);
     return text;
 }
 

@@ -18,7 +18,7 @@ class StatusItemOnBus : public testing::Test {
   protected:
     StatusItemOnBus() {
         item_ = std::make_unique<platform::desktop::StatusItem>(
-            platform::desktop::StatusItem::Surroundings{.bus = bus_,
+            platform::desktop::StatusItem::Dependencies{.bus = bus_,
                                                         .log = log_,
                                                         .bundle = bundle_,
                                                         .menu = menu_,

@@ -4,9 +4,9 @@
 
 #include <vector>
 
+#include "tools/dialog/DialogRequest.h"
 #include "tools/dialog/MenuLines.h"
 #include "tools/dialog/Protocol.h"
-#include "tools/dialog/Request.h"
 
 namespace brisel::dialog {
 
@@ -19,6 +19,6 @@ Answer showAlert(const AlertRequest& request);
 Answer showAbout();
 
 /// Returns the ID of the chosen item.
-Answer showMenu(const MenuRequest& request, const std::vector<MenuEntry>& entries);
+Answer showMenu(const MenuRequest& request, const std::vector<MenuLine>& entries);
 
 }  // namespace brisel::dialog

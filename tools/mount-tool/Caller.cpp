@@ -1,6 +1,6 @@
 // The user who requested the mount.
 // SPDX-License-Identifier: MIT
-#include "tools/mount-tool/Person.h"
+#include "tools/mount-tool/Caller.h"
 
 #include <pwd.h>
 
@@ -32,14 +32,14 @@ std::string withoutLastSlash(std::string folder) {
 
 }  // namespace
 
-Result<Person> whoAsked(const char* pkexecUID) {
+Result<Caller> callerOf(const char* pkexecUID) {
     const auto uid = parseUID(pkexecUID != nullptr ? pkexecUID : "0");
     if (!uid) return refuse("PKEXEC_UID is not a user ID.");
     const passwd* const entry = getpwuid(*uid);
     if (entry == nullptr) return refuse("The requesting user does not exist.");
-    Person person{entry->pw_uid, entry->pw_gid, withoutLastSlash(entry->pw_dir)};
-    if (!person.home.starts_with('/')) return refuse("The requesting user has no home folder.");
-    return person;
+    Caller caller{entry->pw_uid, entry->pw_gid, withoutLastSlash(entry->pw_dir)};
+    if (!caller.home.starts_with('/')) return refuse("The requesting user has no home folder.");
+    return caller;
 }
 
 }  // namespace brisel::mounttool

@@ -10,7 +10,7 @@
 
 namespace brisel::mounttool {
 
-struct Person {
+struct Caller {
     uid_t uid = 0;
     gid_t gid = 0;
     std::string home;  ///< Absolute.
@@ -18,6 +18,6 @@ struct Person {
 
 /// Looks up the user of PKEXEC_UID, decimal digits without leading zeros. Null (unset) is root.
 /// Refuses unknown users and users without a home folder. Not thread-safe: uses getpwuid.
-Result<Person> whoAsked(const char* pkexecUID);
+Result<Caller> callerOf(const char* pkexecUID);
 
 }  // namespace brisel::mounttool

@@ -1,6 +1,6 @@
 // The command line of `brisel-dialog`.
 // SPDX-License-Identifier: MIT
-#include "tools/dialog/Request.h"
+#include "tools/dialog/DialogRequest.h"
 
 #include "tools/dialog/Text.h"
 
@@ -18,21 +18,23 @@ const char* const Usage =
 namespace {
 
 AlertRequest alertFrom(std::span<const char* const> texts) {
-    AlertRequest alert{.message = lineOf(texts[0]), .informative = textOf(texts[1]), .buttons = {}};
+    AlertRequest alert{
+        .message = sanitizedLine(texts[0]), .informative = sanitizedText(texts[1]), .buttons = {}};
     for (const char* title : texts.subspan(2))
-        alert.buttons.push_back(lineOf(title));
+        alert.buttons.push_back(sanitizedLine(title));
     return alert;
 }
 
 }  // namespace
 
-std::optional<Request> requestFrom(std::span<const char* const> words) {
+std::optional<DialogRequest> dialogRequestFrom(std::span<const char* const> words) {
     if (words.empty()) return std::nullopt;
     const std::string face = words.front();
     const auto texts = words.subspan(1);
     if (face == "alert" && texts.size() >= 3) return alertFrom(texts);
     if (face == "about" && texts.empty()) return AboutRequest{};
-    if (face == "menu" && texts.size() == 1) return MenuRequest{.title = lineOf(texts.front())};
+    if (face == "menu" && texts.size() == 1)
+        return MenuRequest{.title = sanitizedLine(texts.front())};
     return std::nullopt;
 }
 

@@ -1,6 +1,6 @@
 // The user on whose behalf the mount tool runs.
 // SPDX-License-Identifier: MIT
-#include "tools/mount-tool/Person.h"
+#include "tools/mount-tool/Caller.h"
 
 #include <gtest/gtest.h>
 #include <pwd.h>
@@ -11,34 +11,34 @@ namespace brisel::mounttool {
 
 namespace {
 
-TEST(Person, IsRootWithoutPkexec) {
-    auto person = whoAsked(nullptr);
-    ASSERT_TRUE(person);
-    EXPECT_EQ(person->uid, 0U);
-    EXPECT_EQ(person->home, getpwuid(0)->pw_dir);
+TEST(Caller, IsRootWithoutPkexec) {
+    auto caller = callerOf(nullptr);
+    ASSERT_TRUE(caller);
+    EXPECT_EQ(caller->uid, 0U);
+    EXPECT_EQ(caller->home, getpwuid(0)->pw_dir);
 }
 
-TEST(Person, IsTheUserWhoCalledPkexec) {
+TEST(Caller, IsTheUserWhoCalledPkexec) {
     const passwd daemon = *getpwnam("daemon");
     const std::string home = daemon.pw_dir;
-    auto person = whoAsked(std::to_string(daemon.pw_uid).c_str());
-    ASSERT_TRUE(person);
-    EXPECT_EQ(person->uid, daemon.pw_uid);
-    EXPECT_EQ(person->gid, daemon.pw_gid);
-    EXPECT_EQ(person->home, home);
+    auto caller = callerOf(std::to_string(daemon.pw_uid).c_str());
+    ASSERT_TRUE(caller);
+    EXPECT_EQ(caller->uid, daemon.pw_uid);
+    EXPECT_EQ(caller->gid, daemon.pw_gid);
+    EXPECT_EQ(caller->home, home);
 }
 
-TEST(Person, IsAbsentIfTheUserIDIsInvalid) {
+TEST(Caller, IsAbsentIfTheUserIDIsInvalid) {
     for (const char* const text :
          {"", " ", "root", "-1", "+0", " 0", "0 ", "00", "01", "0x0", "0\n", "1e0", "1.0",
           "4294967295", "4294967296", "18446744073709551616", "99999999999999999999999999", "٣"})
-        EXPECT_FALSE(whoAsked(text)) << text;
+        EXPECT_FALSE(callerOf(text)) << text;
 }
 
-TEST(Person, MustExist) {
+TEST(Caller, MustExist) {
     constexpr const char* Unused = "4294967213";
     ASSERT_EQ(getpwuid(4294967213U), nullptr);
-    EXPECT_FALSE(whoAsked(Unused));
+    EXPECT_FALSE(callerOf(Unused));
 }
 
 }  // namespace

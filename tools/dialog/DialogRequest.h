@@ -25,11 +25,11 @@ struct MenuRequest {
     std::string title;
 };
 
-using Request = std::variant<AlertRequest, AboutRequest, MenuRequest>;
+using DialogRequest = std::variant<AlertRequest, AboutRequest, MenuRequest>;
 
 /// Parses the arguments without the program's name, and sanitizes their texts. nullopt if
 /// malformed.
-std::optional<Request> requestFrom(std::span<const char* const> words);
+std::optional<DialogRequest> dialogRequestFrom(std::span<const char* const> words);
 
 extern const char* const Usage;
 

@@ -1,6 +1,6 @@
 // The About window.
 // SPDX-License-Identifier: MIT
-#include "tools/dialog/Faces.h"
+#include "tools/dialog/Dialogs.h"
 #include "tools/dialog/Session.h"
 #include "tools/dialog/Widgets.h"
 

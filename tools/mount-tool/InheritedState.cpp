@@ -1,6 +1,6 @@
 // Sanitizes the inherited process state.
 // SPDX-License-Identifier: MIT
-#include "tools/mount-tool/Surroundings.h"
+#include "tools/mount-tool/InheritedState.h"
 
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -60,7 +60,7 @@ void liftLimits() {
 
 }  // namespace
 
-std::optional<Refusal> shakeOffSurroundings() {
+std::optional<Refusal> resetInheritedState() {
     constexpr mode_t OwnerOnly = 077;
     if (!openStandardDescriptors()) return refuseByError("/dev/null cannot be opened");
     if (!closeAllOthers()) return refuseByError("This needs Linux 5.9 or later");

@@ -1,6 +1,6 @@
 // The status menu as a window, for desktops without a tray.
 // SPDX-License-Identifier: MIT
-#include "tools/dialog/Faces.h"
+#include "tools/dialog/Dialogs.h"
 #include "tools/dialog/Session.h"
 #include "tools/dialog/Widgets.h"
 
@@ -39,8 +39,8 @@ GtkWidget* newCheckedButton() {
     return button;
 }
 
-GtkWidget* newItem(const MenuEntry& entry) {
-    const bool isChecked = entry.kind == EntryKind::CheckedItem;
+GtkWidget* newItem(const MenuLine& entry) {
+    const bool isChecked = entry.kind == MenuLineKind::CheckedItem;
     auto* item = isChecked ? newCheckedButton() : gtk_button_new();
     auto* row = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 2 * Gap);
     append(GTK_BOX(row), newTitle(entry.title));
@@ -64,9 +64,9 @@ GtkWidget* newText(const std::string& title) {
     return label;
 }
 
-GtkWidget* newRow(const MenuEntry& entry, Session& session) {
-    if (entry.kind == EntryKind::Separator) return gtk_separator_new(GTK_ORIENTATION_HORIZONTAL);
-    if (entry.kind == EntryKind::Text) return newText(entry.title);
+GtkWidget* newRow(const MenuLine& entry, Session& session) {
+    if (entry.kind == MenuLineKind::Separator) return gtk_separator_new(GTK_ORIENTATION_HORIZONTAL);
+    if (entry.kind == MenuLineKind::Text) return newText(entry.title);
     auto* item = newItem(entry);
     session.answerWith(GTK_BUTTON(item), entry.id);
     return item;
@@ -74,7 +74,7 @@ GtkWidget* newRow(const MenuEntry& entry, Session& session) {
 
 }  // namespace
 
-Answer showMenu(const MenuRequest& request, const std::vector<MenuEntry>& entries) {
+Answer showMenu(const MenuRequest& request, const std::vector<MenuLine>& entries) {
     auto* window = newWindow(request.title);
     Session session(window);
     auto* column = newColumn(Gap / 4);

@@ -1,6 +1,6 @@
 // Parsing of brisel-dialog's command line.
 // SPDX-License-Identifier: MIT
-#include "tools/dialog/Request.h"
+#include "tools/dialog/DialogRequest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,7 +13,8 @@ using testing::ElementsAre;
 using Words = std::vector<const char*>;
 
 TEST(ARequest, ForAnAlertHasTextsAndButtons) {
-    const auto request = requestFrom(Words{"alert", "Message\n!", "two\nlines", "Yes", "N\xff"});
+    const auto request =
+        dialogRequestFrom(Words{"alert", "Message\n!", "two\nlines", "Yes", "N\xff"});
     ASSERT_TRUE(request && std::holds_alternative<AlertRequest>(*request));
     const auto& alert = std::get<AlertRequest>(*request);
     EXPECT_EQ(alert.message, "Message !");
@@ -22,15 +23,15 @@ TEST(ARequest, ForAnAlertHasTextsAndButtons) {
 }
 
 TEST(ARequest, DoesNotTakeTextsForOptions) {
-    const auto request = requestFrom(Words{"alert", "--help", "", "--display=:7"});
+    const auto request = dialogRequestFrom(Words{"alert", "--help", "", "--display=:7"});
     ASSERT_TRUE(request.has_value());
     EXPECT_EQ(std::get<AlertRequest>(*request).message, "--help");
     EXPECT_THAT(std::get<AlertRequest>(*request).buttons, ElementsAre("--display=:7"));
 }
 
 TEST(ARequest, MayBeForTheAboutBoxOrAMenu) {
-    EXPECT_TRUE(std::holds_alternative<AboutRequest>(requestFrom(Words{"about"}).value()));
-    const auto menu = requestFrom(Words{"menu", "a\tb"});
+    EXPECT_TRUE(std::holds_alternative<AboutRequest>(dialogRequestFrom(Words{"about"}).value()));
+    const auto menu = dialogRequestFrom(Words{"menu", "a\tb"});
     ASSERT_TRUE(menu && std::holds_alternative<MenuRequest>(*menu));
     EXPECT_EQ(std::get<MenuRequest>(*menu).title, "a b");
 }
@@ -38,7 +39,7 @@ TEST(ARequest, MayBeForTheAboutBoxOrAMenu) {
 class OtherWords : public testing::TestWithParam<Words> {};
 
 TEST_P(OtherWords, AreNoRequest) {
-    EXPECT_FALSE(requestFrom(GetParam()).has_value());
+    EXPECT_FALSE(dialogRequestFrom(GetParam()).has_value());
 }
 
 INSTANTIATE_TEST_SUITE_P(Such, OtherWords,
