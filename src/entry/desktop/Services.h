@@ -8,6 +8,7 @@
 
 #include "platform/common/Menu.h"
 #include "platform/common/NotificationCenter.h"
+#include "platform/desktop/ActivationToken.h"
 #include "platform/desktop/Alert.h"
 #include "platform/desktop/Application.h"
 #include "platform/desktop/LoginItems.h"
@@ -39,7 +40,9 @@ struct Services {
     Services& operator=(const Services&) = delete;
     ~Services();
 
-    const std::string dialog = platform::headless::toolPath("brisel-dialog");
+    platform::desktop::ActivationToken activationToken;
+    const platform::desktop::DialogProgram dialog{
+        .path = platform::headless::toolPath("brisel-dialog"), .activationToken = activationToken};
     platform::headless::OwnMainLoop mainLoop;
     platform::headless::TerminationSignals terminationSignals;
     platform::headless::SystemLog systemLog;
