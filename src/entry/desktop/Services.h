@@ -69,7 +69,7 @@ struct Services {
     platform::headless::UserDefaults userDefaults{systemLog,
                                                   platform::headless::UserDefaults::defaultPath()};
     platform::desktop::UserNotificationCenter userNotificationCenter{notifications};
-    platform::desktop::Workspace workspace{systemLog};
+    platform::desktop::Workspace workspace;
     platform::desktop::MenuWindow menuWindow{statusItem, systemLog, dialog};
 };
 
