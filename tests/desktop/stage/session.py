@@ -218,6 +218,13 @@ class Session:
             options = ["-crop", f"{width}x{height}+{left}+{top}", "+repage"]
         run("import", "-window", "root", "-display", self.environment["DISPLAY"], *options, file)
 
+    def brightness(self, window):
+        """The mean brightness of a window, from 0 to 1."""
+        left, top, width, height = self.geometry(window)
+        return float(self.run(
+            "import", "-window", "root", "-crop", f"{width}x{height}+{left}+{top}",
+            "-colorspace", "Gray", "-format", "%[fx:mean]", "info:"))
+
     def wait_until_still(self):
         """Waits until the screen stops changing: window contents fade in after the window appears.
         """
