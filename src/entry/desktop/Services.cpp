@@ -24,7 +24,8 @@ Services::Services(GDBusConnection* bus)
                   .log = systemLog,
                   .bundle = bundle,
                   .menu = statusMenu,
-                  .mainThread = mainThread}) {}
+                  .mainThread = mainThread}),
+      workspace(bus, systemLog, activationToken) {}
 
 Services::~Services() = default;
 

@@ -73,7 +73,8 @@ done
 broken=0
 if [ -n "$together" ]; then
     # Each program has its own main.
-    check -x objective-c++ -Wno-old-style-cast -Dmain=start $(printf -- '-include %s ' "$@") /dev/null
+    check -x objective-c++ -Wno-old-style-cast '-DJOINED(a,b)=a##b' '-DNUMBERED(a,b)=JOINED(a,b)' \
+        '-Dmain=NUMBERED(start,__COUNTER__)' $(printf -- '-include %s ' "$@") /dev/null
     exit $broken
 fi
 # A bridging cast looks like one of C's.
