@@ -28,9 +28,12 @@ std::vector<platform::MenuItem> mainMenuItems(const std::shared_ptr<AppDelegate>
     const auto& bundle = platform.bundle;
     platform::MenuItem separator;
     separator.separator = true;
-    return {
+    auto startAtLogin =
         fixedItem(bundle.localizedString("Start at Login"), ToggleStartAtLoginAction,
-                  [delegate](const auto&) { delegate->toggleStartAtLogin(); }),
+                  [delegate](const auto&) { delegate->toggleStartAtLogin(); });
+    startAtLogin.checkable = true;
+    return {
+        startAtLogin,
         fixedItem(bundle.localizedString("About Brisel"), BringToFrontAction,
                   [delegate](const auto&) { delegate->bringToFront(); }),
         separator,

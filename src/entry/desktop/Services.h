@@ -68,7 +68,8 @@ struct Services {
     platform::headless::SystemVersion systemVersion;
     platform::headless::UserDefaults userDefaults{systemLog,
                                                   platform::headless::UserDefaults::defaultPath()};
-    platform::desktop::UserNotificationCenter userNotificationCenter{notifications};
+    platform::desktop::UserNotificationCenter userNotificationCenter{notifications,
+                                                                     activationToken};
     platform::desktop::Workspace workspace;
     platform::desktop::MenuWindow menuWindow{statusItem, systemLog, dialog};
 };

@@ -20,7 +20,8 @@ class Mounting(Story):
         stick = self.attach("StageData")
         prompt = self.notifications.wait_for("StageData detected")
         self.assertEqual(prompt.body, "Re-mount it read-write?")
-        self.assertEqual(prompt.actions, {"DO_MOUNT": "Yes, sure!", "NOTHING": "No, thanks."})
+        self.assertEqual(prompt.actions, {
+            "default": "Brisel", "DO_MOUNT": "Yes, sure!", "NOTHING": "No, thanks."})
         self.tray.wait_for_colour("green")
         self.assertEqual(self.tray.labels()[0], "re-mount StageData")
         self.take_picture("prompt")
@@ -67,6 +68,16 @@ class Mounting(Story):
         self.write_greeting(folder)
         self.unmount(stick)
         self.assert_greeting_arrived(stick)
+
+    def test_after_unmount_a_notification_lets_the_stick_be_unplugged(self):
+        self.start_brisel()
+        stick = self.attach("StageData")
+        self.make_writable(stick)
+        self.unmount(stick)
+        notice = self.notifications.wait_for("StageData unmounted")
+        self.assertEqual(notice.body, "You may unplug the device now.")
+        self.assertEqual(notice.actions, {})
+        self.assertGreater(notice.timeout, 0)
 
     def test_a_no_to_the_prompt_leaves_the_stick_alone(self):
         self.start_brisel()

@@ -139,7 +139,7 @@ class Exports(unittest.TestCase):
     def setUpClass(cls):
         cls.scratch = tempfile.TemporaryDirectory()
         cls.addClassCleanup(cls.scratch.cleanup)
-        cls.folder = pathlib.Path(cls.scratch.name)
+        cls.folder = pathlib.Path(cls.scratch.name) / "macos"
         script = str(ROOT / "scripts/export-images")
         subprocess.run([sys.executable, "-B", script, cls.scratch.name], check=True)
 
@@ -164,6 +164,12 @@ class Exports(unittest.TestCase):
             with self.subTest(kind=kind):
                 self.assertLessEqual(apart(small_picture(made, kind), small_picture(kept, kind)),
                                      MOST_APART_AT_EDGES)
+
+    def test_are_the_linux_icon_that_is_kept(self):
+        name = "linux/org.brisel.Brisel.png"
+        kept = read(ROOT / "resources" / name)
+        self.assertEqual(size(kept), (48, 48))
+        self.assertLessEqual(apart(read(self.folder.parent / name), kept), MOST_APART_AT_EDGES)
 
 
 if __name__ == "__main__":
