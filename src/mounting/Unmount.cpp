@@ -7,6 +7,7 @@
 #include "mounting/StatusMessages.h"
 #include "platform/Format.h"
 #include "platform/Menu.h"
+#include "platform/NotificationCenter.h"
 #include "platform/SystemLog.h"
 #include "volumes/NTFSVolumeManager.h"
 
@@ -39,6 +40,8 @@ void unmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& disk,
         if (volume->deviceNode() != bsdName) continue;
         manager.removeVolumeFromList(volume);
         manager.setInProgress(false);
+        manager.platform().notificationCenter.postNotificationName(NTFSVolumeDidUnmountNotification,
+                                                                   volume.get());
     }
 }
 

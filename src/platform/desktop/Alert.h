@@ -29,8 +29,7 @@ class Alert final : public platform::Alert {
         MainThreadQueue& mainThread;
         NotificationServer& notifications;
         int terminationSignals;
-        /// Path of brisel-dialog.
-        std::string dialog;
+        DialogProgram dialog;
         /// How long a window may take to appear.
         std::chrono::milliseconds patience = UsualPatience;
     };

@@ -40,6 +40,30 @@ std::optional<int> numberIn(std::string_view text) {
     return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
 }
 
+// The program's own environment, but for the token of its launch.
+std::vector<std::string> environmentWith(const std::string& activationToken) {
+    std::vector<std::string> variables;
+    for (char** variable = environ; *variable != nullptr; ++variable)
+        variables.emplace_back(*variable);
+    for (const char* const name : ActivationToken::LaunchVariables) {
+        const auto assignment = std::string(name) + '=';
+        std::erase_if(variables,
+                      [&](const auto& variable) { return variable.starts_with(assignment); });
+        if (!activationToken.empty()) variables.push_back(assignment + activationToken);
+    }
+    return variables;
+}
+
+// Null-terminated.
+std::vector<char*> pointersTo(std::vector<std::string>& texts) {
+    std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
+    for (auto& text : texts)
+        pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
 class Streams {
   public:
     Streams(int input, int output) {
@@ -59,11 +83,13 @@ class Streams {
 
 }  // namespace
 
-DialogProcess::DialogProcess(const std::string& program, const std::vector<std::string>& arguments,
-                             const std::string& input) {
-    std::vector<std::string> words{program};
+DialogProcess::DialogProcess(const DialogProgram& program,
+                             const std::vector<std::string>& arguments, const std::string& input) {
+    std::vector<std::string> words{program.path};
     words.insert(words.end(), arguments.begin(), arguments.end());
-    if (const auto file = fileWith(input)) start(std::move(words), file.number());
+    auto environment = environmentWith(program.activationToken.take());
+    if (const auto file = fileWith(input))
+        start(std::move(words), std::move(environment), file.number());
     if (child_ == 0) state_ = State::Ended;
 }
 
@@ -71,19 +97,15 @@ DialogProcess::~DialogProcess() {
     end();
 }
 
-void DialogProcess::start(std::vector<std::string> words, int input) {
-    std::vector<char*> vector;
-    vector.reserve(words.size() + 1);
-    for (auto& word : words)
-        vector.push_back(word.data());
-    vector.push_back(nullptr);
+void DialogProcess::start(std::vector<std::string> words, std::vector<std::string> environment,
+                          int input) {
     std::array<int, 2> ends{-1, -1};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return;
     output_ = Descriptor(ends[0]);
     const Descriptor theirs(ends[1]);
     const Streams streams(input, theirs.number());
-    const int error =
-        posix_spawn(&child_, vector.front(), streams.actions(), nullptr, vector.data(), environ);
+    const int error = posix_spawn(&child_, words.front().c_str(), streams.actions(), nullptr,
+                                  pointersTo(words).data(), pointersTo(environment).data());
     if (error != 0) end();
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/StatusItem.h"
 
+#include <chrono>
 #include <utility>
 
 #include "platform/common/StatusWords.h"
@@ -11,37 +12,55 @@
 
 namespace brisel::platform::desktop {
 
+// Longer than a host takes to open the menu after a click.
+constexpr std::chrono::milliseconds TimeToOpen{500};
+
 /// What lives on the tray's thread.
 struct StatusItem::Tray {
-    Tray(const Dependencies& dependencies, TrayMenu::Chosen chosen,
-         const std::function<void(ColourScheme::Scheme)>& changed)
-        : menu(std::move(chosen)),
-          icon(dependencies.bus, dependencies.log, TrayMenu::ObjectPath),
-          colourScheme(dependencies.bus, changed) {}
+    explicit Tray(StatusItem& statusItem)
+        : item(statusItem),
+          menu(
+              [this](int number) {
+                  item.onMainThread([&item = item, number] { item.choose(number); });
+              },
+              [this] { missingMenu.reset(); }),
+          icon({.bus = item.dependencies_.bus,
+                .log = item.dependencies_.log,
+                .activationToken = item.dependencies_.activationToken,
+                .menuPath = TrayMenu::ObjectPath,
+                .clicked = [this] { expectMenu(); }}),
+          colourScheme(item.dependencies_.bus, [this](auto scheme) { item.noteScheme(scheme); }) {}
 
+    // LXQt 1.2 and MATE 1.26 do nothing when Activate fails.
+    void expectMenu() {
+        missingMenu = headless::RunLoop().scheduledTimer(TimeToOpen, [this] {
+            const auto once = std::move(missingMenu);
+            item.onMainThread([&item = item] { item.showWindow_(); });
+        });
+    }
+
+    StatusItem& item;
+    Subscription missingMenu;
     TrayMenu menu;
     TrayIcon icon;
     ColourScheme colourScheme;
 };
 
 StatusItem::StatusItem(const Dependencies& dependencies) : dependencies_(dependencies) {
-    dependencies_.menu.setChanged([this] { showMenuSoon(); });
+    menuChanges_ = dependencies_.menu.observeChanges([this] { showMenuSoon(); });
 }
 
 StatusItem::~StatusItem() {
-    dependencies_.menu.setChanged({});
     trayThread_.post([this] { tray_.reset(); });
 }
 
 StatusItem::Tray& StatusItem::tray() {
-    if (!tray_) {
-        const auto chosen = [this](int number) {
-            headless::handTo(mainContext_, ifAlive([this, number] { choose(number); }));
-        };
-        tray_ = std::make_unique<Tray>(dependencies_, chosen,
-                                       [this](auto scheme) { noteScheme(scheme); });
-    }
+    if (!tray_) tray_ = std::make_unique<Tray>(*this);
     return *tray_;
+}
+
+void StatusItem::onMainThread(std::function<void()> work) const {
+    headless::handTo(mainContext_, ifAlive(std::move(work)));
 }
 
 std::function<void()> StatusItem::ifAlive(std::function<void()> work) const {

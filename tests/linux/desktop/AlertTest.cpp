@@ -37,7 +37,7 @@ class AnAlert : public testing::Test {
                       .mainThread = mainThread_,
                       .notifications = notifications_,
                       .terminationSignals = interruption,
-                      .dialog = dialog,
+                      .dialog = {.path = dialog, .activationToken = activationToken_},
                       .patience = patience})
             .runModal(content);
     }
@@ -62,6 +62,7 @@ class AnAlert : public testing::Test {
     tests::TestLoop loop_;
     tests::RecordedLog log_;
     MainThreadQueue mainThread_;
+    ActivationToken activationToken_;
     tests::BusyNotifications desktop_{{}};
     NotificationServer notifications_{tests::SessionBus::shared().program()};
 };
@@ -193,7 +194,7 @@ TEST_F(TheAppearanceUnderAnAlert, FollowsTheDesktop) {
                  .mainThread = mainThread_,
                  .notifications = notifications,
                  .terminationSignals = NoInterruption,
-                 .dialog = dialog.path()});
+                 .dialog = dialog.program()});
     EXPECT_EQ(alert.runModal(Question), AlertFirstButtonReturn);
     program.run([&] { portal.reset(); });
 }

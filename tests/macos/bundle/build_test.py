@@ -27,6 +27,7 @@ set(CMAKE_CXX_COMPILER_ID_RUN TRUE)
 set(CMAKE_CXX_COMPILER_ID AppleClang)
 set(CMAKE_CXX_COMPILER_VERSION 13.0)
 set(CMAKE_CXX_STANDARD_COMPUTED_DEFAULT 98)
+set(CMAKE_CXX_COMPILE_FEATURES cxx_std_11 cxx_std_14 cxx_std_17)
 set(CMAKE_AR "{tools}/ar")
 set(CMAKE_RANLIB "{tools}/ranlib")
 set(CMAKE_INSTALL_NAME_TOOL "{tools}/install_name_tool")
@@ -46,7 +47,8 @@ def preset():
 def copy_sources(folder):
     """Copies the sources, so that a test may change them."""
     folder.mkdir()
-    for name in ("cmake", "helper", "packaging", "resources", "scripts", "simulator", "src"):
+    for name in ("cmake", "helper", "packaging", "resources", "scripts", "simulator", "src",
+                 "tests"):
         shutil.copytree(ROOT / name, folder / name)
     shutil.copy(ROOT / "CMakeLists.txt", folder)
 
@@ -62,13 +64,18 @@ class Build(unittest.TestCase):
         cls.mac = FakeMac(cls.folder / "mac")
         cls.sources = cls.folder / "sources"
         copy_sources(cls.sources)
-        (cls.folder / "sdk").mkdir()
+        (cls.folder / "sdk/usr/include/c++/v1").mkdir(parents=True)
         (cls.folder / "toolchain.cmake").write_text(
             TOOLCHAIN.format(folder=cls.folder, tools=cls.mac.tools))
         cls.application = cls.folder / "build/bin/Brisel.app"
-        cls.configured = cls.configure("build")
+        cls.configured = cls.configure("build", *cls.options())
         cls.must(cls.configured)
         cls.must(cls.build())
+
+    @classmethod
+    def options(cls):
+        """More cache variables of the tree."""
+        return ()
 
     @classmethod
     def must(cls, result):
@@ -199,6 +206,16 @@ class Surroundings(Build):
 
     def test_without_xcode_can_build_the_rest(self):
         self.must(self.configure("the-rest", "-DBRISEL_MAC_APPLICATION=OFF", MISSING="ibtool"))
+
+    def test_select_the_tests_that_need_no_linux(self):
+        gtest = next(pathlib.Path("/usr/lib").glob("*/cmake/GTest"))
+        self.must(self.configure("tests", "-DBUILD_TESTING=ON", "-DBRISEL_MAC_APPLICATION=OFF",
+                                 f"-DGTest_DIR={gtest}"))
+        listing = self.mac.run("ctest", "--test-dir", self.folder / "tests", "-N").stdout
+        self.assertEqual(set(re.findall(r"Test +#\d+: (\S+)", listing)),
+                         {"core-tests", "platform-tests", "simulator-tests", "scenarios",
+                          "fault-tests-1", "fault-tests-2", "helper-tests", "macos-plain-tests",
+                          "rules-tests", "random.soak", "thread-tests"})
 
 
 if __name__ == "__main__":

@@ -19,6 +19,9 @@ PICTURES = ROOT / "resources/macos"
 IMAGES = PICTURES / "images"
 # Height and width of a status image, for a menu bar of 22 points.
 POINTS = 18
+# The lightest and darkest colours of a menu bar.
+BACKGROUNDS = {"dark": ((0, 0, 0), (0x36, 0x3B, 0x40)),
+               "light": ((255, 255, 255), (0xE0, 0xE0, 0xE0))}
 # Renderers round differently; a larger distance is another drawing. Releases of librsvg blend the
 # icon's edges differently, by up to 16.
 MOST_APART = 4
@@ -91,6 +94,7 @@ def names_asked_for():
 
 class StatusImages(StatusIconChecks, unittest.TestCase):
     sizes = (POINTS, 2 * POINTS)
+    backgrounds = BACKGROUNDS
 
     def picture(self, colour, bar, size):
         return read(IMAGES / f"brisel-status-{colour}-{bar}{'' if size == POINTS else '@2x'}.png")
@@ -135,7 +139,7 @@ class Exports(unittest.TestCase):
     def setUpClass(cls):
         cls.scratch = tempfile.TemporaryDirectory()
         cls.addClassCleanup(cls.scratch.cleanup)
-        cls.folder = pathlib.Path(cls.scratch.name)
+        cls.folder = pathlib.Path(cls.scratch.name) / "macos"
         script = str(ROOT / "scripts/export-images")
         subprocess.run([sys.executable, "-B", script, cls.scratch.name], check=True)
 
@@ -160,6 +164,12 @@ class Exports(unittest.TestCase):
             with self.subTest(kind=kind):
                 self.assertLessEqual(apart(small_picture(made, kind), small_picture(kept, kind)),
                                      MOST_APART_AT_EDGES)
+
+    def test_are_the_linux_icon_that_is_kept(self):
+        name = "linux/org.brisel.Brisel.png"
+        kept = read(ROOT / "resources" / name)
+        self.assertEqual(size(kept), (48, 48))
+        self.assertLessEqual(apart(read(self.folder.parent / name), kept), MOST_APART_AT_EDGES)
 
 
 if __name__ == "__main__":

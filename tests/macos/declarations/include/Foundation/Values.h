@@ -113,6 +113,7 @@ NS_ENUM(NSStringEncoding){
 - (NSComparisonResult)compare:(NSString*)string;
 - (BOOL)isEqualToString:(NSString*)string;
 - (BOOL)hasSuffix:(NSString*)text;
+@property(nullable, readonly) const char* UTF8String NS_RETURNS_INNER_POINTER;
 - (nullable NSData*)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
 - (nullable NSData*)dataUsingEncoding:(NSStringEncoding)encoding;
 
