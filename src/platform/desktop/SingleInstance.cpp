@@ -12,7 +12,7 @@ constexpr const char* BusName = "org.brisel.Brisel";
 constexpr const char* ObjectPath = "/org/brisel/Brisel";
 constexpr const char* Interface = "org.freedesktop.Application";
 
-constexpr const char* Introspection = R"(
+constexpr const char* ApplicationIntrospection = R"(
 <node><interface name='org.freedesktop.Application'>
   <method name='Activate'><arg type='a{sv}' direction='in'/></method>
 </interface></node>)";
@@ -53,7 +53,7 @@ guint SingleInstance::exportObject() {
         static_cast<SingleInstance*>(self)->noteStart();
     };
     static const GDBusInterfaceVTable answers{answer, nullptr, nullptr, {}};
-    auto* const node = g_dbus_node_info_new_for_xml(Introspection, nullptr);
+    auto* const node = g_dbus_node_info_new_for_xml(ApplicationIntrospection, nullptr);
     const auto object = g_dbus_connection_register_object(bus_, ObjectPath, *node->interfaces,
                                                           &answers, this, nullptr, nullptr);
     g_dbus_node_info_unref(node);

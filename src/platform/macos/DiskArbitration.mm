@@ -38,7 +38,8 @@ void report(DADiskRef disk, void* context) noexcept {
 
 struct Request {
     Completion completion;
-    bool mustBeWritable = false;
+    /// Null unless a read-write mount was requested.
+    std::shared_ptr<std::set<std::string>> readOnlyDisks;
 };
 
 std::optional<Dissenter> dissenterFrom(DADissenterRef dissenter) {
@@ -51,12 +52,20 @@ bool cameOutReadOnly(DADiskRef disk) {
     return path && isMountedReadOnly(path->path());
 }
 
+// Whether this mount and the disk's one before came out read-only. Updates `readOnlyDisks`.
+bool cameOutReadOnlyAgain(DADiskRef disk, std::set<std::string>& readOnlyDisks) {
+    if (cameOutReadOnly(disk)) return !readOnlyDisks.insert(nameOf(disk)).second;
+    readOnlyDisks.erase(nameOf(disk));
+    return false;
+}
+
 // The framework owns `disk` and `dissenter`; they are valid only during the call.
 void complete(DADiskRef disk, DADissenterRef dissenter, void* context) noexcept {
     @autoreleasepool {
         const std::unique_ptr<const Request> request(static_cast<const Request*>(context));
         auto refusal = dissenterFrom(dissenter);
-        if (!refusal && request->mustBeWritable && cameOutReadOnly(disk)) {
+        if (!refusal && request->readOnlyDisks &&
+            cameOutReadOnlyAgain(disk, *request->readOnlyDisks)) {
             refusal = Dissenter{.status = DAReturn::NotWritable};
         }
         request->completion({.bsdName = nameOf(disk)}, refusal);
@@ -104,7 +113,12 @@ Subscription DiskArbitration::registerDiskAppearedCallback(DiskCallback callback
 }
 
 Subscription DiskArbitration::registerDiskDisappearedCallback(DiskCallback callback) {
-    return registerCallback(&DARegisterDiskDisappearedCallback, std::move(callback));
+    auto forget = [disks = readOnlyDisks_, callback = std::move(callback)](
+                      const Disk& disk, const DiskDescription& description) {
+        disks->erase(disk.bsdName);
+        callback(disk, description);
+    };
+    return registerCallback(&DARegisterDiskDisappearedCallback, std::move(forget));
 }
 
 void DiskArbitration::scheduleWithRunLoop() {
@@ -160,8 +174,8 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
     }
     auto request = std::make_unique<Request>();
     request->completion = std::move(completion);
-    request->mustBeWritable =
-        std::find(arguments.begin(), arguments.end(), "rw") != arguments.end();
+    const bool readWrite = std::find(arguments.begin(), arguments.end(), "rw") != arguments.end();
+    if (readWrite) request->readOnlyDisks = readOnlyDisks_;
     ArgumentArray strings(arguments);
     DADiskMountWithArguments(found.get(), nullptr, kDADiskMountOptionDefault, &complete,
                              request.release(), strings.data());

@@ -52,6 +52,15 @@ TEST_F(Launch, DescribesAPathShorterThanAPointerByItsFirstBytes) {
     EXPECT_EQ(std::memcmp(tools.value.data(), &pointer, 3), 0);
 }
 
+TEST_F(Launch, WithoutALaunchPathAsksForAnEmptyOneAndStartsNoTool) {
+    const auto made = task("");
+    EXPECT_EQ(made->launch(), 0);
+    EXPECT_EQ(tools.valueLength, 0U);
+    made->waitUntilExit();
+    EXPECT_NE(made->terminationStatus(), 0);
+    EXPECT_EQ(made->outputFileHandle()->readDataToEndOfFile(), "");
+}
+
 TEST_F(Launch, RunsTheToolAndItsArgumentsAsTheyStand) {
     const std::vector<std::string> arguments{"%s|", "a b", "it's", "\"q\"", "", "*", "$HOME", "\n"};
     EXPECT_EQ(outputOf(task("/usr/bin/printf", arguments)), "a b|it's|\"q\"||*|$HOME|\n|");

@@ -4,6 +4,7 @@
 # usage: build_test.py ROOT [-v]
 #
 # The compiler is a stand-in too: the code is not compiled.
+import json
 import pathlib
 import plistlib
 import re
@@ -36,10 +37,12 @@ set(CMAKE_INSTALL_NAME_TOOL "{tools}/install_name_tool")
 
 def preset():
     """The cache variables of the macOS preset, without its output folders."""
-    text = (ROOT / "CMakePresets.json").read_text(encoding="utf-8")
-    found = re.search(r'"name": "macos".*?"cacheVariables": \{(.*?)\}', text, re.DOTALL).group(1)
-    pairs = re.findall(r'"(\w+)": "([^"]*)"', found)
-    return [f"-D{name}={value}" for name, value in pairs if not name.endswith("OUTPUT_DIRECTORY")]
+    presets = json.loads((ROOT / "CMakePresets.json").read_text(encoding="utf-8"))
+    named = {each["name"]: each for each in presets["configurePresets"]}
+    macos = named["macos"]
+    variables = {**named[macos["inherits"]]["cacheVariables"], **macos["cacheVariables"]}
+    return [f"-D{name}={value}" for name, value in variables.items()
+            if not name.endswith("OUTPUT_DIRECTORY")]
 
 
 def copy_sources(folder):
@@ -66,7 +69,8 @@ class Build(unittest.TestCase):
         (cls.folder / "toolchain.cmake").write_text(
             TOOLCHAIN.format(folder=cls.folder, tools=cls.mac.tools))
         cls.application = cls.folder / "build/bin/Brisel.app"
-        cls.must(cls.configure("build", *cls.options()))
+        cls.configured = cls.configure("build", *cls.options())
+        cls.must(cls.configured)
         cls.must(cls.build())
 
     @classmethod
@@ -172,6 +176,14 @@ class Compilation(Build):
                 self.assertIn("-arch arm64 -arch x86_64", call)
                 self.assertIn("-mmacosx-version-min=11.0", call)
 
+    def test_treats_warnings_as_errors_but_allows_bridging_casts(self):
+        self.change("src/platform/macos/LoginItems.mm")
+        self.must(self.build())
+        call, = [call for call in self.mac.calls("clang++") if call.endswith("LoginItems.mm")]
+        self.assertIn(" -Werror ", call)
+        # The last of the two counts.
+        self.assertLess(call.index(" -Wold-style-cast "), call.index(" -Wno-old-style-cast "))
+
     def test_links_every_framework_that_the_program_uses(self):
         for framework in ("AppKit", "DiskArbitration", "Security", "ServiceManagement",
                           "UserNotifications"):
@@ -185,6 +197,9 @@ class Compilation(Build):
 
 
 class Surroundings(Build):
+    def test_of_other_systems_are_not_spoken_of(self):
+        self.assertNotIn("GIO", self.configured.stdout)
+
     def test_without_xcode_are_reported(self):
         result = self.configure("without-xcode", MISSING="ibtool")
         self.assertNotEqual(result.returncode, 0)

@@ -184,6 +184,11 @@ NS_ASSUME_NONNULL_BEGIN
 - (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @end
 
+@interface NSValue (NSValueExtensionMethods)
++ (NSValue*)valueWithPointer:(nullable const void*)pointer;
+@property(nullable, readonly) void* pointerValue;
+@end
+
 @interface NSNumber : NSValue
 - (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 - (NSNumber*)initWithInt:(int)value NS_DESIGNATED_INITIALIZER;
