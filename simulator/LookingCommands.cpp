@@ -79,14 +79,14 @@ Complaint show(Stage& stage, const Words& arguments) {
     return misused("show");
 }
 
-constexpr std::array Table{Command{"show", When::AnyTime,
-                                   "show menu|volumes|progress|defaults|folders",
-                                   "prints the state of things", show}};
+constexpr std::array LookingTable{Command{"show", When::AnyTime,
+                                          "show menu|volumes|progress|defaults|folders",
+                                          "prints the state of things", show}};
 
 }  // namespace
 
 std::span<const Command> lookingCommands() {
-    return Table;
+    return LookingTable;
 }
 
 }  // namespace brisel::simulator

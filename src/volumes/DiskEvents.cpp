@@ -67,11 +67,11 @@ std::shared_ptr<NTFSVolume> makeRecord(DiskDescription description, std::string 
 
 }  // namespace
 
-void diskAppeared(NTFSVolumeManager& manager, const platform::Disk& disk) {
+void diskAppeared(NTFSVolumeManager& manager, const platform::Disk& disk,
+                  DiskDescription description) {
     const auto& platform = manager.platform();
     platform.systemLog.log("disk %s appeared", disk.bsdName);
 
-    auto description = platform.diskArbitration.copyDescription(disk);
     const auto kind = orNullText(description.volumeKind);
     const auto name = orNullText(description.volumeName);
     const bool writable = platform.fileManager.isWritableFileAtPath(mountedPath(description));
@@ -92,11 +92,11 @@ void diskAppeared(NTFSVolumeManager& manager, const platform::Disk& disk) {
     }
 }
 
-void diskDisappeared(NTFSVolumeManager& manager, const platform::Disk& disk) {
+void diskDisappeared(NTFSVolumeManager& manager, const platform::Disk& disk,
+                     const DiskDescription& description) {
     const auto& platform = manager.platform();
     platform.systemLog.log("disk %s disappeared", disk.bsdName);
 
-    const auto description = platform.diskArbitration.copyDescription(disk);
     // Deliberately stricter than diskAppeared: the record of a foreign driver's volume stays.
     if (!description.volumeMountable.value_or(false) || description.volumeKind != NTFSKind) return;
 

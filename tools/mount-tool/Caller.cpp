@@ -37,9 +37,9 @@ Result<Caller> callerOf(const char* pkexecUID) {
     if (!uid) return refuse("PKEXEC_UID is not a user ID.");
     const passwd* const entry = getpwuid(*uid);
     if (entry == nullptr) return refuse("The requesting user does not exist.");
-    Caller caller{entry->pw_uid, entry->pw_gid, withoutLastSlash(entry->pw_dir)};
-    if (!caller.home.starts_with('/')) return refuse("The requesting user has no home folder.");
-    return caller;
+    auto home = withoutLastSlash(entry->pw_dir);
+    if (!home.starts_with('/')) return refuse("The requesting user has no home folder.");
+    return Caller{.uid = entry->pw_uid, .gid = entry->pw_gid, .home = std::move(home)};
 }
 
 }  // namespace brisel::mounttool

@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+#include "shared/MountFolders.h"
+
 namespace brisel::mounttool {
 
 namespace {
@@ -15,7 +17,6 @@ namespace {
 constexpr std::array<std::string_view, 5> KnownOptions{"rw", "auto", "nobrowse", "noowners",
                                                        "noatime"};
 constexpr std::string_view DeviceFolder = "/dev/";
-constexpr std::string_view MountFolder = "/.brisel/";
 
 std::vector<std::string_view> splitAtCommas(std::string_view text) {
     std::vector<std::string_view> words;
@@ -83,10 +84,10 @@ Result<MountRequest> parseCommandLine(int argumentCount, const char* const* argu
 }
 
 Result<std::string> labelOf(std::string_view mountPoint, std::string_view home) {
-    const bool below =
-        mountPoint.starts_with(home) && mountPoint.substr(home.size()).starts_with(MountFolder);
-    if (!below) return refuse("The mount point must be in .brisel of the requesting user's home.");
-    const auto label = mountPoint.substr(home.size() + MountFolder.size());
+    const auto parent = std::string(home) + "/" + shared::MountFolders + "/";
+    if (!mountPoint.starts_with(parent))
+        return refuse("The mount point must be in .brisel of the requesting user's home.");
+    const auto label = mountPoint.substr(parent.size());
     if (!isLabel(label)) return refuse("The mount point's name is not a valid folder name.");
     return std::string(label);
 }

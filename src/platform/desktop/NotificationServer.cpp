@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* Name = "org.freedesktop.Notifications";
 constexpr const char* Path = "/org/freedesktop/Notifications";
-constexpr const char* ProgramName = "Brisel";
+constexpr const char* ApplicationName = "Brisel";
 constexpr const char* DesktopEntry = "org.brisel.Brisel";
 constexpr gint32 ServersOwnTime = -1;
 
@@ -76,7 +76,7 @@ GVariant* NotificationServer::hintsFor(const Notification& notification) const {
 
 GVariant* NotificationServer::argumentsFor(const Notification& notification) const {
     const auto body = busText(notification.body);
-    return g_variant_new("(susss@as@a{sv}i)", ProgramName, notification.replaces,
+    return g_variant_new("(susss@as@a{sv}i)", ApplicationName, notification.replaces,
                          headless::applicationIcon().c_str(), busText(notification.summary).c_str(),
                          (can("body-markup") ? escaped(body) : body).c_str(),
                          actionList(notification.actions), hintsFor(notification), ServersOwnTime);

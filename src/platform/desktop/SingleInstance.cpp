@@ -8,11 +8,11 @@ namespace brisel::platform::desktop {
 
 namespace {
 
-constexpr const char* Name = "org.brisel.Brisel";
-constexpr const char* Path = "/org/brisel/Brisel";
+constexpr const char* BusName = "org.brisel.Brisel";
+constexpr const char* ObjectPath = "/org/brisel/Brisel";
 constexpr const char* Interface = "org.freedesktop.Application";
 
-constexpr const char* Introspection = R"(
+constexpr const char* ApplicationIntrospection = R"(
 <node><interface name='org.freedesktop.Application'>
   <method name='Activate'><arg type='a{sv}' direction='in'/></method>
 </interface></node>)";
@@ -28,8 +28,8 @@ constexpr int MillisecondsToAnswer = 5000;
 SingleInstance::Place takeName(GDBusConnection* bus) {
     const headless::OwnedVariant answer(g_dbus_connection_call_sync(
         bus, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
-        g_variant_new("(su)", Name, DoNotQueue), G_VARIANT_TYPE("(u)"), G_DBUS_CALL_FLAGS_NONE, -1,
-        nullptr, nullptr));
+        g_variant_new("(su)", BusName, DoNotQueue), G_VARIANT_TYPE("(u)"), G_DBUS_CALL_FLAGS_NONE,
+        -1, nullptr, nullptr));
     guint32 place = 0;
     if (answer) g_variant_get(answer.get(), "(u)", &place);
     if (place == PrimaryOwner) return SingleInstance::Place::First;
@@ -53,9 +53,9 @@ guint SingleInstance::exportObject() {
         static_cast<SingleInstance*>(self)->noteStart();
     };
     static const GDBusInterfaceVTable answers{answer, nullptr, nullptr, {}};
-    auto* const node = g_dbus_node_info_new_for_xml(Introspection, nullptr);
-    const auto object = g_dbus_connection_register_object(bus_, Path, *node->interfaces, &answers,
-                                                          this, nullptr, nullptr);
+    auto* const node = g_dbus_node_info_new_for_xml(ApplicationIntrospection, nullptr);
+    const auto object = g_dbus_connection_register_object(bus_, ObjectPath, *node->interfaces,
+                                                          &answers, this, nullptr, nullptr);
     g_dbus_node_info_unref(node);
     return object;
 }
@@ -71,8 +71,8 @@ void SingleInstance::noteStart() {
 bool SingleInstance::activateFirst() const {
     headless::CallError error;
     const headless::OwnedVariant answer(g_dbus_connection_call_sync(
-        bus_, Name, Path, Interface, "Activate", g_variant_new("(a{sv})", nullptr), nullptr,
-        G_DBUS_CALL_FLAGS_NO_AUTO_START, MillisecondsToAnswer, nullptr, error.receive()));
+        bus_, BusName, ObjectPath, Interface, "Activate", g_variant_new("(a{sv})", nullptr),
+        nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START, MillisecondsToAnswer, nullptr, error.receive()));
     return answer || g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_TIMED_OUT) != FALSE;
 }
 

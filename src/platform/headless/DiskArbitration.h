@@ -58,8 +58,8 @@ class DiskArbitration final : public platform::DiskArbitration {
     std::map<std::string, int> requests_;
     /// What was reported as appeared, with the newest description of each.
     Disks reported_;
-    common::Signal<const Disk&> appeared_;
-    common::Signal<const Disk&> disappeared_;
+    common::Signal<const Disk&, const DiskDescription&> appeared_;
+    common::Signal<const Disk&, const DiskDescription&> disappeared_;
 };
 
 }  // namespace brisel::platform::headless

@@ -148,7 +148,7 @@ TEST_F(Unmount, LeavesTheAutomountListAlone) {
 
 TEST_F(Unmount, CompletesForAnUnknownDisk) {
     attachWritable("disk4s1", "Data");
-    unmountDidFinish(manager(), {.bsdName = "disk9", .reported = {}}, std::nullopt);
+    unmountDidFinish(manager(), {.bsdName = "disk9"}, std::nullopt);
     EXPECT_THAT(devices(), ElementsAre("disk4s1"));
     EXPECT_THAT(newLines(), ElementsAre());
 }
