@@ -6,6 +6,7 @@
 #include <iostream>
 #include <span>
 
+#include "tools/dialog/DarkStyle.h"
 #include "tools/dialog/Dialogs.h"
 #include "tools/dialog/Widgets.h"
 
@@ -48,6 +49,7 @@ int main(int argumentCount, char** words) {
         std::cerr << "brisel-dialog: cannot open a display.\n";
         return NoDisplay;
     }
+    const DarkStyle style;
     tell(answerLine(std::visit(Showing{}, *request)));
     return Succeeded;
 }

@@ -25,7 +25,8 @@ Services::Services(GDBusConnection* bus)
                   .bundle = bundle,
                   .menu = statusMenu,
                   .mainThread = mainThread,
-                  .activationToken = activationToken}) {}
+                  .activationToken = activationToken}),
+      workspace(bus, systemLog, activationToken) {}
 
 Services::~Services() = default;
 

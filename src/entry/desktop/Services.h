@@ -6,7 +6,6 @@
 
 #include <string>
 
-#include "platform/common/Bundle.h"
 #include "platform/common/Menu.h"
 #include "platform/common/NotificationCenter.h"
 #include "platform/desktop/ActivationToken.h"
@@ -21,6 +20,7 @@
 #include "platform/desktop/UserNotificationCenter.h"
 #include "platform/desktop/Workspace.h"
 #include "platform/headless/Authorization.h"
+#include "platform/headless/Bundle.h"
 #include "platform/headless/DiskArbitration.h"
 #include "platform/headless/FileManager.h"
 #include "platform/headless/Installation.h"
@@ -49,7 +49,7 @@ struct Services {
     platform::desktop::SingleInstance singleInstance;
     platform::desktop::MainThreadQueue mainThread;
     platform::desktop::NotificationServer notifications;
-    platform::common::Bundle bundle;
+    platform::headless::Bundle bundle;
     platform::common::Menu statusMenu;
     platform::common::NotificationCenter notificationCenter;
     platform::desktop::Alert alert{{.log = systemLog,
@@ -70,7 +70,7 @@ struct Services {
                                                   platform::headless::UserDefaults::defaultPath()};
     platform::desktop::UserNotificationCenter userNotificationCenter{notifications,
                                                                      activationToken};
-    platform::desktop::Workspace workspace{systemLog};
+    platform::desktop::Workspace workspace;
     platform::desktop::MenuWindow menuWindow{statusItem, systemLog, dialog};
 };
 

@@ -28,7 +28,7 @@ class Mounting(Story):
         self.notifications.press(prompt, "DO_MOUNT")
         folder = self.wait_for_writable(stick)
         self.assertEqual(self.tray.labels()[:5], [
-            "show StageData in Finder", "unmount", "remove all extended attributes",
+            "show the folder of StageData", "unmount", "remove all extended attributes",
             "mount automatically", None])
         self.wait_until_shown(folder)
         self.write_greeting(folder)
@@ -53,7 +53,7 @@ class Mounting(Story):
         folder = self.make_writable(stick)
         self.wait_until_shown(folder)
         before = len(self.folders_shown())
-        self.tray.choose("show StageData in Finder")
+        self.tray.choose("show the folder of StageData")
         wait_for(lambda: len(self.folders_shown()) > before, "the folder is shown again")
         self.wait_until_shown(folder)
 
@@ -141,7 +141,7 @@ class Mounting(Story):
         self.tray.wait_for_entry("re-mount StageData")
         self.tray.choose(f"re-mount StageData-{second.node}")
         second.wait_until_writable()
-        self.tray.wait_for_entry(f"show StageData-{second.node} in Finder")
+        self.tray.wait_for_entry(f"show the folder of StageData-{second.node}")
         self.assertEqual(first.mounts(), [])
         self.tray.wait_for_entry("re-mount StageData")
 

@@ -66,7 +66,7 @@ TEST_F(StatusItemAdapter, StaysInTheMenuBarAsLongAsItsOwner) {
 TEST_F(StatusItemAdapter, ShowsTheStatusMenu) {
     [StageApplication sharedApplication];
     NSMenu* const nibMenu = [[[NSMenu alloc] initWithTitle:@"Status"] autorelease];
-    menu.connect(nibMenu, nil);
+    menu.connect(nibMenu, nil, mac.bundle);
     create();
     EXPECT_EQ([statusItem() menu], nil);
     adapter.showStatusMenu();

@@ -52,7 +52,8 @@ fi
 together=
 if [ $# -eq 0 ]; then
     [ "$processor" = arm64 ] || together=yes
-    # What the application and the report's questions are built of, and what of the simulator asks for more than the standard library.
+    # What application and report are built of, and what of the simulator asks for more than the
+    # standard library.
     set -- $(find src/platform/macos src/entry/macos helper scripts src/platform/common src/privileged \
         -name '*.mm' -o -name '*.cpp' | sort) $(grep -l '#include <.*\.h>' src/platform/simulated/*.cpp)
     if [ $# -eq 0 ]; then
@@ -73,7 +74,8 @@ done
 broken=0
 if [ -n "$together" ]; then
     # Each program has its own main.
-    check -x objective-c++ -Wno-old-style-cast -Dmain=start $(printf -- '-include %s ' "$@") /dev/null
+    check -x objective-c++ -Wno-old-style-cast '-DJOINED(a,b)=a##b' '-DNUMBERED(a,b)=JOINED(a,b)' \
+        '-Dmain=NUMBERED(start,__COUNTER__)' $(printf -- '-include %s ' "$@") /dev/null
     exit $broken
 fi
 # A bridging cast looks like one of C's.

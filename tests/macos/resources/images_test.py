@@ -19,6 +19,9 @@ PICTURES = ROOT / "resources/macos"
 IMAGES = PICTURES / "images"
 # Height and width of a status image, for a menu bar of 22 points.
 POINTS = 18
+# The lightest and darkest colours of a menu bar.
+BACKGROUNDS = {"dark": ((0, 0, 0), (0x36, 0x3B, 0x40)),
+               "light": ((255, 255, 255), (0xE0, 0xE0, 0xE0))}
 # Renderers round differently; a larger distance is another drawing. Releases of librsvg blend the
 # icon's edges differently, by up to 16.
 MOST_APART = 4
@@ -91,6 +94,7 @@ def names_asked_for():
 
 class StatusImages(StatusIconChecks, unittest.TestCase):
     sizes = (POINTS, 2 * POINTS)
+    backgrounds = BACKGROUNDS
 
     def picture(self, colour, bar, size):
         return read(IMAGES / f"brisel-status-{colour}-{bar}{'' if size == POINTS else '@2x'}.png")
