@@ -37,7 +37,7 @@ class Hosts(Story):
         self.tray.choose("Start at Login")
         wait_for(lambda: any(entry.checked for entry in host.read_menu()), "an entry is checked")
 
-    def test_on_gnome_the_icon_is_found_when_it_registers(self):
+    def test_on_gnome_the_icon_is_not_missed(self):
         host = self.start_on(GnomeHost)
         self.assertEqual(host.missed, [])
 
@@ -51,10 +51,10 @@ class Hosts(Story):
         self.tray.wait_for_entry("re-mount StageSecond")
         self.assert_in_order(host)
         self.tray.choose("re-mount StageFirst")
-        self.tray.wait_for_entry("show StageFirst in Finder")
+        self.tray.wait_for_entry("show the folder of StageFirst")
         self.assert_in_order(host)
         first.pull()
-        self.tray.wait_until_gone("show StageFirst in Finder")
+        self.tray.wait_until_gone("show the folder of StageFirst")
         self.assert_in_order(host)
 
     def assert_in_order(self, host):
