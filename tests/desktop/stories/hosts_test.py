@@ -51,10 +51,10 @@ class Hosts(Story):
         self.tray.wait_for_entry("re-mount StageSecond")
         self.assert_in_order(host)
         self.tray.choose("re-mount StageFirst")
-        self.tray.wait_for_entry("show StageFirst in Finder")
+        self.tray.wait_for_entry("show the folder of StageFirst")
         self.assert_in_order(host)
         first.pull()
-        self.tray.wait_until_gone("show StageFirst in Finder")
+        self.tray.wait_until_gone("show the folder of StageFirst")
         self.assert_in_order(host)
 
     def assert_in_order(self, host):
