@@ -86,9 +86,10 @@ guint TrayIcon::exportObject() {
     const auto object = g_dbus_connection_register_object(bus_.get(), ObjectPath, *node->interfaces,
                                                           &Answers, this, nullptr, error.receive());
     g_dbus_node_info_unref(node);
-    if (error)
+    if (error) {
         dependencies_.log.log("Cannot export the tray icon on the session bus: %@",
                               error.message());
+    }
     return object;
 }
 

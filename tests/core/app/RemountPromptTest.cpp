@@ -197,8 +197,11 @@ class Response : public RunningProgram {
     }
 };
 
-TEST_F(Response, StartsTheRemount) {
+TEST_F(Response, StartsTheRemountOfAVolumeThatIsListedAndReadOnly) {
+    EXPECT_FALSE(isPromptOpen(manager(), {{"volume", "disk9s1"}}));
+    EXPECT_TRUE(isPromptOpen(manager(), {{"volume", "disk4s1"}}));
     respond("DO_MOUNT", "disk4s1");
+    EXPECT_FALSE(isPromptOpen(manager(), {{"volume", "disk4s1"}}));
     EXPECT_THAT(newLines(), Contains("unmount: disk4s1"));
     EXPECT_TRUE(volume()->writable());
 }
@@ -217,15 +220,6 @@ TEST_F(Response, IsNotFollowedByAnotherPrompt) {
     respond("NOTHING", "disk4s1");
     manager().refreshVolumes();
     EXPECT_THAT(newLines(), testing::Not(Contains("permission: alert sound")));
-}
-
-TEST_F(Response, IsAwaitedWhileTheVolumeIsListedAndReadOnly) {
-    const platform::UserInfo prompt{{"volume", "disk4s1"}};
-    EXPECT_TRUE(isPromptOpen(manager(), prompt));
-    EXPECT_FALSE(isPromptOpen(manager(), {{"volume", "disk9s1"}}));
-    EXPECT_FALSE(isPromptOpen(manager(), {}));
-    choose("re-mount Data");
-    EXPECT_FALSE(isPromptOpen(manager(), prompt));
 }
 
 TEST_F(Response, ToAnotherRequestIsIgnored) {
