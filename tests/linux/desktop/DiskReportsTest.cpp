@@ -116,7 +116,7 @@ TEST_F(DiskReports, DropADiskThatAnotherProgramUnmounts) {
 
 TEST_F(DiskReports, PassOverMountsOfTheMountTool) {
     start();
-    change([](auto& disks) { disks.setMounted("/run/brisel-x7Ghq2"); });
+    change([](auto& disks) { disks.setMounted("/run/brisel-x7Ghq2/volume"); });
     EXPECT_THAT(events_, IsEmpty());
     change([](auto& disks) {
         disks.setMounted(mountFolderIn(FileURL(g_get_home_dir()).path()) + "/Data");
