@@ -37,7 +37,7 @@ bool canCreateFiles(int root) {
                                  O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                                  S_IRUSR | S_IWUSR));
     // A full volume is still writable: files can be deleted.
-    if (!file.isOpen()) return errno == ENOSPC || errno == EDQUOT;
+    if (!file) return errno == ENOSPC || errno == EDQUOT;
     return unlinkat(root, name.c_str(), 0) == 0;
 }
 
@@ -57,13 +57,13 @@ bool isOf(int root, const NTFSDevice& device) {
 Mount::Mount(std::unique_ptr<StagingFolder> staging, Descriptor tree)
     : staging_(std::move(staging)), tree_(std::move(tree)) {}
 
-Result<Mount> Mount::make(const NTFSDevice& device, const Person& person) {
+Result<Mount> Mount::make(const NTFSDevice& device, const Caller& caller) {
     auto staging = StagingFolder::make();
     if (!staging) return refuseByError("No folder can be created in /run");
-    if (const auto refusal = mountWithDriver(device.path(), staging->mountPoint(), person))
+    if (const auto refusal = mountWithDriver(device.path(), staging->mountPoint(), caller))
         return *refusal;
     Descriptor tree(cloneMount(staging->mountPoint().c_str()));
-    if (!tree.isOpen()) return refuseByMountCall("The mount cannot be cloned");
+    if (!tree) return refuseByMountCall("The mount cannot be cloned");
     return Mount(std::move(staging), std::move(tree));
 }
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-#include "tools/mount-tool/Descriptor.h"
+#include "shared/Descriptor.h"
 #include "tools/mount-tool/MountFolder.h"
 #include "tools/mount-tool/NTFSDevice.h"
 #include "tools/mount-tool/Result.h"
@@ -13,11 +13,13 @@
 
 namespace brisel::mounttool {
 
+using shared::Descriptor;
+
 class Mount {
   public:
     /// Mounts the device on a private folder below /run. The destructor removes that folder, and
     /// unmounts the volume unless putOn has succeeded.
-    static Result<Mount> make(const NTFSDevice& device, const Person& person);
+    static Result<Mount> make(const NTFSDevice& device, const Caller& caller);
 
     Mount(Mount&&) noexcept = default;
     Mount& operator=(Mount&&) = delete;

@@ -11,15 +11,17 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <string_view>
+
+#include "shared/MountFolders.h"
 
 namespace brisel::mounttool {
 
 namespace {
 
+using shared::Descriptor;
+
 constexpr const char* Parent = "/run/";
-constexpr std::string_view Prefix = "brisel-";
-constexpr std::string_view Placeholder = "XXXXXX";
+const auto Template = std::string(shared::StagingPrefix) + "XXXXXX";
 constexpr const char* MountPoint = "volume";
 
 Descriptor openFolder(const std::string& path) {
@@ -41,13 +43,13 @@ bool isRoots(const Descriptor& folder) {
            (facts.st_mode & ~static_cast<mode_t>(S_IFMT)) == S_IRWXU;
 }
 
-bool hasOurName(std::string_view name) {
-    return name.starts_with(Prefix) && name.size() == Prefix.size() + Placeholder.size();
+bool isOurs(const std::string& path) {
+    return path.starts_with(shared::StagingPrefix) && path.size() == Template.size();
 }
 
 void removeIfUnused(const std::string& path) {
     const auto folder = openFolder(path);
-    if (!folder.isOpen() || !isRoots(folder)) return;
+    if (!folder || !isRoots(folder)) return;
     if (flock(folder.number(), LOCK_EX | LOCK_NB) == 0) removeFolder(path);
 }
 
@@ -57,10 +59,10 @@ std::unique_ptr<StagingFolder> StagingFolder::make() {
     // A sweep of another run may remove the folder before it is locked; then mkdirat fails.
     constexpr int Attempts = 3;
     for (int attempt = 0; attempt < Attempts; ++attempt) {
-        auto path = Parent + std::string(Prefix) + std::string(Placeholder);
+        auto path = Template;
         if (mkdtemp(path.data()) == nullptr) return nullptr;
         auto lock = openFolder(path);
-        if (lock.isOpen() && flock(lock.number(), LOCK_EX) == 0 &&
+        if (lock && flock(lock.number(), LOCK_EX) == 0 &&
             mkdirat(lock.number(), MountPoint, S_IRWXU) == 0)
             return std::unique_ptr<StagingFolder>(new StagingFolder(path, std::move(lock)));
         const int error = errno;
@@ -74,7 +76,8 @@ void StagingFolder::sweep() {
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(Parent), &closedir);
     if (!entries) return;
     while (const dirent* const entry = readdir(entries.get())) {
-        if (hasOurName(entry->d_name)) removeIfUnused(Parent + std::string(entry->d_name));
+        const auto path = std::string(Parent) + entry->d_name;
+        if (isOurs(path)) removeIfUnused(path);
     }
 }
 

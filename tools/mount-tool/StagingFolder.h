@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "tools/mount-tool/Descriptor.h"
+#include "shared/Descriptor.h"
 
 namespace brisel::mounttool {
 
@@ -28,13 +28,13 @@ class StagingFolder {
     [[nodiscard]] const std::string& mountPoint() const { return mountPoint_; }
 
   private:
-    StagingFolder(std::string path, Descriptor lock);
+    StagingFolder(std::string path, shared::Descriptor lock);
 
     std::string path_;
     /// In the folder, because a mount on the folder itself would hide it from a sweep.
     std::string mountPoint_;
     /// Locks the folder until the process ends, even if it is killed.
-    Descriptor lock_;
+    shared::Descriptor lock_;
 };
 
 }  // namespace brisel::mounttool

@@ -9,7 +9,7 @@
 namespace brisel::xattr {
 
 // The kernel's link to an open file; the calls for extended attributes by descriptor refuse O_PATH.
-Entry::Entry(const Descriptor& file)
+Entry::Entry(const shared::Descriptor& file)
     : path_("/proc/self/fd/" + std::to_string(file.number())),
       lastComponent_(LastComponent::Followed) {
     if (const auto found = status()) device_ = found->st_dev;

@@ -9,7 +9,7 @@
 #include <span>
 #include <string>
 
-#include "tools/xattr/Descriptor.h"
+#include "shared/Descriptor.h"
 
 namespace brisel::xattr {
 
@@ -18,7 +18,7 @@ namespace brisel::xattr {
 class Entry {
   public:
     /// The start of a tree. `file` may be opened with O_PATH, and must outlive this object.
-    explicit Entry(const Descriptor& file);
+    explicit Entry(const shared::Descriptor& file);
     /// The entry `name` of the current folder, in a tree on the file system `device`.
     Entry(std::string name, dev_t device);
 

@@ -24,10 +24,10 @@ using OpenDirectory = std::unique_ptr<DIR, CloseFolder>;
 
 /// For readdir(3); null, with errno, on failure.
 OpenDirectory openForReading(const Descriptor& folder) {
-    Descriptor readable(folder.number(), ".", O_RDONLY | O_DIRECTORY);
+    Descriptor readable = openAt(folder.number(), ".", O_RDONLY | O_DIRECTORY);
     OpenDirectory directory(readable ? fdopendir(readable.number()) : nullptr);
     // fdopendir has taken the descriptor over.
-    if (directory) static_cast<void>(readable.release());
+    if (directory) readable.release();
     return directory;
 }
 
@@ -58,6 +58,10 @@ bool isGone(int error) {
 
 }  // namespace
 
+Descriptor openAt(int folder, const std::string& name, int flags) {
+    return Descriptor(openat(folder, name.c_str(), flags | O_CLOEXEC));
+}
+
 void TreeWalk::run(Descriptor start, const std::string& path) {
     path_ = path;
     const auto status = statusOf(start);
@@ -65,7 +69,7 @@ void TreeWalk::run(Descriptor start, const std::string& path) {
     device_ = status->st_dev;
     visit_(Entry(start), path);
     if (!S_ISDIR(status->st_mode)) return;
-    const Descriptor before(AT_FDCWD, ".", OpenFolder);
+    const Descriptor before = openAt(AT_FDCWD, ".", OpenFolder);
     walk(std::move(start));
     if (before && fchdir(before.number()) != 0) complain(".", errno);
 }
@@ -114,7 +118,7 @@ void TreeWalk::descend() {
     level.subfolders.pop_back();
     path_.resize(level.pathLength);
     path_ = pathOf(name);
-    Descriptor folder(current_.number(), name, OpenFolder);
+    Descriptor folder = openAt(current_.number(), name, OpenFolder);
     if (folder) {
         enter(std::move(folder));
     } else if (!isGone(errno)) {
@@ -126,7 +130,7 @@ void TreeWalk::ascend() {
     path_.resize(levels_.back().pathLength);
     levels_.pop_back();
     if (levels_.empty()) return;
-    Descriptor above(current_.number(), "..", OpenFolder);
+    Descriptor above = openAt(current_.number(), "..", OpenFolder);
     const auto status = above ? statusIfHere(above) : std::nullopt;
     if (status && status->st_ino == levels_.back().node) {
         current_ = std::move(above);

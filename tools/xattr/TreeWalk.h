@@ -11,10 +11,16 @@
 #include <utility>
 #include <vector>
 
-#include "tools/xattr/Descriptor.h"
+#include "shared/Descriptor.h"
 #include "tools/xattr/Entry.h"
 
 namespace brisel::xattr {
+
+using shared::Descriptor;
+
+/// Opens `name` relative to `folder` (or AT_FDCWD) by openat(2), close-on-exec. On failure returns
+/// no descriptor and sets errno.
+[[nodiscard]] Descriptor openAt(int folder, const std::string& name, int flags);
 
 /// Visits files and folders, but nothing else: that has no user attributes. Enters folders on one
 /// file system. Opens each relative to its parent with O_NOFOLLOW, so that a link put in its place

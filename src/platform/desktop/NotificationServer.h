@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -26,6 +27,8 @@ struct Notification {
     /// Sound name in the freedesktop sound theme; empty for none.
     std::string soundName{};
     Urgency urgency = Urgency::Normal;
+    /// When the server closes it, and keeps no trace of it; zero for never.
+    std::chrono::milliseconds lifetime{};
     /// ID of the notification to replace; 0 for none.
     std::uint32_t replaces = 0;
 };
@@ -37,6 +40,7 @@ class NotificationServer {
     using Shown = std::function<void(std::uint32_t number, const std::optional<Error>& error)>;
     using ActionInvoked = std::function<void(std::uint32_t number, const std::string& key)>;
     using Closed = std::function<void(std::uint32_t number, std::uint32_t reason)>;
+    using TokenGiven = std::function<void(std::uint32_t number, const std::string& token)>;
 
     /// NotificationClosed reason: dismissed by the user.
     static constexpr std::uint32_t Dismissed = 2;
@@ -49,8 +53,12 @@ class NotificationServer {
     /// Shows a critical notification, which stays until dismissed. Blocks up to 5 seconds per call,
     /// because the program may be about to exit.
     void showCritical(const std::string& summary, const std::string& body);
+    /// Closes a notification, if it is still open.
+    void withdraw(std::uint32_t number);
 
     [[nodiscard]] Subscription onActionInvoked(ActionInvoked invoked);
+    /// A server sends the activation token of a click just before its action.
+    [[nodiscard]] Subscription onActivationToken(TokenGiven given);
     [[nodiscard]] Subscription onClosed(Closed closed);
     /// Calls `vanished` when the server leaves the bus, or if there is none.
     [[nodiscard]] Subscription onVanished(std::function<void()> vanished);
@@ -60,6 +68,8 @@ class NotificationServer {
     [[nodiscard]] bool can(const char* capability) const {
         return capabilities_ && capabilities_->contains(capability);
     }
+    [[nodiscard]] Subscription onNumberAndText(
+        const char* signal, std::function<void(std::uint32_t, const std::string&)> received);
     void notify(const Notification& notification, Shown shown);
     [[nodiscard]] GVariant* argumentsFor(const Notification& notification) const;
     [[nodiscard]] GVariant* hintsFor(const Notification& notification) const;

@@ -9,11 +9,13 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Bundle.h"
 #include "platform/common/Menu.h"
 #include "platform/common/Signal.h"
+#include "platform/desktop/ActivationToken.h"
 #include "platform/desktop/ColourScheme.h"
 #include "platform/desktop/MainThreadQueue.h"
 #include "platform/desktop/NumberedMenu.h"
@@ -28,15 +30,16 @@ namespace brisel::platform::desktop {
 class StatusItem final : public platform::StatusItem {
   public:
     /// All of them must outlive the item. `menu` is the one to show.
-    struct Surroundings {
+    struct Dependencies {
         GDBusConnection* bus;
         platform::SystemLog& log;
         const platform::Bundle& bundle;
         common::Menu& menu;
         MainThreadQueue& mainThread;
+        ActivationToken& activationToken;
     };
 
-    explicit StatusItem(const Surroundings& surroundings);
+    explicit StatusItem(const Dependencies& dependencies);
     StatusItem(const StatusItem&) = delete;
     StatusItem& operator=(const StatusItem&) = delete;
     ~StatusItem() override;
@@ -48,6 +51,8 @@ class StatusItem final : public platform::StatusItem {
     [[nodiscard]] std::string effectiveAppearanceName() const override;
     [[nodiscard]] Subscription observeEffectiveAppearance(std::function<void()> changed) override;
 
+    /// `show` shows the menu in a window, for a host that opens no menu at a click.
+    void setMenuWindow(std::function<void()> show) { showWindow_ = std::move(show); }
     /// What the menu holds now.
     [[nodiscard]] const std::vector<MenuEntry>& menuEntries();
     /// Does what choosing the entry does; nothing if it has left the menu.
@@ -61,13 +66,17 @@ class StatusItem final : public platform::StatusItem {
     void noteScheme(ColourScheme::Scheme scheme);
     /// On the tray's thread.
     [[nodiscard]] Tray& tray();
+    /// Runs `work` there, unless the item has gone. Any thread.
+    void onMainThread(std::function<void()> work) const;
     /// `work` for the main thread, which may come to it when the item has gone: nothing then.
     [[nodiscard]] std::function<void()> ifAlive(std::function<void()> work) const;
 
-    Surroundings surroundings_;
+    Dependencies dependencies_;
+    std::function<void()> showWindow_ = [] {};
     NumberedMenu numbered_;
     std::vector<MenuEntry> entries_;
     bool menuChanged_ = true;
+    Subscription menuChanges_;
     Subscription pending_;
     common::Signal<> appearanceChanged_;
     std::atomic<bool> dark_ = false;

@@ -45,12 +45,12 @@ class PolkitQuestion {
     /// Null if the check failed or was cancelled.
     using Answer = OwnedObject<PolkitAuthorizationResult>;
 
-    Answer ask(PolkitAuthority* authority, int interruption, CallError& error) {
+    Answer ask(PolkitAuthority* authority, int terminationSignals, CallError& error) {
         error_ = &error;
         Subscription ending;
-        if (interruption >= 0) {
-            ending =
-                whenReadable(interruption, [this] { g_cancellable_cancel(cancellable_.get()); });
+        if (terminationSignals >= 0) {
+            ending = whenReadable(terminationSignals,
+                                  [this] { g_cancellable_cancel(cancellable_.get()); });
         }
         const OwnedObject<PolkitSubject> subject(
             polkit_unix_process_new_for_owner(getpid(), 0, static_cast<gint>(getuid())));

@@ -11,10 +11,10 @@ namespace brisel::platform::headless {
 /// comes first to tell a dismissed dialog from a refusal. Root needs neither.
 class Authorization final : public platform::Authorization {
   public:
-    /// When the descriptor `interruption` becomes readable, an open password prompt is cancelled
-    /// and copyRights returns errAuthorizationDenied. -1 disables this.
-    explicit Authorization(platform::SystemLog& log, int interruption = -1)
-        : log_(log), terminationSignals_(interruption) {}
+    /// When the descriptor `terminationSignals` becomes readable, an open password prompt is
+    /// cancelled and copyRights returns errAuthorizationDenied. -1 disables this.
+    explicit Authorization(platform::SystemLog& log, int terminationSignals = -1)
+        : log_(log), terminationSignals_(terminationSignals) {}
 
     [[nodiscard]] CreatedAuthorization create(std::uint32_t flags) override;
     [[nodiscard]] OSStatus copyRights(AuthorizationRef authorization,

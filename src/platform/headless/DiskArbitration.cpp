@@ -9,6 +9,7 @@
 #include "platform/headless/MainContext.h"
 #include "platform/headless/MountFolder.h"
 #include "platform/headless/UDisksErrors.h"
+#include "shared/MountFolders.h"
 
 namespace brisel::platform::headless {
 
@@ -34,7 +35,7 @@ bool isInMountFolder(const std::optional<FileURL>& path) {
 
 // Where the mount tool has a volume for a moment, until it is in order: its StagingFolder.
 bool isUnderWay(const std::optional<FileURL>& path) {
-    return path && path->path().starts_with("/run/brisel-");
+    return path && path->path().starts_with(shared::StagingPrefix);
 }
 
 }  // namespace
@@ -71,13 +72,13 @@ void DiskArbitration::compare() {
             compareMounts(name, description, found->second);
         } else {
             reported_.erase(name);
-            disappeared_({.bsdName = name, .reported = description});
+            disappeared_({.bsdName = name}, description);
         }
     }
     for (const auto& [name, description] : present) {
         if (!isMountable(description) || reported_.contains(name)) continue;
         reported_[name] = description;
-        appeared_({.bsdName = name, .reported = description});
+        appeared_({.bsdName = name}, description);
     }
 }
 
@@ -86,8 +87,8 @@ void DiskArbitration::compareMounts(const std::string& name, const DiskDescripti
     if (requests_[name] > 0 || isUnderWay(now.volumePath)) return;
     reported_[name] = now;
     if (before.volumePath == now.volumePath || isInMountFolder(now.volumePath)) return;
-    disappeared_({.bsdName = name, .reported = before});
-    if (now.volumePath) appeared_({.bsdName = name, .reported = now});
+    disappeared_({.bsdName = name}, before);
+    if (now.volumePath) appeared_({.bsdName = name}, now);
 }
 
 void DiskArbitration::finish(const Disk& disk, const std::optional<Dissenter>& dissenter,
@@ -108,7 +109,7 @@ void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoin
     if (reported != reported_.end()) {
         const auto before = reported->second;
         reported->second.volumePath = FileURL(mountPoint);
-        disappeared_({.bsdName = disk.bsdName, .reported = before});
+        disappeared_({.bsdName = disk.bsdName}, before);
     }
     --requests_[disk.bsdName];
     completion(disk, std::nullopt);
@@ -116,7 +117,7 @@ void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoin
 
 std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
     if (!name) return std::nullopt;
-    return Disk{.bsdName = *name, .reported = std::nullopt};
+    return Disk{.bsdName = *name};
 }
 
 std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<FileURL>& path) {
@@ -128,7 +129,6 @@ std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<File
 }
 
 DiskDescription DiskArbitration::copyDescription(const Disk& disk) {
-    if (disk.reported) return *disk.reported;
     const auto present = service_->disks();
     if (const auto found = present.find(disk.bsdName); found != present.end()) return found->second;
     if (const auto found = reported_.find(disk.bsdName); found != reported_.end()) {

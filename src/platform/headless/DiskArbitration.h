@@ -37,6 +37,11 @@ class DiskArbitration final : public platform::DiskArbitration {
     void mountWithArguments(const Disk& disk, const std::vector<std::string>& arguments,
                             Completion completion) override;
 
+    /// True if the disk can be unplugged and nothing on its drive is mounted. After an unmount.
+    [[nodiscard]] bool mayBeUnplugged(const std::string& bsdName) const {
+        return service_->mayBeUnplugged(bsdName);
+    }
+
   private:
     using Disks = std::map<std::string, DiskDescription>;
 
@@ -58,8 +63,8 @@ class DiskArbitration final : public platform::DiskArbitration {
     std::map<std::string, int> requests_;
     /// What was reported as appeared, with the newest description of each.
     Disks reported_;
-    common::Signal<const Disk&> appeared_;
-    common::Signal<const Disk&> disappeared_;
+    common::Signal<const Disk&, const DiskDescription&> appeared_;
+    common::Signal<const Disk&, const DiskDescription&> disappeared_;
 };
 
 }  // namespace brisel::platform::headless

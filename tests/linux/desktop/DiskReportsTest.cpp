@@ -26,9 +26,9 @@ class DiskReports : public testing::Test {
         machine_.run([this] { disks_ = std::make_unique<FakeDisks>(); });
         arbitration_.createSession();
         appeared_ = arbitration_.registerDiskAppearedCallback(
-            [this](const Disk& disk) { note("appeared", disk); });
+            [this](const auto& disk, const auto& is) { note("appeared", disk, is); });
         disappeared_ = arbitration_.registerDiskDisappearedCallback(
-            [this](const Disk& disk) { note("disappeared", disk); });
+            [this](const auto& disk, const auto& was) { note("disappeared", disk, was); });
         tests::turnUntil(
             [this] { return arbitration_.copyDescription(Volume).volumeKind.has_value(); });
     }
@@ -51,13 +51,13 @@ class DiskReports : public testing::Test {
             return arbitration_.copyDescription(Other).volumeName == std::to_string(changes_);
         });
     }
-    void note(const std::string& event, const Disk& disk) {
-        const auto path = arbitration_.copyDescription(disk).volumePath;
+    void note(const std::string& event, const Disk& disk, const DiskDescription& description) {
+        const auto& path = description.volumePath;
         events_.push_back(event + " " + disk.bsdName + (path ? " " + path->path() : ""));
     }
 
-    const Disk Volume{.bsdName = "sdz1", .reported = std::nullopt};
-    const Disk Other{.bsdName = "sdy1", .reported = std::nullopt};
+    const Disk Volume{.bsdName = "sdz1"};
+    const Disk Other{.bsdName = "sdy1"};
     tests::TestLoop loop_;
     tests::RecordedLog log_;
     tests::OtherProgram machine_;

@@ -16,7 +16,7 @@ constexpr const char* Options = "rw,auto,nobrowse,noowners,noatime";
 const std::string Home = "/home/ann";
 const std::string MountPoint = Home + "/.brisel/Data";
 
-Result<Request> parse(const std::vector<std::string>& words) {
+Result<MountRequest> parse(const std::vector<std::string>& words) {
     std::vector<const char*> arguments{"mount_ntfs"};
     for (const auto& word : words)
         arguments.push_back(word.c_str());

@@ -42,7 +42,7 @@ class AWalk : public testing::Test {
         const auto complain = [&](const std::string& path, const std::string& reason) {
             complaints_.emplace_back(path.substr(tree_.size()), reason);
         };
-        TreeWalk(visit, complain).run(Descriptor(AT_FDCWD, tree_, O_PATH), tree_);
+        TreeWalk(visit, complain).run(openAt(AT_FDCWD, tree_, O_PATH), tree_);
     }
 
     tests::TemporaryFolder place_;
