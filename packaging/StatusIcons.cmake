@@ -25,13 +25,11 @@ foreach(bar dark light)
   set(ACCENT_linux_${bar}_red "#e5382b")
 endforeach()
 
-# make_status_icons(FOLDER PLATFORM MARGIN): empties FOLDER and writes
-# brisel-status-COLOUR-BAR.svg for each colour and bar. MARGIN is added around the drawings, which
-# are 16 by 16 and leave 1 free at each side.
-function(make_status_icons folder platform margin)
+# make_status_icons(FOLDER PLATFORM ORIGIN SIDE): empties FOLDER and writes
+# brisel-status-COLOUR-BAR.svg for each colour and bar: the square of the drawing that begins at
+# ORIGIN and is SIDE wide. The drawings reach from 1 to 15.
+function(make_status_icons folder platform ORIGIN SIDE)
   file(REMOVE_RECURSE ${folder})
-  math(EXPR ORIGIN "-${margin}")
-  math(EXPR SIDE "16 + 2 * ${margin}")
   foreach(colour IN LISTS BRISEL_STATUS_COLOURS)
     foreach(bar dark light)
       set(INK ${INK_${platform}_${bar}})

@@ -86,7 +86,7 @@ void answer(std::string_view question) {
 }  // namespace
 
 // Without a question, as the login item starts it, it does nothing.
-int main(int argumentCount, char** arguments) {
+int main(int argumentCount, const char** arguments) {
     @autoreleasepool {
         @try {
             if (argumentCount == 2) answer(arguments[1]);

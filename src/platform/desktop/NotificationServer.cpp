@@ -16,14 +16,19 @@ constexpr const char* Path = "/org/freedesktop/Notifications";
 constexpr const char* ApplicationName = "Brisel";
 constexpr const char* DesktopEntry = "org.brisel.Brisel";
 
+// The server of LXQt draws a button for the default action.
+constexpr const char* ServerWithDefaultButton = "lxqt-notificationd";
+
 void addHint(GVariantBuilder& hints, const char* name, GVariant* value) {
     g_variant_builder_add(&hints, "{sv}", name, value);
 }
 
-GVariant* actionList(const std::vector<std::pair<std::string, std::string>>& actions) {
+GVariant* actionList(const std::vector<std::pair<std::string, std::string>>& actions,
+                     const std::string& server) {
     GVariantBuilder list;
     g_variant_builder_init(&list, G_VARIANT_TYPE("as"));
     for (const auto& [key, label] : actions) {
+        if (key == "default" && server == ServerWithDefaultButton) continue;
         g_variant_builder_add(&list, "s", key.c_str());
         g_variant_builder_add(&list, "s", busText(label).c_str());
     }
@@ -54,6 +59,19 @@ NotificationServer::NotificationServer(GDBusConnection* bus) : server_(bus, Name
     watching_ = server_.watch([] {}, [this] { capabilities_.reset(); });
 }
 
+void NotificationServer::askForName(std::function<void()> known) {
+    server_.call("GetServerInformation", nullptr,
+                 [this, known = std::move(known)](const auto& answer, const auto& /*error*/) {
+                     name_.clear();
+                     if (answer && g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(ssss)"))) {
+                         const char* name = nullptr;
+                         g_variant_get_child(answer.get(), 0, "&s", &name);
+                         name_ = name;
+                     }
+                     known();
+                 });
+}
+
 void NotificationServer::askForCapabilities(std::function<void()> known) {
     server_.call("GetCapabilities", nullptr,
                  [this, known = std::move(known)](const auto& answer, const auto& /*error*/) {
@@ -79,7 +97,7 @@ GVariant* NotificationServer::argumentsFor(const Notification& notification) con
     return g_variant_new("(susss@as@a{sv}i)", ApplicationName, notification.replaces,
                          headless::applicationIcon().c_str(), busText(notification.summary).c_str(),
                          (can("body-markup") ? escaped(body) : body).c_str(),
-                         actionList(notification.actions), hintsFor(notification),
+                         actionList(notification.actions, name_), hintsFor(notification),
                          static_cast<gint32>(notification.lifetime.count()));
 }
 
@@ -88,8 +106,9 @@ void NotificationServer::show(const Notification& notification, Shown shown) {
         notify(notification, std::move(shown));
         return;
     }
-    askForCapabilities(
-        [this, notification, shown = std::move(shown)] { notify(notification, shown); });
+    askForName([this, notification, shown = std::move(shown)] {
+        askForCapabilities([this, notification, shown] { notify(notification, shown); });
+    });
 }
 
 void NotificationServer::notify(const Notification& notification, Shown shown) {

@@ -22,7 +22,7 @@ struct Notification {
 
     std::string summary;
     std::string body;
-    /// Action keys and button labels.
+    /// Action keys and button labels. "default" is the action of a click on the notification.
     std::vector<std::pair<std::string, std::string>> actions{};
     /// Sound name in the freedesktop sound theme; empty for none.
     std::string soundName{};
@@ -48,7 +48,7 @@ class NotificationServer {
     explicit NotificationServer(GDBusConnection* bus);
 
     /// Shows the notification, with sound and markup as the server's capabilities allow. Asks a new
-    /// server for its capabilities first; that call also activates it over D-Bus.
+    /// server for its name and capabilities first; that also activates it over D-Bus.
     void show(const Notification& notification, Shown shown);
     /// Shows a critical notification, which stays until dismissed. Blocks up to 5 seconds per call,
     /// because the program may be about to exit.
@@ -64,6 +64,7 @@ class NotificationServer {
     [[nodiscard]] Subscription onVanished(std::function<void()> vanished);
 
   private:
+    void askForName(std::function<void()> known);
     void askForCapabilities(std::function<void()> known);
     [[nodiscard]] bool can(const char* capability) const {
         return capabilities_ && capabilities_->contains(capability);
@@ -75,6 +76,7 @@ class NotificationServer {
     [[nodiscard]] GVariant* hintsFor(const Notification& notification) const;
 
     BusClient server_;
+    std::string name_;
     /// Absent until the server answers.
     std::optional<std::set<std::string, std::less<>>> capabilities_;
     Subscription watching_;

@@ -14,8 +14,8 @@ namespace brisel::platform::desktop {
 
 namespace {
 
-constexpr const char* Name = "org.freedesktop.portal.Desktop";
-constexpr const char* Path = "/org/freedesktop/portal/desktop";
+constexpr const char* PortalName = "org.freedesktop.portal.Desktop";
+constexpr const char* PortalPath = "/org/freedesktop/portal/desktop";
 // Neither success nor closed by the user (org.freedesktop.portal.Request).
 constexpr guint32 ResponseOther = 2;
 
@@ -23,7 +23,7 @@ constexpr guint32 ResponseOther = 2;
 std::string requestPath(GDBusConnection* bus, const std::string& handle) {
     std::string sender = g_dbus_connection_get_unique_name(bus) + 1;
     std::replace(sender.begin(), sender.end(), '.', '_');
-    return std::string(Path) + "/request/" + sender + "/" + handle;
+    return std::string(PortalPath) + "/request/" + sender + "/" + handle;
 }
 
 GVariant* optionsWith(const std::string& handle, const std::string& activationToken) {
@@ -42,7 +42,7 @@ GVariant* optionsWith(const std::string& handle, const std::string& activationTo
 OpenURIPortal::OpenURIPortal(GDBusConnection* bus, platform::SystemLog& log)
     : bus_(static_cast<GDBusConnection*>(g_object_ref(bus))),
       log_(log),
-      portal_(bus, Name, Path, "org.freedesktop.portal.OpenURI") {}
+      portal_(bus, PortalName, PortalPath, "org.freedesktop.portal.OpenURI") {}
 
 void OpenURIPortal::open(const FileURL& folder, const std::string& activationToken,
                          std::function<void()> failed) {
@@ -57,7 +57,7 @@ void OpenURIPortal::open(const FileURL& folder, const std::string& activationTok
 
 void OpenURIPortal::awaitResponse(const std::string& handle, std::function<void()> failed) {
     response_.reset();
-    request_.emplace(bus_.get(), Name, requestPath(bus_.get(), handle),
+    request_.emplace(bus_.get(), PortalName, requestPath(bus_.get(), handle),
                      "org.freedesktop.portal.Request");
     response_ = request_->onSignal("Response", [this, failed = std::move(failed)](auto* arguments) {
         if (g_variant_is_of_type(arguments, G_VARIANT_TYPE("(ua{sv})")) == FALSE) return;

@@ -15,7 +15,7 @@ namespace brisel::platform::desktop {
 // Longer than a host takes to open the menu after a click.
 constexpr std::chrono::milliseconds TimeToOpen{500};
 
-/// What lives on the tray's thread.
+/// Lives on the tray's thread.
 struct StatusItem::Tray {
     explicit Tray(StatusItem& statusItem)
         : item(statusItem),
@@ -70,6 +70,8 @@ std::function<void()> StatusItem::ifAlive(std::function<void()> work) const {
 }
 
 void StatusItem::setImage(const std::optional<std::string>& name) {
+    // The core sets the image after each refresh of the menu, and may then block the main loop,
+    // where showMenuSoon would show it.
     showMenu();
     const auto key = common::statusWords(name.value_or(""));
     TrayLook look{.iconName = name.value_or(""),

@@ -25,11 +25,11 @@
 
 namespace brisel::platform::desktop {
 
-/// Main thread. What the tray needs of it is handed to the tray's thread at once, so that the state
-/// shows also while the main thread is busy.
+/// Main thread only. Passes icon and menu to the tray's thread, which shows them even while the
+/// main thread is busy.
 class StatusItem final : public platform::StatusItem {
   public:
-    /// All of them must outlive the item. `menu` is the one to show.
+    /// The references must outlive the item. `menu` is the status menu.
     struct Dependencies {
         GDBusConnection* bus;
         platform::SystemLog& log;
@@ -44,18 +44,18 @@ class StatusItem final : public platform::StatusItem {
     StatusItem& operator=(const StatusItem&) = delete;
     ~StatusItem() override;
 
-    /// The tray takes no icon without an image; it gets this one with the first.
+    /// Does nothing: the first image creates the tray icon.
     void create(double /*length*/) override {}
     void showStatusMenu() override {}
     void setImage(const std::optional<std::string>& name) override;
     [[nodiscard]] std::string effectiveAppearanceName() const override;
     [[nodiscard]] Subscription observeEffectiveAppearance(std::function<void()> changed) override;
 
-    /// `show` shows the menu in a window, for a host that opens no menu at a click.
+    /// `show` opens the menu in a window, for hosts that open no menu when the icon is clicked.
     void setMenuWindow(std::function<void()> show) { showWindow_ = std::move(show); }
-    /// What the menu holds now.
+    /// The menu's current entries.
     [[nodiscard]] const std::vector<MenuEntry>& menuEntries();
-    /// Does what choosing the entry does; nothing if it has left the menu.
+    /// Performs the entry's action; does nothing if the entry has left the menu.
     void choose(int number);
 
   private:
@@ -64,11 +64,12 @@ class StatusItem final : public platform::StatusItem {
     void showMenu();
     void showMenuSoon();
     void noteScheme(ColourScheme::Scheme scheme);
-    /// On the tray's thread.
+    /// Tray's thread only. Created on first use.
     [[nodiscard]] Tray& tray();
-    /// Runs `work` there, unless the item has gone. Any thread.
+    /// Runs `work` on the main thread, unless the item is destroyed before. Any thread.
     void onMainThread(std::function<void()> work) const;
-    /// `work` for the main thread, which may come to it when the item has gone: nothing then.
+    /// Returns `work`, to be called on the main thread; it then does nothing once the item is
+    /// destroyed.
     [[nodiscard]] std::function<void()> ifAlive(std::function<void()> work) const;
 
     Dependencies dependencies_;
@@ -81,7 +82,7 @@ class StatusItem final : public platform::StatusItem {
     common::Signal<> appearanceChanged_;
     std::atomic<bool> dark_ = false;
     GMainContext* mainContext_ = g_main_context_get_thread_default();
-    /// There as long as the item.
+    /// Expires with the item.
     std::shared_ptr<void> here_ = std::make_shared<char>();
     std::unique_ptr<Tray> tray_;
     TrayThread trayThread_;

@@ -9,8 +9,8 @@ namespace brisel::platform::headless {
 
 /// A block device of UDisks2. Other objects are referred to by path; "/" is none.
 struct BlockUse {
-    std::string path;
-    std::string bsdName;
+    std::string path{};
+    std::string bsdName{};
     std::string drive = "/";
     /// The encrypted device whose content this is.
     std::string backing = "/";

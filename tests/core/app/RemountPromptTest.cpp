@@ -219,6 +219,15 @@ TEST_F(Response, IsNotFollowedByAnotherPrompt) {
     EXPECT_THAT(newLines(), testing::Not(Contains("permission: alert sound")));
 }
 
+TEST_F(Response, IsAwaitedWhileTheVolumeIsListedAndReadOnly) {
+    const platform::UserInfo prompt{{"volume", "disk4s1"}};
+    EXPECT_TRUE(isPromptOpen(manager(), prompt));
+    EXPECT_FALSE(isPromptOpen(manager(), {{"volume", "disk9s1"}}));
+    EXPECT_FALSE(isPromptOpen(manager(), {}));
+    choose("re-mount Data");
+    EXPECT_FALSE(isPromptOpen(manager(), prompt));
+}
+
 TEST_F(Response, ToAnotherRequestIsIgnored) {
     for (const auto* const identifier : {"other", "Mount", "MOUNT", ""}) {
         mac.userNotificationCenter.respond({.requestIdentifier = identifier,

@@ -20,6 +20,7 @@ const FakeService::Interface NotificationsInterface{.busName = "org.freedesktop.
                                                     .name = "org.freedesktop.Notifications",
                                                     .introspection = R"(
 <node><interface name='org.freedesktop.Notifications'>
+  <method name='GetServerInformation'/>
   <method name='GetCapabilities'/>
   <method name='Notify'>
     <arg type='s' direction='in'/><arg type='u' direction='in'/><arg type='s' direction='in'/>

@@ -50,6 +50,24 @@ TEST_F(Notifications, HaveTheirButtonsInOrder) {
                 ElementsAre("DO", "Yes, sure!", "NOT", "No,^Jthanks."));
 }
 
+// LXQt's server draws a button for it.
+TEST_F(Notifications, HaveNoDefaultActionOnLXQt) {
+    auto notification = popUp("Found");
+    notification.actions = {{"default", "Brisel"}, {"DO", "Yes, sure!"}};
+    FakeNotifications desktop({"actions"});
+    for (const char* const name : {"lxqt-notificationd", "mako"}) {
+        desktop.service.on("GetServerInformation", [name](const auto& call) {
+            call.answer(g_variant_new("(ssss)", name, "", "1", "1.2"));
+        });
+        desktop.service.appear();
+        show(notification);
+        leave(desktop);
+    }
+    EXPECT_THAT(desktop.calls().front().actions, ElementsAre("DO", "Yes, sure!"));
+    EXPECT_THAT(desktop.calls().back().actions,
+                ElementsAre("default", "Brisel", "DO", "Yes, sure!"));
+}
+
 TEST_F(Notifications, WithALifetimeGoByThemselves) {
     FakeNotifications desktop({});
     desktop.service.appear();

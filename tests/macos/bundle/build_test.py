@@ -7,6 +7,7 @@
 import json
 import pathlib
 import plistlib
+import re
 import shutil
 import sys
 import tempfile

@@ -52,7 +52,8 @@ fi
 together=
 if [ $# -eq 0 ]; then
     [ "$processor" = arm64 ] || together=yes
-    # What the application and the report's questions are built of, and what of the simulator asks for more than the standard library.
+    # What application and report are built of, and what of the simulator asks for more than the
+    # standard library.
     set -- $(find src/platform/macos src/entry/macos helper scripts src/platform/common src/privileged \
         -name '*.mm' -o -name '*.cpp' | sort) $(grep -l '#include <.*\.h>' src/platform/simulated/*.cpp)
     if [ $# -eq 0 ]; then

@@ -9,6 +9,7 @@
 
 using brisel::platform::macos::nsString;
 using brisel::platform::macos::optionalString;
+using brisel::tests::macos::complain;
 using brisel::tests::macos::itemsOf;
 using brisel::tests::macos::orders;
 using brisel::tests::macos::world;
@@ -72,6 +73,7 @@ StageStatusItem* statusItem() {
 }
 
 - (void)setImage:(NSImage*)image {
+    if (image != nil && image == image_) complain("the image that is up was assigned again");
     ++imageAssignments_;
     ASSIGN(image_, image);
     [self resolveAppearance];

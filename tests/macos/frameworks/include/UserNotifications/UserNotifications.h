@@ -210,11 +210,15 @@ API_AVAILABLE(macos(10.14))
 - (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options
                       completionHandler:
                           (void (^)(BOOL granted, NSError* _Nullable error))completionHandler;
-- (void)getNotificationSettingsWithCompletionHandler:
-    (void (^)(UNNotificationSettings* settings))completionHandler;
 - (void)setNotificationCategories:(NSSet<UNNotificationCategory*>*)categories;
 - (void)addNotificationRequest:(UNNotificationRequest*)request
          withCompletionHandler:(nullable void (^)(NSError* _Nullable error))completionHandler;
+@end
+
+// For scripts/report-on-mac; the stand-in frameworks do not implement it.
+@interface UNUserNotificationCenter (Settings)
+- (void)getNotificationSettingsWithCompletionHandler:
+    (void (^)(UNNotificationSettings* settings))completionHandler;
 @end
 
 API_AVAILABLE(macos(10.14))
