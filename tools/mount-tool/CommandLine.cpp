@@ -63,8 +63,7 @@ bool isControlCharacter(char character) {
 
 bool isLabel(std::string_view text) {
     return !text.empty() && text.size() <= NAME_MAX && text != "." && text != ".." &&
-           text.find('/') == std::string_view::npos &&
-           std::none_of(text.begin(), text.end(), isControlCharacter);
+           text.find('/') == std::string_view::npos;
 }
 
 }  // namespace
@@ -88,6 +87,8 @@ Result<std::string> labelOf(std::string_view mountPoint, std::string_view home) 
     if (!mountPoint.starts_with(parent))
         return refuse("The mount point must be in .brisel of the requesting user's home.");
     const auto label = mountPoint.substr(parent.size());
+    if (std::any_of(label.begin(), label.end(), isControlCharacter))
+        return refuse("The label contains control characters: rename the volume, then try again.");
     if (!isLabel(label)) return refuse("The mount point's name is not a valid folder name.");
     return std::string(label);
 }

@@ -10,37 +10,13 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <string>
 #include <utility>
 
-#include "shared/MountFolders.h"
 #include "tools/mount-tool/Driver.h"
 #include "tools/mount-tool/MountCalls.h"
 
 namespace brisel::mounttool {
-
-// Accessible to root only. Removed together with its mount, but not with a clone of that. Brisel
-// ignores mounts in folders with this prefix.
-class Mount::StagingFolder {
-  public:
-    StagingFolder() {
-        if (mkdtemp(path_.data()) == nullptr) path_.clear();
-    }
-    StagingFolder(const StagingFolder&) = delete;
-    StagingFolder& operator=(const StagingFolder&) = delete;
-    ~StagingFolder() {
-        if (path_.empty()) return;
-        umount2(path_.c_str(), MNT_DETACH | UMOUNT_NOFOLLOW);
-        rmdir(path_.c_str());
-    }
-
-    /// Empty if it could not be created.
-    [[nodiscard]] const std::string& path() const { return path_; }
-
-  private:
-    std::string path_ = std::string(shared::StagingPrefix) + "XXXXXX";
-};
 
 namespace {
 
@@ -81,16 +57,12 @@ bool isOf(int root, const NTFSDevice& device) {
 Mount::Mount(std::unique_ptr<StagingFolder> staging, Descriptor tree)
     : staging_(std::move(staging)), tree_(std::move(tree)) {}
 
-Mount::Mount(Mount&&) noexcept = default;
-
-Mount::~Mount() = default;
-
 Result<Mount> Mount::make(const NTFSDevice& device, const Caller& caller) {
-    auto staging = std::make_unique<StagingFolder>();
-    if (staging->path().empty()) return refuseByError("No folder can be created in /run");
-    if (const auto refusal = mountWithDriver(device.path(), staging->path(), caller))
+    auto staging = StagingFolder::make();
+    if (!staging) return refuseByError("No folder can be created in /run");
+    if (const auto refusal = mountWithDriver(device.path(), staging->mountPoint(), caller))
         return *refusal;
-    Descriptor tree(cloneMount(staging->path().c_str()));
+    Descriptor tree(cloneMount(staging->mountPoint().c_str()));
     if (!tree) return refuseByMountCall("The mount cannot be cloned");
     return Mount(std::move(staging), std::move(tree));
 }

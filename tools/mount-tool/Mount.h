@@ -9,6 +9,7 @@
 #include "tools/mount-tool/MountFolder.h"
 #include "tools/mount-tool/NTFSDevice.h"
 #include "tools/mount-tool/Result.h"
+#include "tools/mount-tool/StagingFolder.h"
 
 namespace brisel::mounttool {
 
@@ -20,11 +21,11 @@ class Mount {
     /// unmounts the volume unless putOn has succeeded.
     static Result<Mount> make(const NTFSDevice& device, const Caller& caller);
 
-    Mount(Mount&&) noexcept;
+    Mount(Mount&&) noexcept = default;
     Mount& operator=(Mount&&) = delete;
     Mount(const Mount&) = delete;
     Mount& operator=(const Mount&) = delete;
-    ~Mount();
+    ~Mount() = default;
 
     /// Verifies that this is a read-write mount of `device`, without trusting the driver; creates
     /// and removes a file. nullopt if so, else the reason.
@@ -36,8 +37,6 @@ class Mount {
                                                const NTFSDevice& device) const;
 
   private:
-    class StagingFolder;
-
     Mount(std::unique_ptr<StagingFolder> staging, Descriptor tree);
 
     // Kept until the end, so that observers of mountinfo never see the volume unmounted.

@@ -13,6 +13,7 @@
 #include "tools/mount-tool/Mount.h"
 #include "tools/mount-tool/MountFolder.h"
 #include "tools/mount-tool/NTFSDevice.h"
+#include "tools/mount-tool/StagingFolder.h"
 
 namespace brisel::mounttool {
 
@@ -42,6 +43,7 @@ std::optional<Refusal> run(int argumentCount, const char* const* arguments) {
     if (getuid() != 0 || geteuid() != 0) return refuse("This tool must run as root.");
     auto request = parseCommandLine(argumentCount, arguments);
     if (!request) return request.refusal();
+    StagingFolder::sweep();
     return mount(*request, pkexecUID ? pkexecUID->c_str() : nullptr);
 }
 

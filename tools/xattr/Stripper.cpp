@@ -11,6 +11,7 @@
 
 #include "shared/Descriptor.h"
 #include "tools/xattr/Attributes.h"
+#include "tools/xattr/Entry.h"
 #include "tools/xattr/TreeWalk.h"
 
 namespace brisel::xattr {
@@ -57,8 +58,8 @@ void Stripper::complain(const std::string& path, const std::string& reason) {
 }
 
 void Stripper::strip(const std::string& path, Depth depth) {
-    const auto stripOne = [this](const Descriptor& file, const std::string& itsPath) {
-        if (const auto reason = removeUserAttributes(file)) complain(itsPath, *reason);
+    const auto stripOne = [this](const Entry& entry, const std::string& itsPath) {
+        if (const auto reason = removeUserAttributes(entry)) complain(itsPath, *reason);
     };
     Descriptor start = openAt(AT_FDCWD, path, O_PATH | O_NOFOLLOW);
     if (!start) {
@@ -67,8 +68,8 @@ void Stripper::strip(const std::string& path, Depth depth) {
         TreeWalk walk(stripOne,
                       [this](const auto& where, const auto& why) { complain(where, why); });
         walk.run(std::move(start), path);
-    } else if (canHoldUserAttributes(start)) {
-        stripOne(start, path);
+    } else {
+        stripOne(Entry(start), path);
     }
 }
 

@@ -45,7 +45,7 @@ struct Services {
     platform::common::NotificationCenter notificationCenter;
     platform::terminal::Alert alert{terminal};
     platform::terminal::Application application{terminal, "Brisel " BRISEL_VERSION};
-    platform::headless::Authorization authorization{systemLog, terminationSignals.descriptor()};
+    platform::headless::Authorization authorization{terminationSignals.descriptor()};
     platform::headless::DiskArbitration diskArbitration{systemLog};
     platform::headless::FileManager fileManager;
     platform::terminal::LoginItems loginItems;

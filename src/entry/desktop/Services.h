@@ -58,7 +58,7 @@ struct Services {
                                     .terminationSignals = terminationSignals.descriptor(),
                                     .dialog = dialog}};
     platform::desktop::Application application{systemLog, dialog};
-    platform::headless::Authorization authorization{systemLog, terminationSignals.descriptor()};
+    platform::headless::Authorization authorization{terminationSignals.descriptor()};
     platform::headless::DiskArbitration diskArbitration{systemLog};
     platform::headless::FileManager fileManager;
     platform::desktop::LoginItems loginItems{systemLog};

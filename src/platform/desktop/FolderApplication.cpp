@@ -58,7 +58,9 @@ void dropStart(gpointer start) {
 // Also reaps the process.
 void watch(GDesktopAppInfo* /*application*/, GPid process, gpointer start) {
     auto* const source = g_child_watch_source_new(process);
-    g_source_set_callback(source, reinterpret_cast<GSourceFunc>(&noteEnd),
+    // gcc accepts a cast between function types by way of this one.
+    const auto callback = reinterpret_cast<void (*)()>(&noteEnd);
+    g_source_set_callback(source, reinterpret_cast<GSourceFunc>(callback),
                           static_cast<std::unique_ptr<Start>*>(start)->release(), &dropStart);
     g_source_attach(source, g_main_context_get_thread_default());
     g_source_unref(source);

@@ -120,6 +120,13 @@ TEST(CommandLine, RefusesAMountPointAnywhereElse) {
     EXPECT_FALSE(acceptsMountPoint(Home + "/.brisel/" + std::string(NAME_MAX + 1, 'a')));
 }
 
+TEST(CommandLine, SaysWhichLabelsItRefuses) {
+    EXPECT_EQ(labelOf(Home + "/.brisel/a\nb", Home).refusal().sentence,
+              "The label contains control characters: rename the volume, then try again.");
+    EXPECT_EQ(labelOf(Home + "/.brisel/a/b", Home).refusal().sentence,
+              "The mount point's name is not a valid folder name.");
+}
+
 }  // namespace
 
 }  // namespace brisel::mounttool
