@@ -93,7 +93,7 @@ guint TrayIcon::exportObject() {
     return object;
 }
 
-// GNOME's extension looks at an item at once, and fails if its name has no owner yet.
+// Hosts look at an item as soon as it registers.
 void TrayIcon::noteName(GDBusConnection* /*bus*/, const gchar* /*name*/, gpointer icon) {
     static_cast<TrayIcon*>(icon)->watchForHosts();
 }
@@ -166,9 +166,12 @@ void TrayIcon::registerSoon() {
     });
 }
 
-// Safe to repeat: the watcher ignores a registered name.
+// Safe to repeat: the watcher ignores a registered name. By its unique name, because GNOME's
+// extension asks again for the owner of any other name, and drops the item if that answer comes
+// late.
 void TrayIcon::registerWithWatcher() {
-    watcher_.call("RegisterStatusNotifierItem", g_variant_new("(s)", busName_.c_str()), {});
+    watcher_.call("RegisterStatusNotifierItem",
+                  g_variant_new("(s)", g_dbus_connection_get_unique_name(bus_.get())), {});
     watcher_.readProperty("IsStatusNotifierHostRegistered", [this](const auto& there, const auto&) {
         const bool isBoolean = there && g_variant_is_of_type(there.get(), G_VARIANT_TYPE_BOOLEAN);
         if (isBoolean && g_variant_get_boolean(there.get()) != FALSE) patience_.reset();

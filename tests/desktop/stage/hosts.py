@@ -90,7 +90,9 @@ class PlasmaHost(Host):
 
 
 class GnomeHost(Host):
-    """Looks at an item at once when it registers. Inserts new entries, and moves none."""
+    """Misses an item that registers by a well-known name: the extension asks for such a name's
+    owner again, and drops the item if its properties come first. Inserts new entries of the menu,
+    and moves none."""
 
     def __init__(self, address):
         self.missed = []
@@ -98,7 +100,7 @@ class GnomeHost(Host):
         super().__init__(address)
 
     def RegisterStatusNotifierItem(self, item):
-        if not bus.has_owner(self.connection, item):
+        if not (item.startswith(":") and bus.has_owner(self.connection, item)):
             self.missed.append(item)
             return ()
         return super().RegisterStatusNotifierItem(item)

@@ -37,7 +37,7 @@ class Hosts(Story):
         self.tray.choose("Start at Login")
         wait_for(lambda: any(entry.checked for entry in host.read_menu()), "an entry is checked")
 
-    def test_on_gnome_the_icon_is_found_when_it_registers(self):
+    def test_on_gnome_the_icon_is_not_missed(self):
         host = self.start_on(GnomeHost)
         self.assertEqual(host.missed, [])
 

@@ -48,6 +48,8 @@ class TheTrayIcon : public testing::Test {
     tests::RecordedLog log_;
     ActivationToken activationToken_;
     int clicks_ = 0;
+    /// The program's unique name. GNOME's extension may miss an item of any other name.
+    const std::string address_ = g_dbus_connection_get_unique_name(bus_);
     const std::string name_ = "org.kde.StatusNotifierItem-" + std::to_string(getpid()) + "-1";
     std::unique_ptr<TrayIcon> icon_;
 };
@@ -57,7 +59,7 @@ TEST_F(TheTrayIcon, RegistersWithTheTrayThatIsThere) {
     tray.service.appear();
     start();
     waitForRegistrations(tray, 1);
-    EXPECT_THAT(tray.registered(), ElementsAre(name_));
+    EXPECT_THAT(tray.registered(), ElementsAre(address_));
 }
 
 TEST_F(TheTrayIcon, RegistersWithATrayThatStartsLater) {
@@ -66,7 +68,7 @@ TEST_F(TheTrayIcon, RegistersWithATrayThatStartsLater) {
     FakeTray tray(FakeTray::Host::There);
     tray.service.appear();
     waitForRegistrations(tray, 1);
-    EXPECT_THAT(tray.registered(), ElementsAre(name_));
+    EXPECT_THAT(tray.registered(), ElementsAre(address_));
 }
 
 TEST_F(TheTrayIcon, RegistersAgainWithARestartedTray) {
@@ -78,7 +80,7 @@ TEST_F(TheTrayIcon, RegistersAgainWithARestartedTray) {
     FakeTray second(FakeTray::Host::There);
     second.service.appear();
     waitForRegistrations(second, 1);
-    EXPECT_THAT(second.registered(), ElementsAre(name_));
+    EXPECT_THAT(second.registered(), ElementsAre(address_));
 }
 
 TEST_F(TheTrayIcon, RegistersWhenAPanelComesToAWatcher) {
@@ -88,7 +90,7 @@ TEST_F(TheTrayIcon, RegistersWhenAPanelComesToAWatcher) {
     waitForRegistrations(tray, 1);
     tray.registerHost();
     waitForRegistrations(tray, 2);
-    EXPECT_THAT(tray.registered(), ElementsAre(name_, name_));
+    EXPECT_THAT(tray.registered(), ElementsAre(address_, address_));
 }
 
 TEST_F(TheTrayIcon, RegistersOnceForAFloodOfHosts) {
@@ -100,10 +102,10 @@ TEST_F(TheTrayIcon, RegistersOnceForAFloodOfHosts) {
         tray.registerHost();
     waitForRegistrations(tray, 2);
     waitLongEnough();
-    EXPECT_THAT(tray.registered(), ElementsAre(name_, name_));
+    EXPECT_THAT(tray.registered(), ElementsAre(address_, address_));
 }
 
-// Otherwise GNOME's extension finds nothing in two starts of five.
+// A host may look at the item at once.
 TEST_F(TheTrayIcon, RegistersOnlyOnceItOwnsItsName) {
     FakeTray tray(FakeTray::Host::There);
     tray.service.appear();
@@ -120,7 +122,7 @@ TEST_F(TheTrayIcon, RegistersOnlyOnceItOwnsItsName) {
     EXPECT_THAT(tray.registered(), IsEmpty());
     driver("ReleaseName", g_variant_new("(s)", name_.c_str()));
     waitForRegistrations(tray, 1);
-    EXPECT_THAT(tray.registered(), ElementsAre(name_));
+    EXPECT_THAT(tray.registered(), ElementsAre(address_));
     g_dbus_connection_close_sync(other.get(), nullptr, nullptr);
 }
 
@@ -151,7 +153,7 @@ TEST_F(TheTrayIcon, ReportsThatNothingShowsItIfTheWatcherHasNoHost) {
     tray.service.appear();
     start(milliseconds(30));
     turnUntil([this] { return !log_.entries().empty(); });
-    EXPECT_THAT(tray.registered(), ElementsAre(name_));
+    EXPECT_THAT(tray.registered(), ElementsAre(address_));
 }
 
 TEST_F(TheTrayIcon, ReportsNothingWhenItIsShown) {
