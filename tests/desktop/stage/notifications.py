@@ -1,7 +1,6 @@
 # Notifications: a fake server, and access to the desktop's own.
 # SPDX-License-Identifier: MIT
-import time
-from dataclasses import dataclass, field
+from dataclasses import dataclass
 
 from gi.repository import GLib
 
@@ -26,7 +25,6 @@ class Notification:
     replaced: int
     hints: dict
     timeout: int
-    moment: float = field(default_factory=time.monotonic)
 
 
 class NotificationServer(bus.Service):
