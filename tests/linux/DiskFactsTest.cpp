@@ -34,13 +34,11 @@ TEST(MountInfo, TellsReadOnlyFromReadWriteByMountAndByFileSystem) {
 }
 
 BlockProperties stick() {
-    BlockProperties properties;
-    properties.device = "/dev/sdb1";
-    properties.idType = "ntfs";
-    properties.idLabel = "Data";
-    properties.idUUID = "4FF6D5AE2056652A";
-    properties.filesystem = true;
-    return properties;
+    return {.device = "/dev/sdb1",
+            .idType = "ntfs",
+            .idLabel = "Data",
+            .idUUID = "4FF6D5AE2056652A",
+            .filesystem = true};
 }
 
 TEST(DiskDescription, OfAStickHasTheKeysOfDiskArbitration) {
@@ -57,9 +55,7 @@ TEST(DiskDescription, OfAStickHasTheKeysOfDiskArbitration) {
 }
 
 TEST(DiskDescription, OmitsEmptyProperties) {
-    BlockProperties properties;
-    properties.device = "/dev/sdb";
-    const auto description = describe(properties);
+    const auto description = describe({.device = "/dev/sdb"});
     EXPECT_EQ(description.volumeMountable, false);
     EXPECT_EQ(description.volumeKind, std::nullopt);
     EXPECT_EQ(description.volumeName, std::nullopt);

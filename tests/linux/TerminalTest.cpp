@@ -134,18 +134,10 @@ TEST_F(Screen, PressesNothingAtTheEndOfInput) {
 
 TEST_F(Screen, NumbersTheMenuItemsThatCanBeChosen) {
     common::Menu menu;
-    MenuItem title;
-    title.title = "Status";
-    MenuItem separator;
-    separator.separator = true;
-    MenuItem first;
-    first.title = "First";
-    first.action = "first:";
-    MenuItem second;
-    second.title = "Second";
-    second.action = "second:";
-    second.checked = true;
-    menu.load({title, separator, first, second});
+    menu.load({{.title = "Status"},
+               {.separator = true},
+               {.title = "First", .action = "first:"},
+               {.title = "Second", .action = "second:", .checked = true}});
     StatusItem display(*terminal_, menu, [](const auto&) { return Subscription(); });
     display.show();
     EXPECT_THAT(shown(), HasSubstr("      Status\n      ----\n   1  First\n   2  Second [x]\n"));

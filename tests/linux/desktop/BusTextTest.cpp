@@ -47,12 +47,7 @@ TEST(BusText, BreaksNoLine) {
 
 class NumberedItems : public testing::Test {
   protected:
-    static MenuItem item(const std::string& title, std::string_view action = "do:") {
-        MenuItem item;
-        item.title = title;
-        item.action = action;
-        return item;
-    }
+    static MenuItem item(const std::string& title) { return {.title = title, .action = "do:"}; }
 
     NumberedMenu menu_;
 };

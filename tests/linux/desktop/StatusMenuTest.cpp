@@ -23,10 +23,8 @@ constexpr int VolumeTag = 7;
 class TheStatusMenu : public tests::StatusItemOnBus {
   protected:
     TheStatusMenu() {
-        MenuItem separator;
-        separator.separator = true;
-        MenuItem title;
-        title.title = "Brisel 1.0";
+        const MenuItem separator{.separator = true};
+        const MenuItem title{.title = "Brisel 1.0"};
         auto login = item("Start at Login", "toggle:");
         login.checkable = true;
         login.checked = true;
@@ -36,14 +34,11 @@ class TheStatusMenu : public tests::StatusItemOnBus {
         static_cast<void>(host_.newSignals());
     }
     MenuItem item(const std::string& title, std::string_view action) {
-        MenuItem item;
-        item.title = title;
-        item.action = action;
-        item.target = [this](const MenuItem& sender) {
+        const auto target = [this](const MenuItem& sender) {
             chosen_.push_back(sender.title);
             threads_.push_back(std::this_thread::get_id());
         };
-        return item;
+        return {.title = title, .action = action, .target = target};
     }
     /// Inserts volume items at the top, each with its own represented object.
     void insertVolumes(const std::vector<std::string>& titles) {
@@ -140,9 +135,7 @@ std::vector<int> shownByGnome(std::vector<int> before, const std::vector<int>& n
 }
 
 TEST_F(TheStatusMenu, IsInOrderOnAHostThatMovesNoItem) {
-    MenuItem separator;
-    separator.separator = true;
-    separator.tag = VolumeTag;
+    const MenuItem separator{.tag = VolumeTag, .separator = true};
     std::vector<int> shown = read().ids();
     const auto follow = [&] {
         const auto now = read().ids();
