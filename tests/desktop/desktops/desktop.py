@@ -9,6 +9,7 @@ from gi.repository import GLib
 
 from stage import bus
 from stage.notifications import PATH as NOTIFICATIONS_PATH
+from stage.programs import Program
 from stage.session import NOTIFICATIONS, WATCHER, Session
 from stage.waiting import PATIENCE, NeverHappened, wait_for
 
@@ -17,6 +18,10 @@ from .screen import Picture
 SIZE = (1024, 768)
 START_SECONDS = 60
 STILL_SECONDS = 0.6
+# How long a desktop may take to show something.
+SHOW_SECONDS = 4
+# The clocks in the panels change on the minute.
+MINUTE, LONGEST_LOOK = 60, 12
 MOST_NOTIFICATIONS = 30
 # A point where no desktop shows anything.
 ASIDE = (200, 400)
@@ -34,11 +39,12 @@ class Desktop(Session):
     MORE_ENVIRONMENT = {}
     # Files below the home folder, with their content.
     FILES = {}
-    FILE_MANAGER = ""
     # Where the prompt has its first button, as fractions of its width and height.
     BUTTON = (0.5, 0.8)
 
     def __init__(self, folder, account, path, cleanup, system_bus_address):
+        self._traffic = None
+        self._programs_environment = None
         super().__init__(folder, account, path, cleanup, system_bus_address)
         # Leaves the default to the desktop's own file manager.
         os.remove(f"{account.home}/.config/mimeapps.list")
@@ -53,6 +59,19 @@ class Desktop(Session):
             "XDG_CURRENT_DESKTOP": self.NAME, "XDG_SESSION_TYPE": self.KIND,
             "XDG_CONFIG_DIRS": "/etc/xdg", "XDG_DATA_DIRS": "/usr/local/share:/usr/share",
             "GSETTINGS_BACKEND": "keyfile"} | self.MORE_ENVIRONMENT
+
+    def start(self, command, name, **options):
+        """Starts a program; on Wayland, once the compositor is up, one of its clients."""
+        log = os.path.join(self.folder, f"{name}.log")
+        return Program(command, self.account, self._programs_environment or self.environment, log,
+                       **options)
+
+    def become_wayland(self):
+        """Makes the programs that start from now on clients of the compositor."""
+        sockets = glob.glob("wayland-*[0-9]", root_dir=self.environment["XDG_RUNTIME_DIR"])
+        changes = {"WAYLAND_DISPLAY": max(sockets), "DISPLAY": ""}
+        bus.driver(self.connection, "UpdateActivationEnvironment", "(a{ss})", changes)
+        self._programs_environment = self.environment | changes
 
     def _offer_services(self):
         for file in glob.glob("/usr/share/dbus-1/services/*.service"):
@@ -75,10 +94,14 @@ class Desktop(Session):
 
     def bring_up(self):
         """Starts the desktop and waits for its tray and its notification server."""
+        self._traffic = self.start(["dbus-monitor", "--session", f"interface='{NOTIFICATIONS}'"],
+                                   "notification-traffic")
         self.start_desktop()
         wait_for(lambda: bus.has_owner(self.connection, WATCHER), "there is a tray",
                  START_SECONDS)
         wait_for(self._has_notification_server, "there is a notification server", START_SECONDS)
+        if self.KIND == "wayland":
+            self.become_wayland()
         self.settle(PATIENCE)
         self.arrange()
         self.point(*ASIDE)
@@ -117,6 +140,22 @@ class Desktop(Session):
             pass
         return picture
 
+    def before_change(self):
+        """A picture to compare with, taken when no clock is about to change."""
+        left = MINUTE - time.time() % MINUTE
+        if left < LONGEST_LOOK:
+            time.sleep(left + 1)
+        return self.settle()
+
+    def what_appears(self, before, rows):
+        """The box of what changes in these rows, once the screen is still; None if nothing does."""
+        try:
+            wait_for(lambda: self.look().difference(before, rows), "the screen changes",
+                     SHOW_SECONDS)
+        except NeverHappened:
+            return None
+        return self.settle().difference(before, rows)
+
     def point(self, x, y):
         """Moves the pointer."""
         self.run("xdotool", "mousemove", str(x), str(y))
@@ -133,6 +172,10 @@ class Desktop(Session):
         """Presses the first button of the prompt in the box `prompt`."""
         self.click(*self.reveal_buttons(prompt).at(*self.BUTTON))
 
+    def closed_notifications(self):
+        """How many notifications were closed, for any reason."""
+        return self._traffic.text().count("member=NotificationClosed")
+
     def close_notifications(self):
         """Closes what a server still shows."""
         for number in range(1, MOST_NOTIFICATIONS):
@@ -142,7 +185,6 @@ class Desktop(Session):
             except GLib.Error:
                 continue
 
-    def close_folders(self):
-        """Ends the file manager."""
-        subprocess.run(["pkill", "-u", str(self.account.uid), "-x", self.FILE_MANAGER],
-                       check=False)
+    def close_window(self):
+        """Closes the window that has the focus."""
+        self.press("--delay", "100", "alt+F4")

@@ -15,7 +15,6 @@ class Lxqt(Desktop):
     NAME = "LXQt"
     PACKAGE = "lxqt-panel"
     FILES = {".config/lxqt/notifications.conf": NOTIFICATIONS}
-    FILE_MANAGER = "pcmanfm-qt"
     MORE_ENVIRONMENT = {"QT_QPA_PLATFORMTHEME": "lxqt", "XDG_CONFIG_DIRS": "/etc/xdg:/usr/share"}
     BUTTON = (0.32, 0.76)
 

@@ -30,7 +30,6 @@ class Plasma(Desktop):
 
     NAME = "KDE"
     PACKAGE = "plasma-workspace"
-    FILE_MANAGER = "dolphin"
     MORE_ENVIRONMENT = {"KDE_FULL_SESSION": "true",
                         "KDE_SESSION_VERSION": "6" if KDED_OF_6 else "5",
                         "QT_QUICK_BACKEND": "software"}

@@ -2,7 +2,6 @@
 # SPDX-License-Identifier: MIT
 from collections import Counter
 from dataclasses import dataclass
-from statistics import median
 
 # Bytes of a pixel.
 DEPTH = 3
@@ -28,6 +27,12 @@ class Box:
     def at(self, across, down):
         """The point at these fractions of the width and the height."""
         return round(self.left + across * self.width), round(self.top + down * self.height)
+
+    def grown(self, margin, picture):
+        """The box with a margin around it, within the picture."""
+        left, top = max(self.left - margin, 0), max(self.top - margin, 0)
+        return Box(left, top, min(self.left + self.width + margin, picture.width) - left,
+                   min(self.top + self.height + margin, picture.height) - top)
 
     @property
     def rows(self):
@@ -76,6 +81,10 @@ class Picture:
         row = self._row(y, box.left, box.left + box.width)
         return [tuple(row[at:at + DEPTH]) for at in range(0, len(row), DEPTH)]
 
+    def equals_in(self, box, other):
+        """True if the pixels in a box are those of another picture."""
+        return all(self._colours(y, box) == other._colours(y, box) for y in box.rows)
+
     def _differing(self, before, rows):
         """The differing pixels in these rows: their columns by row."""
         rows = [y for y in rows or range(self.height) if self._row(y) != before._row(y)]
@@ -109,13 +118,11 @@ class Picture:
                             if (kept := [x for x in columns if x in main])})
 
     def contrast_in(self, box):
-        """The median contrast of the pixels to the background, which is the most common colour."""
+        """The contrast of the most common colour, the background, and of the next that differs."""
         found = Counter(colour for y in box.rows for colour in self._colours(y, box))
         ground = found.most_common(1)[0][0]
-        ratios = [ratio for colour, count in found.items()
-                  if (ratio := contrast(colour, ground)) > BACKGROUND_CONTRAST
-                  for _ in range(count)]
-        return median(ratios) if ratios else 1.0
+        ratios = (contrast(colour, ground) for colour, _ in found.most_common())
+        return next((ratio for ratio in ratios if ratio > BACKGROUND_CONTRAST), 1.0)
 
     def text_lines(self, box):
         """The middle row of each line of text, from top to bottom."""
