@@ -18,6 +18,8 @@ from .screen import Picture
 SIZE = (1024, 768)
 START_SECONDS = 60
 STILL_SECONDS = 0.6
+# The longest wait for something that moves, such as the bar of a notification that expires.
+MOVING_SECONDS = 3
 # How long a desktop may take to show something.
 SHOW_SECONDS = 4
 # The clocks in the panels change on the minute.
@@ -150,11 +152,12 @@ class Desktop(Session):
     def what_appears(self, before, rows):
         """The box of what changes in these rows, once the screen is still; None if nothing does."""
         try:
-            wait_for(lambda: self.look().difference(before, rows), "the screen changes",
-                     SHOW_SECONDS)
+            box = wait_for(lambda: self.look().difference(before, rows), "the screen changes",
+                           SHOW_SECONDS)
         except NeverHappened:
             return None
-        return self.settle().difference(before, rows)
+        # Something that moves may be gone before the screen is still.
+        return self.settle(MOVING_SECONDS).difference(before, rows) or box
 
     def point(self, x, y):
         """Moves the pointer."""
@@ -187,4 +190,7 @@ class Desktop(Session):
 
     def close_window(self):
         """Closes the window that has the focus."""
-        self.press("--delay", "100", "alt+F4")
+        if self.KIND == "wayland":
+            self.press("alt+F4")
+        else:
+            self.run("wmctrl", "-c", ":ACTIVE:")

@@ -81,7 +81,8 @@ class Play(Player):
         return self.attach("Music")
 
     def press_button(self):
-        self.desktop.press_first_button(self.prompt)
+        if self.prompt:
+            self.desktop.press_first_button(self.prompt)
         self.desktop.point(*ASIDE)
         try:
             self.stick.wait_until_writable()
@@ -111,10 +112,10 @@ class Play(Player):
 
     def click_right(self):
         opened = self.open_menu(RIGHT)
-        self.measure_icon()
         if opened:
-            self.album.keep("menu", opened)
+            self.album.keep("menu", opened, self.icon)
         self.close_menu()
+        self.measure_icon()
         return "menu" if opened else "nothing"
 
     def set_check_mark(self):

@@ -5,7 +5,7 @@ from stage.brisel import NAME, Brisel, Preferences
 from stage.waiting import NeverHappened, wait_for
 
 from .album import Album
-from .desktop import ASIDE, RIGHT, SIZE
+from .desktop import ASIDE, MOVING_SECONDS, RIGHT, SIZE
 
 # Starts until the icon is seen.
 ATTEMPTS = 5
@@ -71,10 +71,10 @@ class Player:
         return bool(self.icon)
 
     def stop(self):
+        before = self.desktop.look()
         self.brisel.program.stop()
         if self.icon:
-            wait_for(lambda: self.desktop.look().equals_in(self.icon, self.empty),
-                     "the icon goes")
+            wait_for(lambda: not self.desktop.look().equals_in(self.icon, before), "the icon goes")
         self.desktop.settle()
 
     def measure_icon(self):
@@ -92,6 +92,7 @@ class Player:
 
     def attach(self, label):
         before = self.desktop.before_change()
+        self.prompt = None
         self.stick = self.machine.new_stick(label)
         self.prompt = self.must_appear("the prompt", before)
         return "yes"
@@ -123,7 +124,7 @@ class Player:
         at = labels.index(label) - (missed if self.has_panel_above() else 0)
         self.desktop.click(menu.at(0.5, 0)[0], lines[at])
         self.desktop.point(*ASIDE)
-        self.desktop.settle()
+        self.desktop.settle(MOVING_SECONDS)
 
     def menu_picture(self, name):
         """The open menu's box and a picture of it."""

@@ -54,7 +54,7 @@ def contrast(one, other):
     return (high + 0.05) / (low + 0.05)
 
 
-def surrounding(pixels):
+def box_around(pixels):
     """The smallest box with all the pixels, which are columns by row."""
     left = min(columns[0] for columns in pixels.values())
     right = max(columns[-1] for columns in pixels.values()) + 1
@@ -96,7 +96,7 @@ class Picture:
     def difference(self, before, rows=None):
         """The smallest box with all that differs in these rows; None without a difference."""
         found = self._differing(before, rows)
-        return surrounding(found) if found else None
+        return box_around(found) if found else None
 
     def main_difference(self, before, rows):
         """Of the parts that differ, with gaps between, the one with the most pixels; or None.
@@ -114,7 +114,7 @@ class Picture:
         if not parts:
             return None
         main = set(max(parts, key=lambda part: sum(counts[x] for x in part)))
-        return surrounding({y: kept for y, columns in found.items()
+        return box_around({y: kept for y, columns in found.items()
                             if (kept := [x for x in columns if x in main])})
 
     def contrast_in(self, box):
