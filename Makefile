@@ -45,6 +45,7 @@ bench:
 	cmake --build --preset bench
 	build/bench/bin/brisel-benchmarks
 	build/bench/bin/brisel-benchmarks --check-growth
+	/usr/bin/python3 -B benchmarks/xattr.py build/bench/bin/xattr
 
 # Compares with another tray program, in a session of its own; needs an idle machine.
 bench-desktop:

@@ -1,7 +1,9 @@
-# Generates OUTPUT, a C++ source that contains the text of each of the TABLES.
+# Generates OUTPUT, a C++ source whose NAMESPACE::embeddedTables(), declared in HEADER, returns the text
+# of each of the TABLES.
 set(source "// The localised texts; made by the build from resources/.\n")
-string(APPEND source "#include \"platform/common/Bundle.h\"\n\n")
-string(APPEND source "namespace brisel::platform::common {\n\n")
+string(APPEND source "#include \"${HEADER}\"\n\n")
+string(APPEND source "namespace ${NAMESPACE} {\n\n")
+string(APPEND source "using brisel::platform::common::EmbeddedTable;\n\n")
 string(APPEND source "const std::vector<EmbeddedTable>& embeddedTables() {\n")
 string(APPEND source "    static const std::vector<EmbeddedTable> tables{\n")
 foreach(table IN LISTS TABLES)
@@ -10,5 +12,5 @@ foreach(table IN LISTS TABLES)
   file(READ ${table} text)
   string(APPEND source "        {\"${language}\", R\"strings(${text})strings\"},\n")
 endforeach()
-string(APPEND source "    };\n    return tables;\n}\n\n}  // namespace brisel::platform::common\n")
+string(APPEND source "    };\n    return tables;\n}\n\n}  // namespace ${NAMESPACE}\n")
 file(WRITE ${OUTPUT} "${source}")

@@ -39,8 +39,11 @@ endfunction()
 # bundle_contents(VARIABLE): the paths in Brisel.app of all files but the signatures.
 function(bundle_contents variable)
   set(helper Contents/${BRISEL_HELPER_FOLDER}/BriselHelper.app/Contents)
-  set(paths Contents/Info.plist Contents/MacOS/Brisel Contents/Resources/MainMenu.nib
-      ${helper}/Info.plist ${helper}/MacOS/BriselHelper)
+  set(paths Contents/Info.plist Contents/MacOS/Brisel ${helper}/Info.plist
+      ${helper}/MacOS/BriselHelper)
+  if(BRISEL_NIB_SOURCE)
+    list(APPEND paths Contents/Resources/MainMenu.nib)
+  endif()
   foreach(file IN LISTS BRISEL_BUNDLE_FILES BRISEL_BUNDLE_TABLES)
     bundle_folder(folder ${file})
     get_filename_component(name ${file} NAME)

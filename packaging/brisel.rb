@@ -9,7 +9,7 @@ cask "brisel" do
   desc "Mount NTFS volumes read-write"
   homepage "https://brisel.example/"
 
-  depends_on macos: ">= :big_sur"
+  depends_on macos: :big_sur
 
   app "Brisel.app"
 

@@ -20,22 +20,22 @@ void printLine(const std::string& line) {
     std::cout << line << '\n';
 }
 
-Scenario::Manner basicManner(const CommandLine& commandLine) {
-    Scenario::Manner manner;
-    if (commandLine.makeProgram) manner.makeProgram = commandLine.makeProgram;
-    return manner;
+Scenario::Options basicOptions(const CommandLine& commandLine) {
+    Scenario::Options options;
+    if (commandLine.makeProgram) options.makeProgram = commandLine.makeProgram;
+    return options;
 }
 
 int runScript(const CommandLine& commandLine, std::istream& stream) {
     StreamSource source(stream);
-    auto manner = basicManner(commandLine);
-    manner.badCommandHandler = [](const Scenario::BadCommand& bad) {
+    auto options = basicOptions(commandLine);
+    options.badCommandHandler = [](const Scenario::BadCommand& bad) {
         std::cout.flush();
         std::cerr << "line " << bad.line << ": " << bad.complaint << '\n';
     };
     // Lets a program on a pipe read each command's output before it sends the next command.
-    manner.afterCommand = [] { std::cout.flush(); };
-    return Scenario(source, printLine, manner).run() ? 0 : BadUse;
+    options.afterCommand = [] { std::cout.flush(); };
+    return Scenario(source, printLine, options).run() ? 0 : BadUse;
 }
 
 int runInTerminal(const CommandLine& commandLine) {
@@ -44,13 +44,13 @@ int runInTerminal(const CommandLine& commandLine) {
                  "\"help\" lists all commands, \"quit\" ends.\n"
               << std::flush;
     TerminalSource source;
-    auto manner = basicManner(commandLine);
-    manner.onBadCommand = Scenario::OnBadCommand::GoOn;
-    manner.echo = Scenario::Echo::Nothing;
+    auto options = basicOptions(commandLine);
+    options.onBadCommand = Scenario::OnBadCommand::GoOn;
+    options.echo = Scenario::Echo::Nothing;
     // Flushes each line: libedit writes the next prompt past std::cout.
     const auto show = [](const std::string& line) { std::cout << line << std::endl; };
-    manner.badCommandHandler = [show](const Scenario::BadCommand& bad) { show(bad.complaint); };
-    Scenario(source, show, manner).run();
+    options.badCommandHandler = [show](const Scenario::BadCommand& bad) { show(bad.complaint); };
+    Scenario(source, show, options).run();
     return 0;
 }
 

@@ -133,7 +133,7 @@ Complaint release(Stage& stage, const Words& arguments) {
     return std::nullopt;
 }
 
-constexpr std::array Table{
+constexpr std::array DiskTable{
     Command{"attach", When::AnyTime,
             "attach DEVICE [mountable=yes|no] [kind=KIND] [name=NAME] [path=PATH] "
             "[media-uuid=UUID] [volume-uuid=UUID] [writable=yes|no]",
@@ -152,7 +152,7 @@ constexpr std::array Table{
 }  // namespace
 
 std::span<const Command> diskCommands() {
-    return Table;
+    return DiskTable;
 }
 
 }  // namespace brisel::simulator

@@ -19,7 +19,7 @@ std::string itemLine(const platform::MenuItem& item) {
     line += platform::stringWithFormat(R"( title="%@")", item.title);
     if (!item.action.empty()) line += platform::stringWithFormat(" action=%@", item.action);
     const auto volume = volumeOf(item);
-    if (volume) line += " volume=" + platform::textOf(volume->deviceNode());
+    if (volume) line += " volume=" + platform::orNullText(volume->deviceNode());
     if (item.alignment) line += platform::stringWithFormat(" align=%i", *item.alignment);
     if (item.checked) line += " checked";
     return line;
@@ -79,14 +79,14 @@ Complaint show(Stage& stage, const Words& arguments) {
     return misused("show");
 }
 
-constexpr std::array Table{Command{"show", When::AnyTime,
-                                   "show menu|volumes|progress|defaults|folders",
-                                   "prints the state of things", show}};
+constexpr std::array LookingTable{Command{"show", When::AnyTime,
+                                          "show menu|volumes|progress|defaults|folders",
+                                          "prints the state of things", show}};
 
 }  // namespace
 
 std::span<const Command> lookingCommands() {
-    return Table;
+    return LookingTable;
 }
 
 }  // namespace brisel::simulator

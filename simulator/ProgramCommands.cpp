@@ -127,7 +127,7 @@ Complaint quit(Stage& stage, const Words& arguments) {
     return std::nullopt;
 }
 
-constexpr std::array Table{
+constexpr std::array ProgramTable{
     Command{"system", When::BeforeStart, "system 11|12", "the running macOS", chooseSystem},
     Command{"home", When::BeforeStart, "home PATH", "the user's home directory", chooseHome},
     Command{"language", When::BeforeStart, "language CODE", "the user's language", chooseLanguage},
@@ -148,7 +148,7 @@ constexpr std::array Table{
 }  // namespace
 
 std::span<const Command> programCommands() {
-    return Table;
+    return ProgramTable;
 }
 
 }  // namespace brisel::simulator

@@ -24,12 +24,12 @@ Complaint complaintAboutMoment(const Command& command, const Stage& stage) {
 
 }  // namespace
 
-Scenario::Scenario(CommandSource& source, Output output, Manner manner)
+Scenario::Scenario(CommandSource& source, Output output, Options options)
     : source_(source),
       output_(std::move(output)),
-      manner_(std::move(manner)),
+      options_(std::move(options)),
       mac_(*this),
-      program_(manner_.makeProgram(*this)),
+      program_(options_.makeProgram(*this)),
       stage_{.mac = mac_, .program = *program_} {
     mac_.transcript.keepNothing();
     mac_.transcript.setListener(output_);
@@ -53,8 +53,8 @@ bool Scenario::step() {
     if (!line) return false;
     ++lineNumber_;
     if (const auto complaint = carryOut(*line)) {
-        manner_.badCommandHandler({.line = lineNumber_, .complaint = *complaint});
-        if (manner_.onBadCommand == OnBadCommand::Stop) {
+        options_.badCommandHandler({.line = lineNumber_, .complaint = *complaint});
+        if (options_.onBadCommand == OnBadCommand::Stop) {
             stopped_ = true;
             program_->end();
         }
@@ -64,7 +64,7 @@ bool Scenario::step() {
     } else {
         program_->turnUntilIdle();
     }
-    manner_.afterCommand();
+    options_.afterCommand();
     return true;
 }
 
@@ -72,11 +72,11 @@ Complaint Scenario::carryOut(const std::string& line) {
     if (line.starts_with('#')) return std::nullopt;
     auto words = splitIntoWords(line);
     if (words && words->empty()) return std::nullopt;
-    if (manner_.echo == Echo::Commands) output_("> " + line);
+    if (options_.echo == Echo::Commands) output_("> " + line);
     if (!words) return "a quote does not end";
     const auto name = words->front();
     words->erase(words->begin());
-    if (manner_.onBadCommand == OnBadCommand::GoOn) {
+    if (options_.onBadCommand == OnBadCommand::GoOn) {
         if (name == "help") return help();
         // A user at a terminal may quit before the start.
         if (name == "quit" && !program_->started()) program_->end();

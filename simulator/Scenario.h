@@ -32,7 +32,7 @@ class Scenario final : private platform::simulated::Person {
 
     using ProgramMaker = std::function<std::unique_ptr<Program>(Scenario&)>;
 
-    struct Manner {
+    struct Options {
         OnBadCommand onBadCommand = OnBadCommand::Stop;
         Echo echo = Echo::Commands;
         BadCommandHandler badCommandHandler = [](const BadCommand&) {};
@@ -44,7 +44,7 @@ class Scenario final : private platform::simulated::Person {
     };
 
     /// `source` must outlive the scenario.
-    Scenario(CommandSource& source, Output output, Manner manner);
+    Scenario(CommandSource& source, Output output, Options options);
     Scenario(const Scenario&) = delete;
     Scenario& operator=(const Scenario&) = delete;
     ~Scenario() override = default;
@@ -54,7 +54,7 @@ class Scenario final : private platform::simulated::Person {
     /// Reads and executes one line, for a program whose main loop reads the commands. False at the
     /// end of the commands.
     bool step();
-    /// Whether a bad command has stopped the scenario.
+    /// True if a bad command has stopped the scenario.
     [[nodiscard]] bool stopped() const { return stopped_; }
 
     [[nodiscard]] platform::simulated::Mac& mac() { return mac_; }
@@ -72,7 +72,7 @@ class Scenario final : private platform::simulated::Person {
 
     CommandSource& source_;
     Output output_;
-    Manner manner_;
+    Options options_;
     std::size_t lineNumber_ = 0;
     bool stopped_ = false;
     platform::simulated::Mac mac_;

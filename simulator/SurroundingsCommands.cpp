@@ -134,7 +134,7 @@ Complaint appearance(Stage& stage, const Words& arguments) {
     return std::nullopt;
 }
 
-constexpr std::array Table{
+constexpr std::array SurroundingsTable{
     Command{"tool", When::AnyTime, "tool exit=N [output=TEXT], tool signal=N",
             "how the mount tool ends from now on", tool},
     Command{"launch", When::AnyTime, "launch fail CODE, launch missing",
@@ -156,7 +156,7 @@ constexpr std::array Table{
 }  // namespace
 
 std::span<const Command> surroundingsCommands() {
-    return Table;
+    return SurroundingsTable;
 }
 
 }  // namespace brisel::simulator

@@ -6,15 +6,16 @@
 
 #include "app/AppDelegate.h"
 #include "platform/Application.h"
+#include "platform/Bundle.h"
 
 namespace brisel {
 
 namespace {
 
-platform::MenuItem fixedItem(const char* title, const char* action,
+platform::MenuItem fixedItem(std::string title, const char* action,
                              platform::MenuItem::Target target) {
     platform::MenuItem item;
-    item.title = title;
+    item.title = std::move(title);
     item.action = action;
     item.target = std::move(target);
     return item;
@@ -24,15 +25,19 @@ platform::MenuItem fixedItem(const char* title, const char* action,
 
 std::vector<platform::MenuItem> mainMenuItems(const std::shared_ptr<AppDelegate>& delegate,
                                               const platform::Platform& platform) {
+    const auto& bundle = platform.bundle;
     platform::MenuItem separator;
     separator.separator = true;
+    auto startAtLogin =
+        fixedItem(bundle.localizedString("Start at Login"), ToggleStartAtLoginAction,
+                  [delegate](const auto&) { delegate->toggleStartAtLogin(); });
+    startAtLogin.checkable = true;
     return {
-        fixedItem("Start at Login", ToggleStartAtLoginAction,
-                  [delegate](const auto&) { delegate->toggleStartAtLogin(); }),
-        fixedItem("About Brisel", BringToFrontAction,
+        startAtLogin,
+        fixedItem(bundle.localizedString("About Brisel"), BringToFrontAction,
                   [delegate](const auto&) { delegate->bringToFront(); }),
         separator,
-        fixedItem("Quit Brisel", TerminateAction,
+        fixedItem(bundle.localizedString("Quit Brisel"), TerminateAction,
                   [&application = platform.application](const auto&) { application.terminate(); })};
 }
 

@@ -16,8 +16,8 @@ inline constexpr const char* ToggleStartAtLoginAction = "toggleStartAtLogin:";
 inline constexpr const char* BringToFrontAction = "bringToFront:";
 inline constexpr const char* TerminateAction = "terminate:";
 
-/// From the top: Start at Login (a check item), About, separator, Quit. The titles are not
-/// localised. The items keep `delegate` alive.
+/// From the top: Start at Login (a check item), About, separator, Quit, with localised titles. The
+/// items keep `delegate` alive.
 std::vector<platform::MenuItem> mainMenuItems(const std::shared_ptr<AppDelegate>& delegate,
                                               const platform::Platform& platform);
 

@@ -29,7 +29,7 @@ platform::NotificationRequest makeRequest(const platform::Bundle& bundle,
         .body = bundle.localizedString("Re-mount it read-write?"),
         .soundName = SoundName,
         .categoryIdentifier = CategoryIdentifier,
-        .userInfo = {{VolumeKey, platform::textOf(volume.deviceNode())}},
+        .userInfo = {{VolumeKey, platform::orNullText(volume.deviceNode())}},
         .delay = Delay};
 }
 
@@ -45,6 +45,11 @@ void addPrompt(const platform::Platform& platform, const std::shared_ptr<NTFSVol
         });
 }
 
+std::optional<std::string> deviceIn(const platform::UserInfo& prompt) {
+    const auto device = prompt.find(VolumeKey);
+    return device != prompt.end() ? std::optional(device->second) : std::nullopt;
+}
+
 }  // namespace
 
 void postRemountPrompt(const platform::Platform& platform,
@@ -58,6 +63,11 @@ void postRemountPrompt(const platform::Platform& platform,
                 addPrompt(platform, volume);
             }
         });
+}
+
+bool isPromptOpen(const NTFSVolumeManager& manager, const platform::UserInfo& prompt) {
+    const auto volume = findVolume(manager.volumes(), deviceIn(prompt));
+    return volume && !volume->writable();
 }
 
 void NTFSVolumeManager::registerNotificationCategory() {
@@ -80,9 +90,7 @@ void NTFSVolumeManager::userNotificationCenterDidReceiveNotificationResponseWith
     const platform::UserNotificationCenter::CompletionHandler& /*completionHandler*/) {
     if (response.requestIdentifier != RequestIdentifier) return;
     if (response.actionIdentifier != MountAction) return;
-    const auto device = response.userInfo.find(VolumeKey);
-    const bool known = device != response.userInfo.end();
-    remountVolumeNamed(known ? std::optional(device->second) : std::nullopt);
+    remountVolumeNamed(deviceIn(response.userInfo));
 }
 
 }  // namespace brisel

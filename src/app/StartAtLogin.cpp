@@ -7,6 +7,7 @@
 #include "platform/Bundle.h"
 #include "platform/LoginItems.h"
 #include "platform/UserDefaults.h"
+#include "shared/IgnoreResult.h"
 
 namespace brisel {
 
@@ -20,7 +21,7 @@ void AppDelegate::toggleStartAtLogin() {
     }
     // Deliberate: looks the word up but shows the text with its placeholder unfilled.
     const auto& bundle = platform_.bundle;
-    static_cast<void>(bundle.localizedString(shouldStartAtLogin_ ? "add" : "remove"));
+    shared::ignoreResult(bundle.localizedString(shouldStartAtLogin_ ? "add" : "remove"));
     platform_.alert.runModal({.messageText = bundle.localizedString("An error ocurred"),
                               .informativeText = bundle.localizedString(
                                   "Couldn't %@ Helper App to launch at login item list."),

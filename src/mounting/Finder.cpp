@@ -7,6 +7,7 @@
 #include "platform/SystemLog.h"
 #include "platform/SystemVersion.h"
 #include "platform/Workspace.h"
+#include "shared/MountFolders.h"
 #include "volumes/NTFSVolumeManager.h"
 
 namespace brisel {
@@ -16,7 +17,8 @@ namespace {
 // The folder of read-write mounts on this system version; ignores the record's own path.
 std::string mountFolder(const platform::Platform& platform) {
     if (!platform.systemVersion.isMacOS12OrLater()) return platform.fileManager.volumesDirectory();
-    return platform::stringWithFormat("%@/.brisel", platform.fileManager.homeDirectory());
+    return platform::stringWithFormat("%@/%@", platform.fileManager.homeDirectory(),
+                                      shared::MountFolders);
 }
 
 void logScriptError(platform::SystemLog& log, const platform::ScriptResult& result) {

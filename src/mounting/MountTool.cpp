@@ -7,6 +7,7 @@
 #include "platform/Format.h"
 #include "platform/SystemLog.h"
 #include "privileged/KJPrivilegedTask.h"
+#include "shared/MountFolders.h"
 #include "volumes/NTFSVolumeManager.h"
 
 namespace brisel {
@@ -31,11 +32,11 @@ Target makeTarget(const NTFSVolumeManager& manager, const platform::Disk& disk,
                   const DiskDescription& description) {
     Target target;
     target.devicePath = stringWithFormat("/dev/%s", disk.bsdName);
-    target.bsdName = platform::textOf(description.mediaBSDName);
+    target.bsdName = platform::orNullText(description.mediaBSDName);
     const auto volume = findVolume(manager.volumes(), target.bsdName);
-    target.label = platform::textOf(volume ? volume->label() : description.volumeName);
-    target.mountPoint = stringWithFormat(
-        "%@/.brisel/%@", manager.platform().fileManager.homeDirectory(), target.label);
+    target.label = platform::orNullText(volume ? volume->label() : description.volumeName);
+    target.mountPoint = stringWithFormat("%@/%@/%@", manager.platform().fileManager.homeDirectory(),
+                                         shared::MountFolders, target.label);
     return target;
 }
 

@@ -100,7 +100,7 @@ void remountMountDidFinish(NTFSVolumeManager& manager, const platform::Disk& dis
         reportRemountFailure(manager, dissenter, description);
         return;
     }
-    diskAppeared(manager, disk);
+    diskAppeared(manager, disk, description);
     manager.openInFinder(description.volumePath);
 }
 

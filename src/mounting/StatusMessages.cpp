@@ -44,7 +44,7 @@ void report(NTFSVolumeManager& manager, const Variant& variant,
             const platform::DiskDescription& description) {
     const auto& platform = manager.platform();
     manager.errorIcon();
-    const auto bsdName = platform::textOf(description.mediaBSDName);
+    const auto bsdName = platform::orNullText(description.mediaBSDName);
     if (variant.record == Record::Remove) removeFirstVolume(manager.volumes(), bsdName);
     if (dissenter) platform.systemLog.log(dissenterStatusMessage(dissenter->status), bsdName);
     platform.alert.runModal(

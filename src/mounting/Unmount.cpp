@@ -7,6 +7,7 @@
 #include "mounting/StatusMessages.h"
 #include "platform/Format.h"
 #include "platform/Menu.h"
+#include "platform/NotificationCenter.h"
 #include "platform/SystemLog.h"
 #include "volumes/NTFSVolumeManager.h"
 
@@ -33,12 +34,14 @@ void unmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& disk,
     }
     // No delay: only yields the processor after the unmount.
     sleep(0);
-    const auto bsdName = platform::textOf(description.mediaBSDName);
+    const auto bsdName = platform::orNullText(description.mediaBSDName);
     const VolumeRecords snapshot = manager.volumes();
     for (const auto& volume : snapshot) {
         if (volume->deviceNode() != bsdName) continue;
         manager.removeVolumeFromList(volume);
         manager.setInProgress(false);
+        manager.platform().notificationCenter.postNotificationName(NTFSVolumeDidUnmountNotification,
+                                                                   volume.get());
     }
 }
 

@@ -10,6 +10,9 @@ namespace brisel {
 
 class NTFSVolumeManager;
 
+/// Posted once a volume is unmounted from the menu; the object is its NTFSVolume.
+inline constexpr const char* NTFSVolumeDidUnmountNotification = "NTFSVolumeDidUnmountNotification";
+
 /// Removes the unmounted volume from the list, or reports the dissenter. Main thread.
 void unmountDidFinish(NTFSVolumeManager& manager, const platform::Disk& disk,
                       const std::optional<platform::Dissenter>& dissenter);

@@ -33,8 +33,6 @@ struct DAReturn {
 /// A disk object; its device may be gone.
 struct Disk {
     std::string bsdName;
-    /// In a report, the disk's description at that moment; otherwise absent.
-    std::optional<DiskDescription> reported;
 };
 
 /// Why a request was refused; `status` may be outside DAReturn.
@@ -46,7 +44,8 @@ struct Dissenter {
 /// so never while an alert is up.
 class DiskArbitration {
   public:
-    using DiskCallback = std::function<void(const Disk&)>;
+    /// Receives the disk's description at the moment of the report.
+    using DiskCallback = std::function<void(const Disk&, const DiskDescription&)>;
     /// The dissenter is absent on success.
     using Completion = std::function<void(const Disk&, const std::optional<Dissenter>&)>;
 
@@ -68,8 +67,7 @@ class DiskArbitration {
     /// Absent unless a volume is mounted at exactly `path`.
     [[nodiscard]] virtual std::optional<Disk> diskFromVolumePath(
         const std::optional<FileURL>& path) = 0;
-    /// The reported description, else the current one. After removal, the last known one or at most
-    /// the BSD name.
+    /// The current description. After removal, the last known one or at most the BSD name.
     [[nodiscard]] virtual DiskDescription copyDescription(const Disk& disk) = 0;
 
     /// Does not force. `completion` may run before the call returns.

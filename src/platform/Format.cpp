@@ -43,7 +43,7 @@ std::string stringWithFormat(std::string_view format, std::span<const FormatArgu
     return text;
 }
 
-std::string textOf(const std::optional<std::string>& value) {
+std::string orNullText(const std::optional<std::string>& value) {
     return value ? *value : std::string(NullText);
 }
 

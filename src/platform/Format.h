@@ -46,7 +46,7 @@ std::string stringWithFormat(std::string_view format, const Values&... values) {
 }
 
 /// `value` or NullText.
-std::string textOf(const std::optional<std::string>& value);
+std::string orNullText(const std::optional<std::string>& value);
 
 /// `text` with A to Z in lower case.
 std::string lowercased(std::string text);

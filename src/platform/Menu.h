@@ -34,6 +34,8 @@ struct MenuItem {
     /// Performs the action.
     Target target;
     std::shared_ptr<RepresentedObject> representedObject;
+    /// Whether the item has a check mark to set. On a Mac every item has.
+    bool checkable = false;
     /// Shows a check mark (state 1).
     bool checked = false;
 };

@@ -4,22 +4,22 @@
 
 #include <string>
 
+#include "shared/Descriptor.h"
+
 namespace brisel {
 
 /// Not thread-safe.
 class FileHandle {
   public:
+    /// Takes over `descriptor`.
     explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
-    FileHandle(const FileHandle&) = delete;
-    FileHandle& operator=(const FileHandle&) = delete;
-    ~FileHandle();
 
     /// Reads to the end of the stream, or to the first error other than EINTR. Blocks until all
     /// writers have closed their ends.
     [[nodiscard]] std::string readDataToEndOfFile() const;
 
   private:
-    int descriptor_;
+    shared::Descriptor descriptor_;
 };
 
 }  // namespace brisel

@@ -10,6 +10,8 @@
 #include <cstring>
 #include <deque>
 
+#include "shared/IgnoreResult.h"
+
 namespace brisel {
 
 namespace {
@@ -47,11 +49,11 @@ ArgumentVector::ArgumentVector(const std::vector<std::string>& arguments) {
 }
 
 WorkingDirectory::WorkingDirectory(const std::string& path) : saved_(saveWorkingDirectory()) {
-    static_cast<void>(chdir(path.c_str()) == 0);
+    shared::ignoreResult(chdir(path.c_str()));
 }
 
 WorkingDirectory::~WorkingDirectory() {
-    if (saved_ != nullptr) static_cast<void>(chdir(saved_) == 0);
+    if (saved_ != nullptr) shared::ignoreResult(chdir(saved_));
 }
 
 }  // namespace brisel

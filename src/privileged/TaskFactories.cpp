@@ -1,6 +1,7 @@
 // Initialisers of privileged tasks, and factories that also run them.
 // SPDX-License-Identifier: MIT
 #include "privileged/KJPrivilegedTask.h"
+#include "shared/IgnoreResult.h"
 
 namespace brisel {
 
@@ -8,7 +9,7 @@ namespace {
 
 std::shared_ptr<KJPrivilegedTask> launched(std::shared_ptr<KJPrivilegedTask> task) {
     // After a failed launch the task is not running, and waitUntilExit logs that.
-    static_cast<void>(task->launch());
+    shared::ignoreResult(task->launch());
     task->waitUntilExit();
     return task;
 }
@@ -68,7 +69,7 @@ KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectoryA
     platform::AuthorizationRef authorization) {
     auto task = initWithLaunchPathArgumentsCurrentDirectory(platform, launchPath, arguments,
                                                             currentDirectory);
-    static_cast<void>(task->launchWithAuthorization(authorization));
+    shared::ignoreResult(task->launchWithAuthorization(authorization));
     task->waitUntilExit();
     return task;
 }

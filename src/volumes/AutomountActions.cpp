@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Menu.h"
 #include "platform/SystemLog.h"
+#include "shared/IgnoreResult.h"
 #include "volumes/DiskEvents.h"
 #include "volumes/NTFSVolumeManager.h"
 #include "volumes/VolumeListHelper.h"
@@ -33,7 +34,7 @@ void NTFSVolumeManager::removeVolumeFromList(const std::shared_ptr<NTFSVolume>& 
     refreshVolumes();
     // The record is already removed; a failure is only logged.
     if (volume->volumePath()) {
-        static_cast<void>(removeEmptyMountFolder(platform_, *volume->volumePath()));
+        shared::ignoreResult(removeEmptyMountFolder(platform_, *volume->volumePath()));
     }
 }
 

@@ -18,7 +18,7 @@ namespace brisel {
 namespace {
 
 using platform::DiskDescription;
-using platform::textOf;
+using platform::orNullText;
 
 constexpr const char* NTFSKind = "ntfs";
 
@@ -55,7 +55,7 @@ std::optional<std::string> uniqueLabel(VolumeRecords& volumes, std::string label
 
 std::shared_ptr<NTFSVolume> makeRecord(DiskDescription description, std::string label,
                                        bool writable) {
-    auto bsdName = textOf(description.mediaBSDName);
+    auto bsdName = orNullText(description.mediaBSDName);
     auto uuid = automountUUID(description);
     auto volume = NTFSVolume::initWithVolume(std::move(description));
     volume->setLabel(std::move(label));
@@ -67,20 +67,20 @@ std::shared_ptr<NTFSVolume> makeRecord(DiskDescription description, std::string 
 
 }  // namespace
 
-void diskAppeared(NTFSVolumeManager& manager, const platform::Disk& disk) {
+void diskAppeared(NTFSVolumeManager& manager, const platform::Disk& disk,
+                  DiskDescription description) {
     const auto& platform = manager.platform();
     platform.systemLog.log("disk %s appeared", disk.bsdName);
 
-    auto description = platform.diskArbitration.copyDescription(disk);
-    const auto kind = textOf(description.volumeKind);
-    const auto name = textOf(description.volumeName);
+    const auto kind = orNullText(description.volumeKind);
+    const auto name = orNullText(description.volumeName);
     const bool writable = platform.fileManager.isWritableFileAtPath(mountedPath(description));
 
     if (!description.volumeMountable.value_or(false)) return;
     if (platform::lowercased(kind).find(NTFSKind) == std::string::npos) return;
     if (kind != NTFSKind) warnOfForeignKind(platform.systemLog, name, kind);
 
-    auto label = uniqueLabel(manager.volumes(), name, textOf(description.mediaBSDName));
+    auto label = uniqueLabel(manager.volumes(), name, orNullText(description.mediaBSDName));
     if (!label) return;
     const auto volume = makeRecord(std::move(description), std::move(*label), writable);
     manager.volumes().push_back(volume);
@@ -92,15 +92,15 @@ void diskAppeared(NTFSVolumeManager& manager, const platform::Disk& disk) {
     }
 }
 
-void diskDisappeared(NTFSVolumeManager& manager, const platform::Disk& disk) {
+void diskDisappeared(NTFSVolumeManager& manager, const platform::Disk& disk,
+                     const DiskDescription& description) {
     const auto& platform = manager.platform();
     platform.systemLog.log("disk %s disappeared", disk.bsdName);
 
-    const auto description = platform.diskArbitration.copyDescription(disk);
     // Deliberately stricter than diskAppeared: the record of a foreign driver's volume stays.
     if (!description.volumeMountable.value_or(false) || description.volumeKind != NTFSKind) return;
 
-    const auto volume = findVolume(manager.volumes(), textOf(description.mediaBSDName));
+    const auto volume = findVolume(manager.volumes(), orNullText(description.mediaBSDName));
     if (!volume) return;
     if (volume->volumePath() && !removeEmptyMountFolder(platform, *volume->volumePath())) return;
     removeVolume(manager.volumes(), *volume);

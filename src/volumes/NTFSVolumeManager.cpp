@@ -22,10 +22,14 @@ NTFSVolumeManager::NTFSVolumeManager(const platform::Platform& platform) : platf
     auto& disks = platform_.diskArbitration;
     // A session that could not be opened is not looked for: it reports nothing and makes no disk.
     disks.createSession();
-    appeared_ = disks.registerDiskAppearedCallback(
-        [this](const platform::Disk& disk) { diskAppeared(*this, disk); });
-    disappeared_ = disks.registerDiskDisappearedCallback(
-        [this](const platform::Disk& disk) { diskDisappeared(*this, disk); });
+    appeared_ =
+        disks.registerDiskAppearedCallback([this](const auto& disk, const auto& description) {
+            diskAppeared(*this, disk, description);
+        });
+    disappeared_ =
+        disks.registerDiskDisappearedCallback([this](const auto& disk, const auto& description) {
+            diskDisappeared(*this, disk, description);
+        });
     disks.scheduleWithRunLoop();
     registerNotificationCategory();
 }

@@ -136,12 +136,12 @@ class Session {
 
     void reportAnything() {
         const auto name = device();
-        diskAppeared(manager(), {.bsdName = name, .reported = description()});
+        diskAppeared(manager(), {.bsdName = name}, description());
     }
 
     void loseAnything() {
         const auto name = device();
-        diskDisappeared(manager(), {.bsdName = name, .reported = description()});
+        diskDisappeared(manager(), {.bsdName = name}, description());
     }
 
     void choose() {

@@ -178,14 +178,15 @@ class Nonsense {
 class Machine {
   public:
     Machine() {
-        appearances_ = arbitration_.registerDiskAppearedCallback([this](const Disk& disk) {
-            // Nothing appears twice, and only what is mountable.
-            must(there_.insert(disk.bsdName).second);
-            must(disk.reported && disk.reported->volumeMountable == true);
-            must(disk.reported->volumeKind && !disk.reported->volumeKind->empty());
-        });
+        appearances_ =
+            arbitration_.registerDiskAppearedCallback([this](const Disk& disk, const auto& is) {
+                // Nothing appears twice, and only what is mountable.
+                must(there_.insert(disk.bsdName).second);
+                must(is.volumeMountable == true);
+                must(is.volumeKind && !is.volumeKind->empty());
+            });
         disappearances_ = arbitration_.registerDiskDisappearedCallback(
-            [this](const Disk& disk) { must(there_.erase(disk.bsdName) == 1); });
+            [this](const Disk& disk, const auto&) { must(there_.erase(disk.bsdName) == 1); });
         arbitration_.createSession();
         arbitration_.scheduleWithRunLoop();
     }
@@ -205,7 +206,7 @@ class Machine {
     }
     void askForMount(const std::string& device) {
         bool told = false;
-        arbitration_.mountWithArguments({.bsdName = device, .reported = std::nullopt}, {"rw"},
+        arbitration_.mountWithArguments({.bsdName = device}, {"rw"},
                                         [&](const Disk& disk, const auto& dissenter) {
                                             must(!told);
                                             told = true;

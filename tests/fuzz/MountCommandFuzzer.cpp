@@ -33,7 +33,7 @@ bool isPlain(std::string_view component) {
            component.find('/') == std::string_view::npos;
 }
 
-void checkRequest(const Request& request, const std::vector<const char*>& arguments) {
+void checkRequest(const MountRequest& request, const std::vector<const char*>& arguments) {
     must(arguments.size() == 5 && std::string_view(arguments[1]) == "-o");
     must(("," + std::string(arguments[2]) + ",").find(",rw,") != std::string::npos);
     must(request.device == arguments[3] && request.mountPoint == arguments[4]);

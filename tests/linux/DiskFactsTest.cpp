@@ -5,6 +5,7 @@
 #include "platform/DiskArbitration.h"
 #include "platform/headless/DiskArbitration.h"
 #include "platform/headless/DiskDescriptions.h"
+#include "platform/headless/DriveUse.h"
 #include "platform/headless/MountInfo.h"
 #include "platform/headless/UDisksErrors.h"
 
@@ -142,6 +143,23 @@ TEST(MountOptions, AreTheArgumentsThatUDisks2Knows) {
     EXPECT_EQ(mountOptions({"rw", "auto", "nobrowse", "noowners", "noatime"}),
               "rw,x-gvfs-hide,noatime");
     EXPECT_EQ(mountOptions({}), "");
+}
+
+TEST(ADevice, MayBeUnpluggedOnceNothingOnItsDriveIsMounted) {
+    const BlockUse volume{.path = "/sdb1", .bsdName = "sdb1", .drive = "/stick"};
+    const BlockUse idle{.path = "/sdb2", .bsdName = "sdb2", .drive = "/stick"};
+    auto sibling = idle;
+    sibling.mounted = true;
+    const BlockUse elsewhere{.path = "/sda1", .drive = "/disk", .mounted = true};
+    const BlockUse content{.path = "/dm0", .backing = "/sdb2", .mounted = true};
+    EXPECT_TRUE(mayBeUnplugged({elsewhere, idle, volume}, "sdb1"));
+    EXPECT_FALSE(mayBeUnplugged({volume, sibling}, "sdb1"));
+    EXPECT_FALSE(mayBeUnplugged({volume, idle, content}, "sdb1"));
+    EXPECT_FALSE(mayBeUnplugged({elsewhere}, "sdb1"));
+    auto internal = volume;
+    internal.system = true;
+    EXPECT_FALSE(mayBeUnplugged({internal}, "sdb1"));
+    EXPECT_TRUE(mayBeUnplugged({{.path = "/loop0", .bsdName = "loop0", .system = true}}, "loop0"));
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include <functional>
 #include <optional>
 
+#include "platform/headless/Bundle.h"
 #include "platform/headless/Installation.h"
 #include "platform/headless/MountInfo.h"
 #include "platform/headless/VolumeProbe.h"
@@ -96,11 +97,24 @@ TEST(TheUsersLanguages, ComeInTheirOrder) {
 }
 
 TEST(TheUsersLanguages, AreTriedUntilThereAreTexts) {
-    common::Bundle bundle;
+    Bundle bundle;
     bundle.setLanguages({"nl", "de", "fr"});
     EXPECT_EQ(bundle.language(), "de");
     bundle.setLanguages({"nl", "C"});
     EXPECT_EQ(bundle.language(), "en");
+}
+
+TEST(TheTexts, NameNoMac) {
+    Bundle bundle;
+    for (const auto& table : common::embeddedTables()) {
+        bundle.setLanguage(table.language);
+        const auto shared = common::StringsTable::parse(table.text);
+        for (const auto& [key, text] : shared->texts()) {
+            EXPECT_THAT(bundle.localizedString(key),
+                        testing::Not(testing::ContainsRegex("Mac|macOS|Finder|访达")))
+                << table.language;
+        }
+    }
 }
 
 TEST(TheTools, LieBesideTheProgramOrInItsLibexec) {

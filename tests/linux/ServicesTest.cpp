@@ -118,9 +118,8 @@ TEST_F(Folders, AreWritableOnlyWhereTheyAre) {
 }
 
 TEST(PrivilegedStart, ReturnsTheOutputAndTheChild) {
-    if (geteuid() != 0) GTEST_SKIP() << "Without root the start goes through polkit.";
-    SystemLog log([](const std::string&) {});
-    Authorization authorization(log);
+    if (geteuid() != 0) GTEST_SKIP() << "Without root the start goes through pkexec.";
+    Authorization authorization;
     ASSERT_TRUE(authorization.offersExecuteWithPrivileges());
     EXPECT_EQ(authorization.copyRights(nullptr, {}, 0), errAuthorizationSuccess);
     std::string option = "-c";

@@ -48,7 +48,7 @@ class SeveralVolumes : public testing::TestWithParam<std::size_t> {
         return "Brisel" + std::to_string(getpid()) + "-" + std::to_string(index);
     }
     [[nodiscard]] static std::string showing(std::size_t index) {
-        return "  show " + label(index) + " in Finder\n";
+        return "  show the folder of " + label(index) + "\n";
     }
     [[nodiscard]] static std::string offering(std::size_t index) {
         return "  re-mount " + label(index) + "\n";

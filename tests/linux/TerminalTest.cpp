@@ -56,6 +56,14 @@ TEST_F(Screen, EscapesControlCharacters) {
     EXPECT_EQ(common::visible("\xc2"), "\xc2");
 }
 
+TEST_F(Screen, EscapesBidirectionalControls) {
+    EXPECT_EQ(common::visible("a\u202a\u202b\u202c\u202d\u202e\u2066\u2067\u2068\u2069z"),
+              "a?????????z");
+    const std::string others = "\u2029\u202f\u2065\u206a\u05d0";
+    EXPECT_EQ(common::visible(others), others);
+    EXPECT_EQ(common::visible("\xe2\x80"), "\xe2\x80");
+}
+
 TEST_F(Screen, ReadsNumbersInRangeOnly) {
     EXPECT_EQ(numberUpTo("2", 2), 2U);
     EXPECT_EQ(numberUpTo("3", 2), std::nullopt);

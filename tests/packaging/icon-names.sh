@@ -1,5 +1,5 @@
 #!/bin/sh
-# Checks that the status images equal those that the program asks for.
+# Checks that the icon theme has the status images that the program asks for, in each size.
 # SPDX-License-Identifier: MIT
 #
 # usage: icon-names.sh ROOT FOLDER
@@ -11,5 +11,9 @@ if [ "$(wc -l <"$work/wanted")" -ne 10 ]; then
     echo "The program does not list ten images."
     exit 1
 fi
-ls "$2" | sed 's/\.svg$//' | sort >"$work/made"
-diff "$work/wanted" "$work/made"
+status=0
+for size in 16x16 scalable; do
+    ls "$2/$size/status" | sed 's/\.svg$//' | sort >"$work/made"
+    diff "$work/wanted" "$work/made" || status=1
+done
+exit $status

@@ -1,11 +1,10 @@
-# Checks of status images in any format: visible on their bars, and distinct in shape.
+# Checks of status images in any format: visible on bars and panels, and distinct in shape.
 # SPDX-License-Identifier: MIT
 import collections
 import itertools
 
 COLOURS = ("grey", "green", "blue", "orange", "red")
-# The lightest and darkest backgrounds of menu bars and panels.
-BARS = {"dark": ((0, 0, 0), (0x36, 0x3B, 0x40)), "light": ((255, 255, 255), (0xE0, 0xE0, 0xE0))}
+BARS = ("dark", "light")
 LEAST_CONTRAST = 3.0
 # Fully covered pixels of a colour at the smallest size.
 LEAST_PIXELS = 6
@@ -57,9 +56,11 @@ def part_seen(picture, background):
 
 
 class StatusIconChecks:
-    """Mixin for test cases with `picture` and `sizes`, smallest first."""
+    """Mixin for test cases with `picture`, `sizes`, smallest first, and `backgrounds`, the colours
+    behind the images for each bar."""
 
     sizes = ()
+    backgrounds = {}
 
     def picture(self, colour, bar, size):
         """The image at `size` pixels: rows of (red, green, blue, alpha)."""
@@ -75,13 +76,14 @@ class StatusIconChecks:
 
     def test_have_colours_that_stand_out_from_their_bars(self):
         for colour, bar in itertools.product(COLOURS, BARS):
-            for shade, background in itertools.product(self.shades(colour, bar), BARS[bar]):
+            for shade, background in itertools.product(self.shades(colour, bar),
+                                                       self.backgrounds[bar]):
                 with self.subTest(colour=colour, bar=bar, shade=shade, background=background):
                     self.assertGreaterEqual(contrast(shade, background), LEAST_CONTRAST)
 
     def test_are_seen_on_their_bars(self):
         for colour, bar, size in itertools.product(COLOURS, BARS, self.sizes):
-            for background in BARS[bar]:
+            for background in self.backgrounds[bar]:
                 with self.subTest(colour=colour, bar=bar, size=size, background=background):
                     picture = self.picture(colour, bar, size)
                     self.assertGreaterEqual(part_seen(picture, background), LEAST_PART_SEEN)

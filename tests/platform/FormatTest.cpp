@@ -8,8 +8,8 @@ namespace brisel::tests {
 namespace {
 
 using platform::lowercased;
+using platform::orNullText;
 using platform::stringWithFormat;
-using platform::textOf;
 
 TEST(Format, ReplacesEachKindOfPlaceholder) {
     EXPECT_EQ(stringWithFormat("%@ %s %i %lu.", "a", std::string("b"), -3, 4UL), "a b -3 4.");
@@ -19,9 +19,9 @@ TEST(Format, ReplacesEachKindOfPlaceholder) {
 TEST(Format, PrintsAMissingValueAsNull) {
     EXPECT_EQ(stringWithFormat("<%@>", std::optional<std::string>()), "<(null)>");
     EXPECT_EQ(stringWithFormat("<%@>", std::optional<platform::FileURL>()), "<(null)>");
-    EXPECT_EQ(textOf(std::nullopt), "(null)");
-    EXPECT_EQ(textOf("Data"), "Data");
-    EXPECT_EQ(textOf(""), "");
+    EXPECT_EQ(orNullText(std::nullopt), "(null)");
+    EXPECT_EQ(orNullText("Data"), "Data");
+    EXPECT_EQ(orNullText(""), "");
 }
 
 TEST(Format, PrintsAURLInFull) {

@@ -132,29 +132,42 @@ TEST(EnglishTable, SaysEachTextAsItsKey) {
         EXPECT_EQ(text, key);
 }
 
-std::vector<fs::path> languageFolders() {
+std::vector<fs::path> languageFoldersIn(const fs::path& resources) {
     std::vector<fs::path> folders;
-    for (const auto& entry : fs::directory_iterator(Sources / "resources")) {
+    for (const auto& entry : fs::directory_iterator(Sources / resources)) {
         if (entry.path().extension() == ".lproj") folders.push_back(entry.path());
     }
     std::sort(folders.begin(), folders.end());
     return folders;
 }
 
-class LanguageTable : public testing::TestWithParam<fs::path> {};
+/// A folder of the shared tables, or of those that Linux lays over them.
+class LanguageTable : public testing::TestWithParam<fs::path> {
+  protected:
+    const Texts texts = tableIn(GetParam());
+    const Texts inEnglish = tableIn(GetParam().parent_path() / "en.lproj");
+};
 
 TEST_P(LanguageTable, HasTheKeysOfTheEnglishOne) {
-    EXPECT_EQ(keysOf(tableIn(GetParam())), keysOf(english()));
+    EXPECT_EQ(keysOf(texts), keysOf(inEnglish));
 }
 
 TEST_P(LanguageTable, KeepsThePlaceholders) {
-    for (const auto& [key, text] : tableIn(GetParam()))
+    for (const auto& [key, text] : texts)
         EXPECT_EQ(placeholdersIn(text), placeholdersIn(key)) << key;
 }
 
 TEST_P(LanguageTable, LeavesNoTextEmpty) {
-    for (const auto& [key, text] : tableIn(GetParam()))
+    for (const auto& [key, text] : texts)
         EXPECT_FALSE(text.empty()) << key;
+}
+
+TEST_P(LanguageTable, LeavesNoTextInEnglish) {
+    if (GetParam().stem() == "en") return;
+    for (const auto& [key, text] : texts) {
+        // "OK" is a word of most of the languages.
+        if (key != "OK") EXPECT_NE(text, inEnglish.at(key));
+    }
 }
 
 std::string languageOf(const testing::TestParamInfo<fs::path>& info) {
@@ -163,7 +176,16 @@ std::string languageOf(const testing::TestParamInfo<fs::path>& info) {
     return name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, LanguageTable, testing::ValuesIn(languageFolders()), languageOf);
+INSTANTIATE_TEST_SUITE_P(Of, LanguageTable, testing::ValuesIn(languageFoldersIn("resources")),
+                         languageOf);
+INSTANTIATE_TEST_SUITE_P(OfLinux, LanguageTable,
+                         testing::ValuesIn(languageFoldersIn("resources/linux")), languageOf);
+
+TEST(LanguageTablesOfLinux, ReplaceTextsInEveryLanguage) {
+    EXPECT_EQ(languageFoldersIn("resources/linux").size(), languageFoldersIn("resources").size());
+    for (const auto& [key, text] : tableIn(Sources / "resources/linux/en.lproj"))
+        EXPECT_TRUE(english().contains(key)) << key;
+}
 
 }  // namespace
 }  // namespace brisel::tests

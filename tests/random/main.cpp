@@ -34,11 +34,11 @@ std::optional<std::vector<unsigned>> numbersIn(std::span<char*> words) {
 int printScenario(unsigned seed, std::size_t steps) {
     using brisel::simulator::Scenario;
     brisel::tests::RandomCommands commands(seed, steps);
-    Scenario::Manner manner;
-    manner.onBadCommand = Scenario::OnBadCommand::GoOn;
-    manner.badCommandHandler = [&](const auto&) { commands.forgetBadCommand(); };
+    Scenario::Options options;
+    options.onBadCommand = Scenario::OnBadCommand::GoOn;
+    options.badCommandHandler = [&](const auto&) { commands.forgetBadCommand(); };
     Scenario scenario(
-        commands, [&](const std::string& line) { commands.hear(line); }, manner);
+        commands, [&](const std::string& line) { commands.hear(line); }, options);
     commands.drive(scenario);
     scenario.run();
     for (const auto& line : commands.given())

@@ -14,6 +14,6 @@ if ! clang-format --version | grep -q 'version 14\.'; then
     echo "Skipped: the format is clang-format 14's, and this is $(clang-format --version)."
     exit 77
 fi
-find src simulator tests benchmarks tools helper \
+find src simulator tests benchmarks tools helper scripts \
     \( -name '*.h' -o -name '*.cpp' -o -name '*.mm' -o -name '*.m' -o -name '*.c' \) 2>/dev/null |
 sort | xargs clang-format --dry-run -Werror

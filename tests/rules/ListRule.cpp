@@ -49,7 +49,7 @@ void ListRule::compare() {
 
 void ListRule::checkThatTheyMightGo(const VolumeRecords& now) const {
     for (const auto& volume : before_) {
-        const auto device = platform::textOf(volume->deviceNode());
+        const auto device = platform::orNullText(volume->deviceNode());
         const bool might = device == appeared_ || device == disappeared_ ||
                            unmounted_.contains(device) || holds(now, volume);
         require(might, "The record of " + device + " has gone without a reason.");
@@ -59,7 +59,7 @@ void ListRule::checkThatTheyMightGo(const VolumeRecords& now) const {
 void ListRule::checkThatTheyMightCome(const VolumeRecords& now, std::size_t kept) const {
     require(now.size() <= kept + 1, "Two records came at once.");
     for (std::size_t index = kept; index < now.size(); ++index) {
-        const auto device = platform::textOf(now[index]->deviceNode());
+        const auto device = platform::orNullText(now[index]->deviceNode());
         require(device == appeared_ || device == mounted_,
                 "A record of " + device + " came without a reason.");
     }
@@ -69,7 +69,7 @@ void DeviceRule::rest(bool /*blocked*/) {
     if (manager() == nullptr) return;
     std::set<std::string> devices;
     for (const auto& volume : manager()->volumes()) {
-        const auto device = platform::textOf(volume->deviceNode());
+        const auto device = platform::orNullText(volume->deviceNode());
         require(devices.insert(device).second, "Two records have the device " + device + ".");
     }
 }

@@ -81,8 +81,9 @@ void MenuRule::checkVolumes() const {
     for (const auto& volume : manager()->volumes()) {
         const bool automatic = listed && volume->uuid() &&
                                std::count(listed->begin(), listed->end(), *volume->uuid()) > 0;
-        require(actionsFor(items, volume) == actionsWanted(*volume, automatic),
-                "The menu offers something else for " + platform::textOf(volume->label()) + ".");
+        require(
+            actionsFor(items, volume) == actionsWanted(*volume, automatic),
+            "The menu offers something else for " + platform::orNullText(volume->label()) + ".");
     }
 }
 

@@ -18,16 +18,16 @@ WatchedScenario::WatchedScenario(simulator::CommandSource& source, Listener list
     : source_(source),
       listener_(std::move(listener)),
       scenario_(
-          *this, [this](const std::string& line) { hear(line); }, manner()),
+          *this, [this](const std::string& line) { hear(line); }, options()),
       rules_(allRules(scenario_.mac(), scenario_.program(), [this](const std::string& sentence) {
           broken_.push_back("line " + std::to_string(line_) + ": " + sentence);
       })) {}
 
-Scenario::Manner WatchedScenario::manner() {
-    Scenario::Manner manner;
-    manner.onBadCommand = Scenario::OnBadCommand::GoOn;
-    manner.badCommandHandler = [this](const Scenario::BadCommand&) { refuse(); };
-    return manner;
+Scenario::Options WatchedScenario::options() {
+    Scenario::Options options;
+    options.onBadCommand = Scenario::OnBadCommand::GoOn;
+    options.badCommandHandler = [this](const Scenario::BadCommand&) { refuse(); };
+    return options;
 }
 
 std::optional<std::string> WatchedScenario::nextLine(const std::string& prompt) {

@@ -32,7 +32,7 @@ class WatchedScenario final : private simulator::CommandSource {
 
   private:
     std::optional<std::string> nextLine(const std::string& prompt) override;
-    [[nodiscard]] simulator::Scenario::Manner manner();
+    [[nodiscard]] simulator::Scenario::Options options();
     void hear(const std::string& line);
     void refuse();
 

@@ -129,7 +129,7 @@ TEST_F(Scenario, PromptsAPersonForWhatIsUp) {
     };
     NotedPrompts source;
     simulator::Scenario(
-        source, [](const auto&) {}, manner)
+        source, [](const auto&) {}, options)
         .run();
     EXPECT_THAT(source.prompts, ElementsAre("brisel> ", "alert> ", "brisel> "));
 }

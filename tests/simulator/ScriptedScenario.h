@@ -15,7 +15,7 @@ namespace brisel::tests {
 
 class ScriptedScenario : public testing::Test {
   protected:
-    simulator::Scenario::Manner manner;
+    simulator::Scenario::Options options;
     std::vector<std::string> lines;
     std::vector<simulator::Scenario::BadCommand> complaints;
     int commandsDone = 0;
@@ -24,16 +24,16 @@ class ScriptedScenario : public testing::Test {
     bool run(const std::string& commands) {
         std::istringstream text(commands);
         simulator::StreamSource source(text);
-        manner.badCommandHandler = [this](const auto& bad) { complaints.push_back(bad); };
-        manner.afterCommand = [this] { ++commandsDone; };
+        options.badCommandHandler = [this](const auto& bad) { complaints.push_back(bad); };
+        options.afterCommand = [this] { ++commandsDone; };
         return simulator::Scenario(
-                   source, [this](const std::string& line) { lines.push_back(line); }, manner)
+                   source, [this](const std::string& line) { lines.push_back(line); }, options)
             .run();
     }
     /// As a terminal does: no echo, and on it goes after a bad command.
     bool runInteractively(const std::string& commands) {
-        manner.onBadCommand = simulator::Scenario::OnBadCommand::GoOn;
-        manner.echo = simulator::Scenario::Echo::Nothing;
+        options.onBadCommand = simulator::Scenario::OnBadCommand::GoOn;
+        options.echo = simulator::Scenario::Echo::Nothing;
         return run(commands);
     }
     /// The line in which the commands stopped, or 0.

@@ -12,6 +12,7 @@ struct Replacements {
     platform::Authorization* authorization = nullptr;
     platform::Bundle* bundle = nullptr;
     platform::DiskArbitration* diskArbitration = nullptr;
+    platform::NotificationCenter* notificationCenter = nullptr;
     platform::StatusItem* statusItem = nullptr;
     platform::UserNotificationCenter* userNotificationCenter = nullptr;
 };
@@ -31,7 +32,7 @@ inline platform::Platform platformWith(const platform::Platform& base,
             .fileManager = base.fileManager,
             .loginItems = base.loginItems,
             .statusMenu = base.statusMenu,
-            .notificationCenter = base.notificationCenter,
+            .notificationCenter = chosen(replacements.notificationCenter, base.notificationCenter),
             .runLoop = base.runLoop,
             .scriptRunner = base.scriptRunner,
             .statusItem = chosen(replacements.statusItem, base.statusItem),

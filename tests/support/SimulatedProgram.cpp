@@ -90,14 +90,14 @@ std::string SimulatedProgram::menuTitles() const {
 std::vector<std::string> SimulatedProgram::labels() {
     std::vector<std::string> texts;
     for (const auto& record : manager().volumes())
-        texts.push_back(platform::textOf(record->label()));
+        texts.push_back(platform::orNullText(record->label()));
     return texts;
 }
 
 std::vector<std::string> SimulatedProgram::devices() {
     std::vector<std::string> texts;
     for (const auto& record : manager().volumes())
-        texts.push_back(platform::textOf(record->deviceNode()));
+        texts.push_back(platform::orNullText(record->deviceNode()));
     return texts;
 }
 

@@ -14,21 +14,21 @@ namespace {
 
 struct NamedKind {
     std::string_view name;
-    EntryKind kind;
+    MenuLineKind kind;
 };
 
-constexpr std::array<NamedKind, 4> Kinds{{{"item", EntryKind::Item},
-                                          {"checked", EntryKind::CheckedItem},
-                                          {"text", EntryKind::Text},
-                                          {"separator", EntryKind::Separator}}};
+constexpr std::array<NamedKind, 4> Kinds{{{"item", MenuLineKind::Item},
+                                          {"checked", MenuLineKind::CheckedItem},
+                                          {"text", MenuLineKind::Text},
+                                          {"separator", MenuLineKind::Separator}}};
 
-bool canBeChosen(EntryKind kind) {
-    return kind == EntryKind::Item || kind == EntryKind::CheckedItem;
+bool canBeChosen(MenuLineKind kind) {
+    return kind == MenuLineKind::Item || kind == MenuLineKind::CheckedItem;
 }
 
 }  // namespace
 
-std::optional<MenuEntry> entryFrom(std::string_view line) {
+std::optional<MenuLine> menuLineFrom(std::string_view line) {
     const auto first = line.find('\t');
     if (first == std::string_view::npos) return std::nullopt;
     const auto second = line.find('\t', first + 1);
@@ -37,17 +37,17 @@ std::optional<MenuEntry> entryFrom(std::string_view line) {
     const auto* kind = std::find_if(Kinds.begin(), Kinds.end(),
                                     [name](const auto& each) { return each.name == name; });
     if (kind == Kinds.end()) return std::nullopt;
-    MenuEntry entry{.id = std::string(line.substr(0, first)),
-                    .kind = kind->kind,
-                    .title = lineOf(line.substr(second + 1))};
+    MenuLine entry{.id = std::string(line.substr(0, first)),
+                   .kind = kind->kind,
+                   .title = sanitizedLine(line.substr(second + 1))};
     if (canBeChosen(entry.kind) && (entry.id.empty() || entry.title.empty())) return std::nullopt;
     return entry;
 }
 
-std::vector<MenuEntry> readEntries(std::istream& lines) {
-    std::vector<MenuEntry> entries;
+std::vector<MenuLine> readMenuLines(std::istream& lines) {
+    std::vector<MenuLine> entries;
     for (std::string line; std::getline(lines, line);) {
-        if (auto entry = entryFrom(line)) entries.push_back(std::move(*entry));
+        if (auto entry = menuLineFrom(line)) entries.push_back(std::move(*entry));
     }
     return entries;
 }

@@ -10,21 +10,21 @@
 
 namespace brisel::dialog {
 
-enum class EntryKind { Item, CheckedItem, Text, Separator };
+enum class MenuLineKind { Item, CheckedItem, Text, Separator };
 
-struct MenuEntry {
+struct MenuLine {
     /// The bytes as given.
     std::string id;
-    EntryKind kind = EntryKind::Item;
-    /// Sanitized by lineOf.
+    MenuLineKind kind = MenuLineKind::Item;
+    /// Sanitized by sanitizedLine.
     std::string title;
 };
 
 /// Parses ID<TAB>KIND<TAB>TITLE, without a newline. nullopt for any other line, and for an item
 /// without ID or title.
-std::optional<MenuEntry> entryFrom(std::string_view line);
+std::optional<MenuLine> menuLineFrom(std::string_view line);
 
 /// Reads entries to end of file; skips malformed lines.
-std::vector<MenuEntry> readEntries(std::istream& lines);
+std::vector<MenuLine> readMenuLines(std::istream& lines);
 
 }  // namespace brisel::dialog

@@ -1,6 +1,7 @@
 // Lines that `brisel-dialog` writes to its parent process.
 // SPDX-License-Identifier: MIT
 #include "tools/dialog/Protocol.h"
+#include "shared/DialogWords.h"
 
 #include <unistd.h>
 
@@ -10,13 +11,12 @@
 
 namespace brisel::dialog {
 
-// Parsed by platform/desktop/DialogProcess.cpp.
 std::string shownLine() {
-    return "shown\n";
+    return shared::ShownWord + std::string("\n");
 }
 
 std::string answerLine(const Answer& answer) {
-    return answer ? "pressed " + *answer + "\n" : "closed\n";
+    return (answer ? shared::PressedWord + *answer : shared::ClosedWord) + "\n";
 }
 
 void tell(const std::string& line) {

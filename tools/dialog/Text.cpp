@@ -41,7 +41,7 @@ gunichar shownAs(gunichar letter) {
 
 }  // namespace
 
-std::string textOf(std::string_view bytes) {
+std::string sanitizedText(std::string_view bytes) {
     const OwnedText valid(g_utf8_make_valid(bytes.data(), static_cast<gssize>(bytes.size())));
     std::string text;
     for (const char* at = valid.get(); *at != '\0'; at = g_utf8_next_char(at)) {
@@ -53,8 +53,8 @@ std::string textOf(std::string_view bytes) {
     return text;
 }
 
-std::string lineOf(std::string_view bytes) {
-    auto line = textOf(bytes);
+std::string sanitizedLine(std::string_view bytes) {
+    auto line = sanitizedText(bytes);
     std::replace(line.begin(), line.end(), '\n', ' ');
     return line;
 }

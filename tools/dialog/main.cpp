@@ -6,7 +6,8 @@
 #include <iostream>
 #include <span>
 
-#include "tools/dialog/Faces.h"
+#include "tools/dialog/DarkStyle.h"
+#include "tools/dialog/Dialogs.h"
 #include "tools/dialog/Widgets.h"
 
 namespace {
@@ -31,7 +32,7 @@ struct Showing {
     Answer operator()(const AlertRequest& request) const { return showAlert(request); }
     Answer operator()(const AboutRequest& /*request*/) const { return showAbout(); }
     Answer operator()(const MenuRequest& request) const {
-        return showMenu(request, readEntries(std::cin));
+        return showMenu(request, readMenuLines(std::cin));
     }
 };
 
@@ -39,7 +40,7 @@ struct Showing {
 
 int main(int argumentCount, char** words) {
     const auto request =
-        requestFrom({words + 1, static_cast<std::size_t>(std::max(argumentCount - 1, 0))});
+        dialogRequestFrom({words + 1, static_cast<std::size_t>(std::max(argumentCount - 1, 0))});
     if (!request) {
         std::cerr << Usage;
         return Misused;
@@ -48,6 +49,7 @@ int main(int argumentCount, char** words) {
         std::cerr << "brisel-dialog: cannot open a display.\n";
         return NoDisplay;
     }
+    const DarkStyle style;
     tell(answerLine(std::visit(Showing{}, *request)));
     return Succeeded;
 }

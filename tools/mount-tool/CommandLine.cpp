@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+#include "shared/MountFolders.h"
+
 namespace brisel::mounttool {
 
 namespace {
@@ -15,7 +17,6 @@ namespace {
 constexpr std::array<std::string_view, 5> KnownOptions{"rw", "auto", "nobrowse", "noowners",
                                                        "noatime"};
 constexpr std::string_view DeviceFolder = "/dev/";
-constexpr std::string_view MountFolder = "/.brisel/";
 
 std::vector<std::string_view> splitAtCommas(std::string_view text) {
     std::vector<std::string_view> words;
@@ -62,13 +63,12 @@ bool isControlCharacter(char character) {
 
 bool isLabel(std::string_view text) {
     return !text.empty() && text.size() <= NAME_MAX && text != "." && text != ".." &&
-           text.find('/') == std::string_view::npos &&
-           std::none_of(text.begin(), text.end(), isControlCharacter);
+           text.find('/') == std::string_view::npos;
 }
 
 }  // namespace
 
-Result<Request> parseCommandLine(int argumentCount, const char* const* arguments) {
+Result<MountRequest> parseCommandLine(int argumentCount, const char* const* arguments) {
     constexpr int Expected = 5;
     if (argumentCount != Expected) return refuse("Usage: mount_ntfs -o OPTIONS DEVICE MOUNTPOINT");
     const std::vector<std::string_view> words(arguments + 1, arguments + argumentCount);
@@ -79,14 +79,16 @@ Result<Request> parseCommandLine(int argumentCount, const char* const* arguments
     if (auto complaint = complaintAboutOptions(words[1])) return *complaint;
     if (!isDevice(words[2])) return refuse("The device must be /dev/NAME.");
     if (!words[3].starts_with('/')) return refuse("The mount point must be an absolute path.");
-    return Request{std::string(words[2]), std::string(words[3])};
+    return MountRequest{std::string(words[2]), std::string(words[3])};
 }
 
 Result<std::string> labelOf(std::string_view mountPoint, std::string_view home) {
-    const bool below =
-        mountPoint.starts_with(home) && mountPoint.substr(home.size()).starts_with(MountFolder);
-    if (!below) return refuse("The mount point must be in .brisel of the requesting user's home.");
-    const auto label = mountPoint.substr(home.size() + MountFolder.size());
+    const auto parent = std::string(home) + "/" + shared::MountFolders + "/";
+    if (!mountPoint.starts_with(parent))
+        return refuse("The mount point must be in .brisel of the requesting user's home.");
+    const auto label = mountPoint.substr(parent.size());
+    if (std::any_of(label.begin(), label.end(), isControlCharacter))
+        return refuse("The label contains control characters: rename the volume, then try again.");
     if (!isLabel(label)) return refuse("The mount point's name is not a valid folder name.");
     return std::string(label);
 }

@@ -62,9 +62,9 @@ std::optional<Ended> runFirst(const Paths& paths, const std::vector<std::string>
     return std::nullopt;
 }
 
-std::string optionsFor(const Person& person) {
-    return "rw,noatime,nosuid,nodev,norecover,windows_names,uid=" + std::to_string(person.uid) +
-           ",gid=" + std::to_string(person.gid) + ",umask=077";
+std::string optionsFor(const Caller& caller) {
+    return "rw,noatime,nosuid,nodev,norecover,windows_names,uid=" + std::to_string(caller.uid) +
+           ",gid=" + std::to_string(caller.gid) + ",umask=077";
 }
 
 }  // namespace
@@ -79,8 +79,8 @@ std::optional<Refusal> probe(const std::string& device) {
 }
 
 std::optional<Refusal> mountWithDriver(const std::string& device, const std::string& folder,
-                                       const Person& person) {
-    const auto ended = runFirst(DriverPaths, {"-o", optionsFor(person), device, folder});
+                                       const Caller& caller) {
+    const auto ended = runFirst(DriverPaths, {"-o", optionsFor(caller), device, folder});
     if (!ended) return refuseByError("The NTFS driver ntfs-3g cannot be started");
     if (ended->status == 0) return std::nullopt;
     return refusalFor(ended->status);

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "tools/mount-tool/Person.h"
+#include "tools/mount-tool/Caller.h"
 #include "tools/mount-tool/Result.h"
 
 namespace brisel::mounttool {
@@ -16,10 +16,10 @@ namespace brisel::mounttool {
 /// if no probe is installed.
 std::optional<Refusal> probe(const std::string& device);
 
-/// Mounts the device read-write on `folder`, accessible to `person` only. Never clears a journal or
+/// Mounts the device read-write on `folder`, accessible to `caller` only. Never clears a journal or
 /// a hibernation file. nullopt means that the driver reports success, which the caller must verify.
 std::optional<Refusal> mountWithDriver(const std::string& device, const std::string& folder,
-                                       const Person& person);
+                                       const Caller& caller);
 
 /// Refusal for a non-zero exit status of ntfs-3g or its probe.
 Refusal refusalFor(int driverStatus);

@@ -10,7 +10,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <string>
 #include <utility>
 
@@ -18,28 +17,6 @@
 #include "tools/mount-tool/MountCalls.h"
 
 namespace brisel::mounttool {
-
-// Accessible to root only. Removed together with its mount, but not with a clone of that. Brisel
-// ignores mounts in folders with this prefix.
-class Mount::StagingFolder {
-  public:
-    StagingFolder() {
-        if (mkdtemp(path_.data()) == nullptr) path_.clear();
-    }
-    StagingFolder(const StagingFolder&) = delete;
-    StagingFolder& operator=(const StagingFolder&) = delete;
-    ~StagingFolder() {
-        if (path_.empty()) return;
-        umount2(path_.c_str(), MNT_DETACH | UMOUNT_NOFOLLOW);
-        rmdir(path_.c_str());
-    }
-
-    /// Empty if it could not be created.
-    [[nodiscard]] const std::string& path() const { return path_; }
-
-  private:
-    std::string path_ = "/run/brisel-XXXXXX";
-};
 
 namespace {
 
@@ -60,7 +37,7 @@ bool canCreateFiles(int root) {
                                  O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                                  S_IRUSR | S_IWUSR));
     // A full volume is still writable: files can be deleted.
-    if (!file.isOpen()) return errno == ENOSPC || errno == EDQUOT;
+    if (!file) return errno == ENOSPC || errno == EDQUOT;
     return unlinkat(root, name.c_str(), 0) == 0;
 }
 
@@ -80,17 +57,13 @@ bool isOf(int root, const NTFSDevice& device) {
 Mount::Mount(std::unique_ptr<StagingFolder> staging, Descriptor tree)
     : staging_(std::move(staging)), tree_(std::move(tree)) {}
 
-Mount::Mount(Mount&&) noexcept = default;
-
-Mount::~Mount() = default;
-
-Result<Mount> Mount::make(const NTFSDevice& device, const Person& person) {
-    auto staging = std::make_unique<StagingFolder>();
-    if (staging->path().empty()) return refuseByError("No folder can be created in /run");
-    if (const auto refusal = mountWithDriver(device.path(), staging->path(), person))
+Result<Mount> Mount::make(const NTFSDevice& device, const Caller& caller) {
+    auto staging = StagingFolder::make();
+    if (!staging) return refuseByError("No folder can be created in /run");
+    if (const auto refusal = mountWithDriver(device.path(), staging->mountPoint(), caller))
         return *refusal;
-    Descriptor tree(cloneMount(staging->path().c_str()));
-    if (!tree.isOpen()) return refuseByMountCall("The mount cannot be cloned");
+    Descriptor tree(cloneMount(staging->mountPoint().c_str()));
+    if (!tree) return refuseByMountCall("The mount cannot be cloned");
     return Mount(std::move(staging), std::move(tree));
 }
 

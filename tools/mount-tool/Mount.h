@@ -5,24 +5,27 @@
 #include <memory>
 #include <optional>
 
-#include "tools/mount-tool/Descriptor.h"
+#include "shared/Descriptor.h"
 #include "tools/mount-tool/MountFolder.h"
 #include "tools/mount-tool/NTFSDevice.h"
 #include "tools/mount-tool/Result.h"
+#include "tools/mount-tool/StagingFolder.h"
 
 namespace brisel::mounttool {
+
+using shared::Descriptor;
 
 class Mount {
   public:
     /// Mounts the device on a private folder below /run. The destructor removes that folder, and
     /// unmounts the volume unless putOn has succeeded.
-    static Result<Mount> make(const NTFSDevice& device, const Person& person);
+    static Result<Mount> make(const NTFSDevice& device, const Caller& caller);
 
-    Mount(Mount&&) noexcept;
+    Mount(Mount&&) noexcept = default;
     Mount& operator=(Mount&&) = delete;
     Mount(const Mount&) = delete;
     Mount& operator=(const Mount&) = delete;
-    ~Mount();
+    ~Mount() = default;
 
     /// Verifies that this is a read-write mount of `device`, without trusting the driver; creates
     /// and removes a file. nullopt if so, else the reason.
@@ -34,8 +37,6 @@ class Mount {
                                                const NTFSDevice& device) const;
 
   private:
-    class StagingFolder;
-
     Mount(std::unique_ptr<StagingFolder> staging, Descriptor tree);
 
     // Kept until the end, so that observers of mountinfo never see the volume unmounted.

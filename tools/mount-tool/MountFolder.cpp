@@ -1,6 +1,7 @@
 // The mount point, an empty folder in the user's HOME/.brisel.
 // SPDX-License-Identifier: MIT
 #include "tools/mount-tool/MountFolder.h"
+#include "shared/MountFolders.h"
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -14,14 +15,14 @@ namespace brisel::mounttool {
 
 namespace {
 
-constexpr const char* MountFolders = ".brisel";
+using shared::MountFolders;
 constexpr int Folder = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 
-Result<Descriptor> owned(Descriptor folder, const Person& person, const std::string& name) {
-    if (!folder.isOpen()) return refuseByError(name + " cannot be opened as a folder");
+Result<Descriptor> owned(Descriptor folder, const Caller& caller, const std::string& name) {
+    if (!folder) return refuseByError(name + " cannot be opened as a folder");
     struct stat facts {};
     if (fstat(folder.number(), &facts) != 0) return refuseByError(name + " cannot be examined");
-    if (facts.st_uid != person.uid) return refuse(name + " belongs to another user.");
+    if (facts.st_uid != caller.uid) return refuse(name + " belongs to another user.");
     return folder;
 }
 
@@ -49,7 +50,7 @@ std::optional<bool> isPlainFolderOf(int parent, int folder) {
 std::optional<bool> isEmpty(int folder) {
     // A second descriptor, because fdopendir takes it over.
     Descriptor list(openat(folder, ".", Folder));
-    if (!list.isOpen()) return std::nullopt;
+    if (!list) return std::nullopt;
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(fdopendir(list.number()), &closedir);
     if (!entries) return std::nullopt;
     // closedir closes it.
@@ -65,14 +66,14 @@ std::optional<bool> isEmpty(int folder) {
 
 }  // namespace
 
-Result<MountFolder> MountFolder::open(const Person& person, const std::string& label) {
-    auto home = owned(Descriptor(::open(person.home.c_str(), Folder)), person, "The home folder");
+Result<MountFolder> MountFolder::open(const Caller& caller, const std::string& label) {
+    auto home = owned(Descriptor(::open(caller.home.c_str(), Folder)), caller, "The home folder");
     if (!home) return home.refusal();
     auto parent = owned(Descriptor(openat(home->number(), MountFolders, Folder | O_NOFOLLOW)),
-                        person, "The folder .brisel");
+                        caller, "The folder .brisel");
     if (!parent) return parent.refusal();
     auto folder = owned(Descriptor(openat(parent->number(), label.c_str(), Folder | O_NOFOLLOW)),
-                        person, "The mount point");
+                        caller, "The mount point");
     if (!folder) return folder.refusal();
     const auto plain = isPlainFolderOf(parent->number(), folder->number());
     if (!plain) return refuseByError("The mount point cannot be examined");
@@ -88,8 +89,7 @@ bool MountFolder::shows(dev_t fileSystem) const {
     const Descriptor parent(openat(home_.number(), MountFolders, Look));
     const Descriptor folder(openat(parent.number(), label_.c_str(), Look));
     struct stat facts {};
-    return parent.isOpen() && folder.isOpen() && fstat(folder.number(), &facts) == 0 &&
-           facts.st_dev == fileSystem;
+    return parent && folder && fstat(folder.number(), &facts) == 0 && facts.st_dev == fileSystem;
 }
 
 }  // namespace brisel::mounttool

@@ -7,18 +7,20 @@
 #include <string>
 #include <utility>
 
-#include "tools/mount-tool/Descriptor.h"
-#include "tools/mount-tool/Person.h"
+#include "shared/Descriptor.h"
+#include "tools/mount-tool/Caller.h"
 #include "tools/mount-tool/Result.h"
 
 namespace brisel::mounttool {
+
+using shared::Descriptor;
 
 /// Holds descriptors, so that later changes of the path do not matter.
 class MountFolder {
   public:
     /// Opens HOME, .brisel and LABEL in turn, and follows no link below HOME. Each must belong to
-    /// `person`. LABEL must be empty, not a mount point, and on .brisel's file system.
-    static Result<MountFolder> open(const Person& person, const std::string& label);
+    /// `caller`. LABEL must be empty, not a mount point, and on .brisel's file system.
+    static Result<MountFolder> open(const Caller& caller, const std::string& label);
 
     [[nodiscard]] int descriptor() const { return folder_.number(); }
     /// True if HOME/.brisel/LABEL is now on the file system with this st_dev.

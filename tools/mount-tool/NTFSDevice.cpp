@@ -41,11 +41,11 @@ std::optional<bool> startsAsNTFS(int device) {
 Result<NTFSDevice> NTFSDevice::open(const std::string& path) {
     // O_PATH first: opening some devices, such as a watchdog or a tape, has side effects.
     const Descriptor look(::open(path.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
-    if (!look.isOpen()) return refuseByError("The device cannot be found");
+    if (!look) return refuseByError("The device cannot be found");
     const auto number = blockDeviceNumber(look.number());
     if (!number) return refuse("The device is not a block device.");
     Descriptor device(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (!device.isOpen()) return refuseByError("The device cannot be opened");
+    if (!device) return refuseByError("The device cannot be opened");
     if (blockDeviceNumber(device.number()) != number)
         return refuse("The device was replaced while it was opened.");
     const auto isNTFS = startsAsNTFS(device.number());

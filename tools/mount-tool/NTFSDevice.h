@@ -7,10 +7,12 @@
 #include <string>
 #include <utility>
 
-#include "tools/mount-tool/Descriptor.h"
+#include "shared/Descriptor.h"
 #include "tools/mount-tool/Result.h"
 
 namespace brisel::mounttool {
+
+using shared::Descriptor;
 
 /// Keeps the device open, so that its number is not reused.
 class NTFSDevice {

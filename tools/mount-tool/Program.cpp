@@ -15,11 +15,13 @@
 #include <string_view>
 #include <utility>
 
-#include "tools/mount-tool/Descriptor.h"
+#include "shared/Descriptor.h"
 
 namespace brisel::mounttool {
 
 namespace {
+
+using shared::Descriptor;
 
 constexpr std::size_t OutputLimit = 65536;
 
@@ -27,7 +29,7 @@ constexpr std::size_t OutputLimit = 65536;
 // it. The seals fix its size.
 Descriptor openOutput() {
     Descriptor output(memfd_create("output", MFD_CLOEXEC | MFD_ALLOW_SEALING));
-    const bool bounded = output.isOpen() && ftruncate(output.number(), OutputLimit) == 0 &&
+    const bool bounded = output && ftruncate(output.number(), OutputLimit) == 0 &&
                          fcntl(output.number(), F_ADD_SEALS, F_SEAL_GROW | F_SEAL_SHRINK) == 0;
     return bounded ? std::move(output) : Descriptor(-1);
 }
@@ -104,7 +106,7 @@ bool isFurtherControl(std::string_view text) {
 
 std::optional<Ended> run(const std::string& path, const std::vector<std::string>& arguments) {
     const auto output = openOutput();
-    if (!output.isOpen()) return std::nullopt;
+    if (!output) return std::nullopt;
     const StartConditions conditions(output.number());
     std::vector<std::string> words{path};
     words.insert(words.end(), arguments.begin(), arguments.end());

@@ -24,7 +24,7 @@ namespace {
 bool takeOptions(std::string_view letters, Arguments& arguments) {
     for (const char letter : letters) {
         if (letter == 'c') {
-            arguments.request = Request::Clear;
+            arguments.action = Action::Clear;
         } else if (letter == 'r') {
             arguments.depth = Depth::EverythingBelow;
         } else {
@@ -41,7 +41,7 @@ Arguments argumentsFrom(std::span<const char* const> words) {
     auto word = words.begin();
     for (; word != words.end(); ++word) {
         const std::string_view option = *word;
-        if (option == "--help") return {.request = Request::ShowUsage, .paths = {}};
+        if (option == "--help") return {.action = Action::ShowUsage, .paths = {}};
         if (option.size() < 2 || option.front() != '-') break;
         if (option == "--") {
             ++word;
@@ -50,7 +50,7 @@ Arguments argumentsFrom(std::span<const char* const> words) {
         if (!takeOptions(option.substr(1), arguments)) return {};
     }
     arguments.paths.assign(word, words.end());
-    if (arguments.paths.empty()) arguments.request = Request::NotUnderstood;
+    if (arguments.paths.empty()) arguments.action = Action::NotUnderstood;
     return arguments;
 }
 

@@ -10,10 +10,10 @@ namespace brisel::xattr {
 
 enum class Depth { ItselfOnly, EverythingBelow };
 
-enum class Request { Clear, ShowUsage, NotUnderstood };
+enum class Action { Clear, ShowUsage, NotUnderstood };
 
 struct Arguments {
-    Request request = Request::NotUnderstood;
+    Action action = Action::NotUnderstood;
     Depth depth = Depth::ItselfOnly;
     std::vector<std::string> paths;
 };

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "tools/xattr/Attributes.h"
 
-#include <sys/xattr.h>
-
 #include <cerrno>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 namespace brisel::xattr {
 
@@ -17,25 +17,31 @@ struct NameList {
     int error = 0;
 };
 
-/// fgetxattr and its like fail on O_PATH descriptors. This path leads to the open file even after a
-/// rename.
-std::string pathOf(const Descriptor& file) {
-    return "/proc/self/fd/" + std::to_string(file.number());
-}
-
-NameList listAttributes(const std::string& path) {
+// Most files have no attributes or few: then one call is enough.
+NameList listAttributes(const Entry& entry) {
+    constexpr std::size_t UsualSize = 256;
+    std::string names(UsualSize, '\0');
     while (true) {
-        const auto size = listxattr(path.c_str(), nullptr, 0);
-        if (size < 0) return {.names = "", .error = errno};
-        std::string names(static_cast<std::size_t>(size), '\0');
-        const auto used = listxattr(path.c_str(), names.data(), names.size());
+        const auto used = entry.listAttributes(names);
         if (used >= 0) {
             names.resize(static_cast<std::size_t>(used));
-            return {.names = names};
+            return {.names = std::move(names)};
         }
-        // The list grew after it was measured.
-        if (errno != ERANGE) return {.names = "", .error = errno};
+        // The list may grow after it is measured.
+        const auto size = errno == ERANGE ? entry.listAttributes({}) : -1;
+        if (size < 0) return {.names = "", .error = errno};
+        names.resize(static_cast<std::size_t>(size));
     }
+}
+
+std::vector<std::string> userAttributesIn(const std::string& names) {
+    std::vector<std::string> found;
+    for (std::size_t start = 0; start < names.size();) {
+        std::string name = names.c_str() + start;
+        start += name.size() + 1;
+        if (name.starts_with("user.")) found.push_back(std::move(name));
+    }
+    return found;
 }
 
 std::string reasonFor(int error) {
@@ -45,16 +51,15 @@ std::string reasonFor(int error) {
 
 }  // namespace
 
-std::optional<std::string> removeUserAttributes(const Descriptor& file) {
-    const auto path = pathOf(file);
-    const auto list = listAttributes(path);
-    if (list.error == ENOTSUP) return std::nullopt;
+std::optional<std::string> removeUserAttributes(const Entry& entry) {
+    const auto list = listAttributes(entry);
+    if (list.error == ENOTSUP || list.error == ENOENT) return std::nullopt;
     if (list.error != 0) return reasonFor(list.error);
+    const auto attributes = userAttributesIn(list.names);
+    if (attributes.empty() || !entry.isOfTree()) return std::nullopt;
     std::optional<std::string> firstReason;
-    for (std::size_t start = 0; start < list.names.size();) {
-        const std::string name = list.names.c_str() + start;
-        start += name.size() + 1;
-        if (!name.starts_with("user.") || removexattr(path.c_str(), name.c_str()) == 0) continue;
+    for (const auto& attribute : attributes) {
+        if (entry.removeAttribute(attribute) == 0) continue;
         // Another process may have removed it.
         if (errno != ENODATA && !firstReason) firstReason = reasonFor(errno);
     }

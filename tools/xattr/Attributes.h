@@ -5,13 +5,13 @@
 #include <optional>
 #include <string>
 
-#include "tools/xattr/Descriptor.h"
+#include "tools/xattr/Entry.h"
 
 namespace brisel::xattr {
 
-/// Removes all `user.` attributes of `file`, which may be opened with O_PATH. Continues after a
-/// failure and returns the reason of the first; nullopt on success, also without attributes or
-/// support for them.
-[[nodiscard]] std::optional<std::string> removeUserAttributes(const Descriptor& file);
+/// Removes all `user.` attributes of `entry`. Continues after a failure and returns the reason of
+/// the first; nullopt on success. Success, too, are no attributes, no support for them, and an
+/// entry that is gone or not of its tree.
+[[nodiscard]] std::optional<std::string> removeUserAttributes(const Entry& entry);
 
 }  // namespace brisel::xattr

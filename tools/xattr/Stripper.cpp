@@ -9,8 +9,9 @@
 #include <sstream>
 #include <system_error>
 
+#include "shared/Descriptor.h"
 #include "tools/xattr/Attributes.h"
-#include "tools/xattr/Descriptor.h"
+#include "tools/xattr/Entry.h"
 #include "tools/xattr/TreeWalk.h"
 
 namespace brisel::xattr {
@@ -38,7 +39,7 @@ bool isControl(const std::string& text, std::size_t index) {
 
 }  // namespace
 
-std::string visible(const std::string& text) {
+std::string escaped(const std::string& text) {
     std::ostringstream shown;
     shown << std::hex << std::setfill('0');
     for (std::size_t index = 0; index < text.size(); ++index) {
@@ -53,22 +54,22 @@ std::string visible(const std::string& text) {
 
 void Stripper::complain(const std::string& path, const std::string& reason) {
     hasFailed_ = true;
-    complaints_ << "xattr: " + visible(path) + ": " + reason + "\n";
+    complaints_ << "xattr: " + escaped(path) + ": " + reason + "\n";
 }
 
 void Stripper::strip(const std::string& path, Depth depth) {
-    const auto stripOne = [this](const Descriptor& file, const std::string& itsPath) {
-        if (const auto reason = removeUserAttributes(file)) complain(itsPath, *reason);
+    const auto stripOne = [this](const Entry& entry, const std::string& itsPath) {
+        if (const auto reason = removeUserAttributes(entry)) complain(itsPath, *reason);
     };
-    Descriptor start(AT_FDCWD, path, O_PATH | O_NOFOLLOW);
+    Descriptor start = openAt(AT_FDCWD, path, O_PATH | O_NOFOLLOW);
     if (!start) {
         complain(path, std::generic_category().message(errno));
     } else if (depth == Depth::EverythingBelow) {
         TreeWalk walk(stripOne,
                       [this](const auto& where, const auto& why) { complain(where, why); });
         walk.run(std::move(start), path);
-    } else if (canHoldUserAttributes(start)) {
-        stripOne(start, path);
+    } else {
+        stripOne(Entry(start), path);
     }
 }
 

@@ -28,6 +28,6 @@ class Stripper {
 };
 
 /// Replaces control characters, C1 controls in UTF-8 included, by escapes such as `\x0a`.
-std::string visible(const std::string& text);
+std::string escaped(const std::string& text);
 
 }  // namespace brisel::xattr

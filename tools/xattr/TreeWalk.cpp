@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "tools/xattr/TreeWalk.h"
 
-#include <dirent.h>
 #include <fcntl.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <memory>
+#include <string_view>
 #include <system_error>
 
 namespace brisel::xattr {
@@ -23,10 +24,10 @@ using OpenDirectory = std::unique_ptr<DIR, CloseFolder>;
 
 /// For readdir(3); null, with errno, on failure.
 OpenDirectory openForReading(const Descriptor& folder) {
-    Descriptor readable(folder.number(), ".", O_RDONLY | O_DIRECTORY);
+    Descriptor readable = openAt(folder.number(), ".", O_RDONLY | O_DIRECTORY);
     OpenDirectory directory(readable ? fdopendir(readable.number()) : nullptr);
     // fdopendir has taken the descriptor over.
-    if (directory) static_cast<void>(readable.release());
+    if (directory) readable.release();
     return directory;
 }
 
@@ -36,8 +37,18 @@ std::optional<struct stat> statusOf(const Descriptor& file) {
     return status;
 }
 
-bool isFileOrFolder(const struct stat& status) {
-    return S_ISREG(status.st_mode) || S_ISDIR(status.st_mode);
+bool isDotOrDotDot(std::string_view name) {
+    return name == "." || name == "..";
+}
+
+bool mayBeFileOrFolder(const dirent& found) {
+    return found.d_type == DT_REG || found.d_type == DT_DIR || found.d_type == DT_UNKNOWN;
+}
+
+bool isFolder(const dirent& found, const Entry& entry) {
+    if (found.d_type != DT_UNKNOWN) return found.d_type == DT_DIR;
+    const auto status = entry.status();
+    return status && S_ISDIR(status->st_mode);
 }
 
 /// True if `error` of an open means that the folder was removed or replaced.
@@ -47,19 +58,24 @@ bool isGone(int error) {
 
 }  // namespace
 
-bool canHoldUserAttributes(const Descriptor& file) {
-    const auto status = statusOf(file);
-    return status && isFileOrFolder(*status);
+Descriptor openAt(int folder, const std::string& name, int flags) {
+    return Descriptor(openat(folder, name.c_str(), flags | O_CLOEXEC));
 }
 
 void TreeWalk::run(Descriptor start, const std::string& path) {
     path_ = path;
     const auto status = statusOf(start);
     if (!status) return complain(path, errno);
-    if (!isFileOrFolder(*status)) return;
     device_ = status->st_dev;
-    visit_(start, path);
-    if (S_ISDIR(status->st_mode)) enter(std::move(start));
+    visit_(Entry(start), path);
+    if (!S_ISDIR(status->st_mode)) return;
+    const Descriptor before = openAt(AT_FDCWD, ".", OpenFolder);
+    walk(std::move(start));
+    if (before && fchdir(before.number()) != 0) complain(".", errno);
+}
+
+void TreeWalk::walk(Descriptor start) {
+    enter(std::move(start));
     while (!levels_.empty()) {
         if (levels_.back().subfolders.empty()) {
             ascend();
@@ -81,26 +97,19 @@ void TreeWalk::enter(Descriptor folder) {
 
 void TreeWalk::visitEntries(const Descriptor& folder, Level& level) {
     const auto directory = openForReading(folder);
-    if (!directory) return complain(path_, errno);
+    if (!directory || fchdir(folder.number()) != 0) return complain(path_, errno);
     errno = 0;
-    while (const auto* entry = readdir(directory.get())) {
-        const std::string name = entry->d_name;
-        if (name != "." && name != "..") visitEntry(folder, name, level);
+    while (const auto* found = readdir(directory.get())) {
+        if (mayBeFileOrFolder(*found) && !isDotOrDotDot(found->d_name)) visitEntry(*found, level);
         errno = 0;
     }
     if (errno != 0) complain(path_, errno);
 }
 
-void TreeWalk::visitEntry(const Descriptor& folder, const std::string& name, Level& level) {
-    const Descriptor entry(folder.number(), name, O_PATH | O_NOFOLLOW);
-    if (!entry) {
-        if (!isGone(errno)) complain(pathOf(name), errno);
-        return;
-    }
-    const auto status = statusIfHere(entry);
-    if (!status || !isFileOrFolder(*status)) return;
-    visit_(entry, pathOf(name));
-    if (S_ISDIR(status->st_mode)) level.subfolders.push_back(name);
+void TreeWalk::visitEntry(const dirent& found, Level& level) {
+    const Entry entry(found.d_name, device_);
+    visit_(entry, pathOf(found.d_name));
+    if (isFolder(found, entry)) level.subfolders.emplace_back(found.d_name);
 }
 
 void TreeWalk::descend() {
@@ -109,7 +118,7 @@ void TreeWalk::descend() {
     level.subfolders.pop_back();
     path_.resize(level.pathLength);
     path_ = pathOf(name);
-    Descriptor folder(current_.number(), name, OpenFolder);
+    Descriptor folder = openAt(current_.number(), name, OpenFolder);
     if (folder) {
         enter(std::move(folder));
     } else if (!isGone(errno)) {
@@ -121,7 +130,7 @@ void TreeWalk::ascend() {
     path_.resize(levels_.back().pathLength);
     levels_.pop_back();
     if (levels_.empty()) return;
-    Descriptor above(current_.number(), "..", OpenFolder);
+    Descriptor above = openAt(current_.number(), "..", OpenFolder);
     const auto status = above ? statusIfHere(above) : std::nullopt;
     if (status && status->st_ino == levels_.back().node) {
         current_ = std::move(above);

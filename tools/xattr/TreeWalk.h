@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <dirent.h>
 #include <sys/stat.h>
 
 #include <functional>
@@ -10,17 +11,25 @@
 #include <utility>
 #include <vector>
 
-#include "tools/xattr/Descriptor.h"
+#include "shared/Descriptor.h"
+#include "tools/xattr/Entry.h"
 
 namespace brisel::xattr {
 
-/// Visits only files and folders, on one file system; nothing else has user attributes. Opens each
-/// folder relative to its parent with O_NOFOLLOW, so that a link put in its place cannot redirect
-/// the walk. Keeps few descriptors open, however deep the tree is.
+using shared::Descriptor;
+
+/// Opens `name` relative to `folder` (or AT_FDCWD) by openat(2), close-on-exec. On failure returns
+/// no descriptor and sets errno.
+[[nodiscard]] Descriptor openAt(int folder, const std::string& name, int flags);
+
+/// Visits files and folders, but nothing else: that has no user attributes. Enters folders on one
+/// file system. Opens each relative to its parent with O_NOFOLLOW, so that a link put in its place
+/// cannot redirect the walk; does not open files, since that takes time. Keeps few descriptors
+/// open, however deep the tree is. Changes the current folder, so one walk a process at a time.
 class TreeWalk {
   public:
-    /// `file` is opened with O_PATH; `path` is for messages.
-    using Visit = std::function<void(const Descriptor& file, const std::string& path)>;
+    /// `entry` may be gone, or something else than a file or folder; `path` is for messages.
+    using Visit = std::function<void(const Entry& entry, const std::string& path)>;
     /// Called for an entry that cannot be opened or read; the walk continues.
     using Complain = std::function<void(const std::string& path, const std::string& reason)>;
 
@@ -28,6 +37,7 @@ class TreeWalk {
         : visit_(std::move(visit)), complain_(std::move(complain)) {}
 
     /// Visits `start`, opened with O_PATH, and everything below it. `path` is its name in messages.
+    /// Returns to the current folder.
     void run(Descriptor start, const std::string& path);
 
   private:
@@ -39,11 +49,12 @@ class TreeWalk {
         std::vector<std::string> subfolders;
     };
 
+    void walk(Descriptor start);
     /// Visits the entries of `folder`, whose path is path_. Makes it the current folder if it has
     /// subfolders.
     void enter(Descriptor folder);
     void visitEntries(const Descriptor& folder, Level& level);
-    void visitEntry(const Descriptor& folder, const std::string& name, Level& level);
+    void visitEntry(const dirent& found, Level& level);
     void descend();
     void ascend();
     void complain(const std::string& path, int error);
@@ -61,8 +72,5 @@ class TreeWalk {
     /// Path of the folder being visited.
     std::string path_;
 };
-
-/// True for a regular file or a folder.
-bool canHoldUserAttributes(const Descriptor& file);
 
 }  // namespace brisel::xattr

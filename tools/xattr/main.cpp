@@ -17,11 +17,11 @@ int main(int argumentCount, char** words) {
     using namespace brisel::xattr;
     const auto arguments =
         argumentsFrom({words + 1, static_cast<std::size_t>(std::max(argumentCount - 1, 0))});
-    if (arguments.request == Request::ShowUsage) {
+    if (arguments.action == Action::ShowUsage) {
         std::cout << Usage;
         return Succeeded;
     }
-    if (arguments.request == Request::NotUnderstood) {
+    if (arguments.action == Action::NotUnderstood) {
         std::cerr << Usage;
         return Misused;
     }

@@ -5,10 +5,10 @@
 #include <ostream>
 #include <string>
 
-#include "platform/common/Bundle.h"
 #include "platform/common/Menu.h"
 #include "platform/common/NotificationCenter.h"
 #include "platform/headless/Authorization.h"
+#include "platform/headless/Bundle.h"
 #include "platform/headless/DiskArbitration.h"
 #include "platform/headless/FileManager.h"
 #include "platform/headless/MainContext.h"
@@ -40,12 +40,12 @@ struct Services {
     platform::terminal::Terminal terminal;
     platform::headless::SystemLog systemLog{
         [this](const std::string& text) { terminal.print("log: " + text); }};
-    platform::common::Bundle bundle;
+    platform::headless::Bundle bundle;
     platform::common::Menu statusMenu;
     platform::common::NotificationCenter notificationCenter;
     platform::terminal::Alert alert{terminal};
     platform::terminal::Application application{terminal, "Brisel " BRISEL_VERSION};
-    platform::headless::Authorization authorization{systemLog, terminationSignals.descriptor()};
+    platform::headless::Authorization authorization{terminationSignals.descriptor()};
     platform::headless::DiskArbitration diskArbitration{systemLog};
     platform::headless::FileManager fileManager;
     platform::terminal::LoginItems loginItems;

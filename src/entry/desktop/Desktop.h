@@ -26,8 +26,17 @@ class Desktop {
 
   private:
     void runFirst();
+    void watchPrompts();
+    void withdrawPromptsSoon();
+    void endPrompts();
+    void announceUnmounted(const NTFSVolume& volume);
 
+    GDBusConnection* bus_;
     Services services_;
+    platform::Subscription menuChanges_;
+    platform::Subscription withdrawal_;
+    platform::Subscription clicksOnPrompts_;
+    platform::Subscription unmounts_;
     std::shared_ptr<AppDelegate> delegate_;
 };
 

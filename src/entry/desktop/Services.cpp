@@ -18,13 +18,15 @@ void printLogEntry(const std::string& text) {
 
 Services::Services(GDBusConnection* bus)
     : systemLog(&printLogEntry),
-      singleInstance(bus),
+      singleInstance(bus, activationToken),
       notifications(bus),
       statusItem({.bus = bus,
                   .log = systemLog,
                   .bundle = bundle,
                   .menu = statusMenu,
-                  .mainThread = mainThread}) {}
+                  .mainThread = mainThread,
+                  .activationToken = activationToken}),
+      workspace(bus, systemLog, activationToken) {}
 
 Services::~Services() = default;
 

@@ -6,9 +6,9 @@
 
 #include <string>
 
-#include "platform/common/Bundle.h"
 #include "platform/common/Menu.h"
 #include "platform/common/NotificationCenter.h"
+#include "platform/desktop/ActivationToken.h"
 #include "platform/desktop/Alert.h"
 #include "platform/desktop/Application.h"
 #include "platform/desktop/LoginItems.h"
@@ -20,6 +20,7 @@
 #include "platform/desktop/UserNotificationCenter.h"
 #include "platform/desktop/Workspace.h"
 #include "platform/headless/Authorization.h"
+#include "platform/headless/Bundle.h"
 #include "platform/headless/DiskArbitration.h"
 #include "platform/headless/FileManager.h"
 #include "platform/headless/Installation.h"
@@ -39,23 +40,25 @@ struct Services {
     Services& operator=(const Services&) = delete;
     ~Services();
 
-    const std::string dialog = platform::headless::toolPath("brisel-dialog");
+    platform::desktop::ActivationToken activationToken;
+    const platform::desktop::DialogProgram dialog{
+        .path = platform::headless::toolPath("brisel-dialog"), .activationToken = activationToken};
     platform::headless::OwnMainLoop mainLoop;
     platform::headless::TerminationSignals terminationSignals;
     platform::headless::SystemLog systemLog;
     platform::desktop::SingleInstance singleInstance;
     platform::desktop::MainThreadQueue mainThread;
     platform::desktop::NotificationServer notifications;
-    platform::common::Bundle bundle;
+    platform::headless::Bundle bundle;
     platform::common::Menu statusMenu;
     platform::common::NotificationCenter notificationCenter;
     platform::desktop::Alert alert{{.log = systemLog,
                                     .mainThread = mainThread,
                                     .notifications = notifications,
-                                    .interruption = terminationSignals.descriptor(),
+                                    .terminationSignals = terminationSignals.descriptor(),
                                     .dialog = dialog}};
     platform::desktop::Application application{systemLog, dialog};
-    platform::headless::Authorization authorization{systemLog, terminationSignals.descriptor()};
+    platform::headless::Authorization authorization{terminationSignals.descriptor()};
     platform::headless::DiskArbitration diskArbitration{systemLog};
     platform::headless::FileManager fileManager;
     platform::desktop::LoginItems loginItems{systemLog};
@@ -65,8 +68,9 @@ struct Services {
     platform::headless::SystemVersion systemVersion;
     platform::headless::UserDefaults userDefaults{systemLog,
                                                   platform::headless::UserDefaults::defaultPath()};
-    platform::desktop::UserNotificationCenter userNotificationCenter{notifications};
-    platform::desktop::Workspace workspace{systemLog};
+    platform::desktop::UserNotificationCenter userNotificationCenter{notifications,
+                                                                     activationToken};
+    platform::desktop::Workspace workspace;
     platform::desktop::MenuWindow menuWindow{statusItem, systemLog, dialog};
 };
 

@@ -16,7 +16,7 @@ MenuBarApplication::MenuBarApplication() {
 }
 
 void MenuBarApplication::connect(NSMenu* statusMenu, NSMenuItem* startAtLogin) {
-    services_.statusMenu.connect(statusMenu, startAtLogin);
+    services_.statusMenu.connect(statusMenu, startAtLogin, services_.bundle);
 }
 
 }  // namespace brisel::macos

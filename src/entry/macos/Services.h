@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/common/NotificationCenter.h"
 #include "platform/macos/Alert.h"
 #include "platform/macos/Application.h"
 #include "platform/macos/Authorization.h"
@@ -11,6 +10,7 @@
 #include "platform/macos/FileManager.h"
 #include "platform/macos/LoginItems.h"
 #include "platform/macos/Menu.h"
+#include "platform/macos/NotificationCenter.h"
 #include "platform/macos/RunLoop.h"
 #include "platform/macos/ScriptRunner.h"
 #include "platform/macos/StatusItem.h"
@@ -23,7 +23,6 @@
 namespace brisel::macos {
 
 struct Services {
-    platform::common::NotificationCenter notificationCenter;
     platform::macos::Alert alert;
     platform::macos::Application application;
     platform::macos::Authorization authorization;
@@ -32,6 +31,7 @@ struct Services {
     platform::macos::FileManager fileManager;
     platform::macos::LoginItems loginItems;
     platform::macos::Menu statusMenu;
+    platform::macos::NotificationCenter notificationCenter;
     platform::macos::RunLoop runLoop;
     platform::macos::ScriptRunner scriptRunner;
     platform::macos::StatusItem statusItem{statusMenu, bundle};

@@ -15,18 +15,22 @@ constexpr std::array<std::string_view, 10> StatusImages{
     "brisel-status-orange-dark", "brisel-status-orange-light", "brisel-status-red-dark",
     "brisel-status-red-light"};
 
-const EmbeddedTable* findTable(std::string_view language) {
-    const auto& tables = embeddedTables();
+const EmbeddedTable* findTable(std::span<const EmbeddedTable> tables, std::string_view language) {
     const auto found = std::find_if(tables.begin(), tables.end(), [language](const auto& table) {
         return table.language == language;
     });
     return found == tables.end() ? nullptr : &*found;
 }
 
+// Empty for null.
+StringsTable textsOf(const EmbeddedTable* table) {
+    return StringsTable::parse(table != nullptr ? table->text : "").value_or(StringsTable());
+}
+
 // Drops trailing subtags until a table matches: pt-BR, then pt. Null if none matches.
 const EmbeddedTable* closestTable(std::string_view code) {
     while (!code.empty()) {
-        if (const auto* const table = findTable(code)) return table;
+        if (const auto* const table = findTable(embeddedTables(), code)) return table;
         const auto hyphen = code.rfind('-');
         code = code.substr(0, hyphen == std::string_view::npos ? 0 : hyphen);
     }
@@ -37,19 +41,20 @@ const EmbeddedTable* firstTable(const std::vector<std::string>& codes) {
     for (const auto& code : codes) {
         if (const auto* const table = closestTable(code)) return table;
     }
-    return findTable("en");
+    return findTable(embeddedTables(), "en");
 }
 
 }  // namespace
 
-Bundle::Bundle() {
+Bundle::Bundle(std::span<const EmbeddedTable> overlay) : overlay_(overlay) {
     setLanguage("en");
 }
 
 void Bundle::setLanguages(const std::vector<std::string>& codes) {
     const auto* const table = firstTable(codes);
     language_ = table != nullptr ? table->language : "";
-    texts_ = StringsTable::parse(table != nullptr ? table->text : "").value_or(StringsTable());
+    texts_ = textsOf(table);
+    texts_.layOver(textsOf(findTable(overlay_, language_)));
 }
 
 std::string Bundle::localizedString(std::string_view key) const {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,8 +23,9 @@ const std::vector<EmbeddedTable>& embeddedTables();
 
 class Bundle : public platform::Bundle {
   public:
-    /// Selects English.
-    Bundle();
+    /// Selects English. The texts of `overlay`, which must outlive the bundle, replace those of the
+    /// embedded table of their language.
+    explicit Bundle(std::span<const EmbeddedTable> overlay = {});
 
     /// Selects a language, such as "de", "pt-BR" or "zh-Hans". Falls back from a variant to its
     /// base language, then to English.
@@ -39,6 +41,7 @@ class Bundle : public platform::Bundle {
     [[nodiscard]] bool hasImage(const std::string& name) const override;
 
   private:
+    std::span<const EmbeddedTable> overlay_;
     std::string language_;
     StringsTable texts_;
 };

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/common/Signal.h"
 #include "platform/Menu.h"
 
 namespace brisel::platform::common {
@@ -21,16 +22,14 @@ class Menu : public platform::Menu {
     /// Replaces the items, as loading a nib does on a Mac.
     void load(std::vector<MenuItem> items);
     [[nodiscard]] const std::deque<MenuItem>& items() const { return items_; }
-    /// Calls `changed` after every change of an item. An empty function ends that.
-    void setChanged(std::function<void()> changed) { changed_ = std::move(changed); }
-
-  private:
-    void tellChanged() const {
-        if (changed_) changed_();
+    /// Calls `changed` after every change of an item.
+    [[nodiscard]] Subscription observeChanges(std::function<void()> changed) {
+        return changed_.subscribe(std::move(changed));
     }
 
+  private:
     std::deque<MenuItem> items_;
-    std::function<void()> changed_;
+    Signal<> changed_;
 };
 
 /// Performs the item's action. The item may leave its menu meanwhile.

@@ -83,4 +83,9 @@ std::string StringsTable::localizedString(std::string_view key) const {
     return found == texts_.end() ? std::string(key) : found->second;
 }
 
+void StringsTable::layOver(const StringsTable& table) {
+    for (const auto& [key, text] : table.texts_)
+        texts_.insert_or_assign(key, text);
+}
+
 }  // namespace brisel::platform::common

@@ -18,6 +18,8 @@ class StringsTable {
 
     /// The value of `key`, or `key` itself if it is missing.
     [[nodiscard]] std::string localizedString(std::string_view key) const;
+    /// Replaces the values of the keys that `table` has.
+    void layOver(const StringsTable& table);
     [[nodiscard]] const std::map<std::string, std::string, std::less<>>& texts() const {
         return texts_;
     }

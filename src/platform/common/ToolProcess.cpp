@@ -8,6 +8,8 @@
 
 #include <array>
 
+#include "shared/Descriptor.h"
+
 namespace brisel::platform::common {
 
 namespace {
@@ -43,16 +45,13 @@ bool makeSockets(std::array<int, 2>& ends) {
 StartedTool startToolProcess(const std::function<void()>& body) {
     std::array<int, 2> ends{};
     if (!makeSockets(ends)) return failure();
-    const auto [ours, theirs] = ends;
+    shared::Descriptor ours(ends[0]);
+    const shared::Descriptor theirs(ends[1]);
     const pid_t child = fork();
-    if (child == 0) runChild(theirs, body);
-    close(theirs);
-    std::FILE* const stream = child > 0 ? fdopen(ours, "r+") : nullptr;
-    if (stream == nullptr) {
-        close(ours);
-        return failure();
-    }
-    fcntl(ours, F_SETOWN, child);
+    if (child == 0) runChild(theirs.number(), body);
+    std::FILE* const stream = child > 0 ? fdopen(ours.number(), "r+") : nullptr;
+    if (stream == nullptr) return failure();
+    fcntl(ours.release(), F_SETOWN, child);
     return {.status = errAuthorizationSuccess, .communicationsPipe = stream};
 }
 

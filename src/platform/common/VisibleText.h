@@ -7,8 +7,8 @@
 
 namespace brisel::platform::common {
 
-/// Replaces ASCII control characters with caret notation (`^[` for escape) and U+0080 to U+009F
-/// with `?`.
+/// Replaces ASCII control characters with caret notation (`^[` for escape), and U+0080 to U+009F
+/// and bidirectional controls with `?`.
 std::string visible(std::string_view text);
 
 }  // namespace brisel::platform::common

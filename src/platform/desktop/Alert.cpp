@@ -39,35 +39,35 @@ int Alert::runModal(const AlertContent& content) {
     const auto buttons = common::buttonsOf(content);
     std::vector<std::string> arguments{"alert", content.messageText, content.informativeText};
     arguments.insert(arguments.end(), buttons.begin(), buttons.end());
-    DialogProcess window(surroundings_.dialog, arguments);
+    DialogProcess window(dependencies_.dialog, arguments);
     const auto waiting = waitFor(window);
     const int pressed = window.pressed().value_or(NothingPressed);
     if (pressed >= 0 && pressed < std::ssize(buttons)) return AlertFirstButtonReturn + pressed;
-    if (waiting == Waiting::Ended && !window.wasShown()) tellOtherwise(content);
+    if (waiting == Waiting::Ended && !window.wasShown()) logAndNotify(content);
     return buttons.size() > 1 ? NothingPressed : AlertFirstButtonReturn;
 }
 
 Alert::Waiting Alert::waitFor(DialogProcess& window) const {
-    const auto latestShown = Clock::now() + surroundings_.patience;
+    const auto latestShown = Clock::now() + dependencies_.patience;
     while (isWaiting(window)) {
         std::array<pollfd, 3> awaited{
             pollfd{.fd = window.descriptor(), .events = POLLIN, .revents = 0},
-            pollfd{.fd = surroundings_.mainThread.descriptor(), .events = POLLIN, .revents = 0},
-            pollfd{.fd = surroundings_.interruption, .events = POLLIN, .revents = 0}};
+            pollfd{.fd = dependencies_.mainThread.descriptor(), .events = POLLIN, .revents = 0},
+            pollfd{.fd = dependencies_.terminationSignals, .events = POLLIN, .revents = 0}};
         const int ready = poll(awaited.data(), awaited.size(), patienceWith(window, latestShown));
         if (ready < 0 && errno == EINTR) continue;
         if (ready <= 0) return Waiting::Ended;
         if (awaited[2].revents != 0) return Waiting::Interrupted;
-        if (awaited[1].revents != 0) surroundings_.mainThread.work();
+        if (awaited[1].revents != 0) dependencies_.mainThread.work();
         if (awaited[0].revents != 0) window.takeIn();
     }
     return Waiting::Ended;
 }
 
-void Alert::tellOtherwise(const AlertContent& content) const {
-    surroundings_.log.log("Cannot show an alert: %@ %@", content.messageText,
+void Alert::logAndNotify(const AlertContent& content) const {
+    dependencies_.log.log("Cannot show an alert: %@ %@", content.messageText,
                           content.informativeText);
-    surroundings_.notifications.showCritical(content.messageText, content.informativeText);
+    dependencies_.notifications.showCritical(content.messageText, content.informativeText);
 }
 
 }  // namespace brisel::platform::desktop

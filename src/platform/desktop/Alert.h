@@ -22,20 +22,19 @@ class Alert final : public platform::Alert {
     /// Generous even for slow machines.
     static constexpr std::chrono::seconds UsualPatience{10};
 
-    /// The references must outlive the alert. Once the descriptor `interruption` is readable,
+    /// The references must outlive the alert. Once the descriptor `terminationSignals` is readable,
     /// alerts end unanswered.
-    struct Surroundings {
+    struct Dependencies {
         platform::SystemLog& log;
         MainThreadQueue& mainThread;
         NotificationServer& notifications;
-        int interruption;
-        /// Path of brisel-dialog.
-        std::string dialog;
+        int terminationSignals;
+        DialogProgram dialog;
         /// How long a window may take to appear.
         std::chrono::milliseconds patience = UsualPatience;
     };
 
-    explicit Alert(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
+    explicit Alert(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
 
     int runModal(const AlertContent& content) override;
 
@@ -44,9 +43,9 @@ class Alert final : public platform::Alert {
 
     /// Waits up to `patience` for the window, then without limit for an answer.
     [[nodiscard]] Waiting waitFor(DialogProcess& window) const;
-    void tellOtherwise(const AlertContent& content) const;
+    void logAndNotify(const AlertContent& content) const;
 
-    Surroundings surroundings_;
+    Dependencies dependencies_;
 };
 
 }  // namespace brisel::platform::desktop

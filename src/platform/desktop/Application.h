@@ -12,8 +12,7 @@ namespace brisel::platform::desktop {
 
 class Application final : public common::Application {
   public:
-    /// `dialog` is the path of brisel-dialog.
-    Application(platform::SystemLog& log, std::string dialog)
+    Application(platform::SystemLog& log, DialogProgram dialog)
         : aboutPanel_(log, std::move(dialog)) {}
 
     void orderFrontStandardAboutPanel() override { aboutPanel_.show({"about"}, {}, {}); }

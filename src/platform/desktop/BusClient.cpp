@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/BusClient.h"
 
+#include <gio/gunixfdlist.h>
+
+#include <algorithm>
+#include <array>
 #include <chrono>
 #include <memory>
 #include <utility>
@@ -25,8 +29,8 @@ struct Call {
 void finishCall(GObject* bus, GAsyncResult* result, gpointer data) {
     const std::unique_ptr<Call> call(static_cast<Call*>(data));
     headless::CallError error;
-    const headless::OwnedVariant answer(
-        g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, error.receive()));
+    const headless::OwnedVariant answer(g_dbus_connection_call_with_unix_fd_list_finish(
+        G_DBUS_CONNECTION(bus), nullptr, result, error.receive()));
     if (g_cancellable_is_cancelled(call->cancellable.get()) != FALSE) return;
     if (call->done) call->done(answer, error);
 }
@@ -69,6 +73,15 @@ headless::OwnedVariant unwrapped(const headless::OwnedVariant& answer) {
 
 }  // namespace
 
+bool isMissing(const headless::CallError& error) {
+    constexpr std::array Codes{G_DBUS_ERROR_SERVICE_UNKNOWN, G_DBUS_ERROR_NAME_HAS_NO_OWNER,
+                               G_DBUS_ERROR_UNKNOWN_OBJECT, G_DBUS_ERROR_UNKNOWN_INTERFACE,
+                               G_DBUS_ERROR_UNKNOWN_METHOD};
+    return std::any_of(Codes.begin(), Codes.end(), [&error](auto code) {
+        return g_error_matches(error.get(), G_DBUS_ERROR, code) != FALSE;
+    });
+}
+
 BusClient::BusClient(GDBusConnection* bus, std::string name, std::string path,
                      std::string interface)
     : bus_(static_cast<GDBusConnection*>(g_object_ref(bus))),
@@ -80,10 +93,11 @@ BusClient::~BusClient() {
     g_cancellable_cancel(cancellable_.get());
 }
 
-void BusClient::call(const char* method, GVariant* arguments, Done done) {
-    g_dbus_connection_call(bus_.get(), name_.c_str(), path_.c_str(), interface_.c_str(), method,
-                           arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
-                           &finishCall, new Call(std::move(done), cancellable_.get()));
+void BusClient::call(const char* method, GVariant* arguments, Done done, GUnixFDList* files) {
+    g_dbus_connection_call_with_unix_fd_list(
+        bus_.get(), name_.c_str(), path_.c_str(), interface_.c_str(), method, arguments, nullptr,
+        G_DBUS_CALL_FLAGS_NONE, -1, files, cancellable_.get(), &finishCall,
+        new Call(std::move(done), cancellable_.get()));
 }
 
 headless::OwnedVariant BusClient::callAndWait(const char* method, GVariant* arguments) {
@@ -98,10 +112,10 @@ void BusClient::readProperty(const char* name, Done done) {
                                                const headless::CallError& error) {
         done(unwrapped(answer), error);
     };
-    g_dbus_connection_call(
+    g_dbus_connection_call_with_unix_fd_list(
         bus_.get(), name_.c_str(), path_.c_str(), "org.freedesktop.DBus.Properties", "Get",
         g_variant_new("(ss)", interface_.c_str(), name), nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
-        cancellable_.get(), &finishCall, new Call(bare, cancellable_.get()));
+        nullptr, cancellable_.get(), &finishCall, new Call(bare, cancellable_.get()));
 }
 
 Subscription BusClient::onSignal(const char* signal, std::function<void(GVariant*)> received) {

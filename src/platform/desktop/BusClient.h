@@ -12,6 +12,9 @@
 
 namespace brisel::platform::desktop {
 
+/// True if a call failed because the service, or this method of it, is not installed.
+bool isMissing(const headless::CallError& error);
+
 /// Single-threaded: callbacks run on the creating thread's default main context. Destroying the
 /// client cancels pending calls; their `done` is not called.
 class BusClient {
@@ -25,8 +28,9 @@ class BusClient {
     BusClient& operator=(const BusClient&) = delete;
     ~BusClient();
 
-    /// Calls a method. `arguments` is a floating tuple or null; `done` may be empty.
-    void call(const char* method, GVariant* arguments, Done done);
+    /// Calls a method. `arguments` is a floating tuple or null, whose handles are indices into
+    /// `files`; `done` may be empty.
+    void call(const char* method, GVariant* arguments, Done done, GUnixFDList* files = nullptr);
     /// Calls a method and blocks up to 5 seconds. Null if the call failed.
     headless::OwnedVariant callAndWait(const char* method, GVariant* arguments);
     /// Reads a property; `answer` is the value without its variant.

@@ -5,14 +5,13 @@
 #include <string_view>
 #include <utility>
 
+#include "shared/SettingsPortal.h"
+
 namespace brisel::platform::desktop {
 
 namespace {
 
-constexpr const char* Namespace = "org.freedesktop.appearance";
-constexpr const char* Key = "color-scheme";
-// 0 is no preference, 2 light (org.freedesktop.portal.Settings).
-constexpr guint32 PreferDark = 1;
+using shared::SettingsPortal;
 
 // The value is in one or two variants, depending on the portal's version and the method.
 headless::OwnedVariant innermost(GVariant* value) {
@@ -27,8 +26,7 @@ headless::OwnedVariant innermost(GVariant* value) {
 
 ColourScheme::ColourScheme(GDBusConnection* bus, std::function<void(Scheme)> changed)
     : changed_(std::move(changed)),
-      portal_(bus, "org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
-              "org.freedesktop.portal.Settings") {
+      portal_(bus, SettingsPortal::Name, SettingsPortal::Path, SettingsPortal::Interface) {
     changes_ = portal_.onSignal("SettingChanged", [this](GVariant* arguments) {
         if (g_variant_is_of_type(arguments, G_VARIANT_TYPE("(ssv)")) == FALSE) return;
         const char* space = nullptr;
@@ -36,7 +34,8 @@ ColourScheme::ColourScheme(GDBusConnection* bus, std::function<void(Scheme)> cha
         GVariant* value = nullptr;
         g_variant_get(arguments, "(&s&sv)", &space, &key, &value);
         const headless::OwnedVariant owned(value);
-        if (std::string_view(space) == Namespace && std::string_view(key) == Key) take(value);
+        if (std::string_view(space) != SettingsPortal::Namespace) return;
+        if (std::string_view(key) == SettingsPortal::ColourSchemeKey) take(value);
     });
     watching_ = portal_.watch([this] { ask(); }, [] {});
     // The first call also activates the portal, if installed.
@@ -44,7 +43,8 @@ ColourScheme::ColourScheme(GDBusConnection* bus, std::function<void(Scheme)> cha
 }
 
 void ColourScheme::ask() {
-    portal_.call("Read", g_variant_new("(ss)", Namespace, Key),
+    portal_.call("Read",
+                 g_variant_new("(ss)", SettingsPortal::Namespace, SettingsPortal::ColourSchemeKey),
                  [this](const auto& answer, const auto& /*error*/) {
                      if (!answer || g_variant_n_children(answer.get()) != 1) return;
                      const headless::OwnedVariant value(g_variant_get_child_value(answer.get(), 0));
@@ -55,7 +55,7 @@ void ColourScheme::ask() {
 void ColourScheme::take(GVariant* value) {
     const auto setting = innermost(value);
     if (g_variant_is_of_type(setting.get(), G_VARIANT_TYPE_UINT32) == FALSE) return;
-    const bool dark = g_variant_get_uint32(setting.get()) == PreferDark;
+    const bool dark = g_variant_get_uint32(setting.get()) == SettingsPortal::PreferDark;
     const auto scheme = dark ? Scheme::Dark : Scheme::Light;
     if (std::exchange(scheme_, scheme) != scheme) changed_(scheme);
 }

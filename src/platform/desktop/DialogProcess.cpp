@@ -14,18 +14,22 @@
 #include <string_view>
 #include <utility>
 
+#include "shared/DialogWords.h"
+
 namespace brisel::platform::desktop {
 
 namespace {
 
-// Written by tools/dialog/Protocol.cpp.
-constexpr std::string_view ShownWord = "shown";
-constexpr std::string_view PressedWord = "pressed ";
+using shared::Descriptor;
 
-// A memfd, not a pipe: writing never blocks.
-int fileWith(const std::string& text) {
-    const int file = memfd_create("brisel-dialog-input", MFD_CLOEXEC);
-    static_cast<void>(pwrite(file, text.data(), text.size(), 0) >= 0);
+constexpr std::string_view ShownWord = shared::ShownWord;
+constexpr std::string_view PressedWord = shared::PressedWord;
+
+// A memfd, not a pipe: writing never blocks. No file if it cannot be written.
+Descriptor fileWith(const std::string& text) {
+    Descriptor file(memfd_create("brisel-dialog-input", MFD_CLOEXEC));
+    const auto written = pwrite(file.number(), text.data(), text.size(), 0);
+    if (written != static_cast<ssize_t>(text.size())) file.reset();
     return file;
 }
 
@@ -34,6 +38,30 @@ std::optional<int> numberIn(std::string_view text) {
     const auto* const end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, number);
     return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
+}
+
+// The program's own environment, but for the token of its launch.
+std::vector<std::string> environmentWith(const std::string& activationToken) {
+    std::vector<std::string> variables;
+    for (char** variable = environ; *variable != nullptr; ++variable)
+        variables.emplace_back(*variable);
+    for (const char* const name : ActivationToken::LaunchVariables) {
+        const auto assignment = std::string(name) + '=';
+        std::erase_if(variables,
+                      [&](const auto& variable) { return variable.starts_with(assignment); });
+        if (!activationToken.empty()) variables.push_back(assignment + activationToken);
+    }
+    return variables;
+}
+
+// Null-terminated.
+std::vector<char*> pointersTo(std::vector<std::string>& texts) {
+    std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
+    for (auto& text : texts)
+        pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    return pointers;
 }
 
 class Streams {
@@ -55,13 +83,13 @@ class Streams {
 
 }  // namespace
 
-DialogProcess::DialogProcess(const std::string& program, const std::vector<std::string>& arguments,
-                             const std::string& input) {
-    std::vector<std::string> words{program};
+DialogProcess::DialogProcess(const DialogProgram& program,
+                             const std::vector<std::string>& arguments, const std::string& input) {
+    std::vector<std::string> words{program.path};
     words.insert(words.end(), arguments.begin(), arguments.end());
-    const int file = fileWith(input);
-    start(std::move(words), file);
-    close(file);
+    auto environment = environmentWith(program.activationToken.take());
+    if (const auto file = fileWith(input))
+        start(std::move(words), std::move(environment), file.number());
     if (child_ == 0) state_ = State::Ended;
 }
 
@@ -69,26 +97,22 @@ DialogProcess::~DialogProcess() {
     end();
 }
 
-void DialogProcess::start(std::vector<std::string> words, int input) {
-    std::vector<char*> vector;
-    vector.reserve(words.size() + 1);
-    for (auto& word : words)
-        vector.push_back(word.data());
-    vector.push_back(nullptr);
+void DialogProcess::start(std::vector<std::string> words, std::vector<std::string> environment,
+                          int input) {
     std::array<int, 2> ends{-1, -1};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return;
-    const Streams streams(input, ends[1]);
-    const int error =
-        posix_spawn(&child_, vector.front(), streams.actions(), nullptr, vector.data(), environ);
-    close(ends[1]);
-    output_ = ends[0];
+    output_ = Descriptor(ends[0]);
+    const Descriptor theirs(ends[1]);
+    const Streams streams(input, theirs.number());
+    const int error = posix_spawn(&child_, words.front().c_str(), streams.actions(), nullptr,
+                                  pointersTo(words).data(), pointersTo(environment).data());
     if (error != 0) end();
 }
 
 void DialogProcess::takeIn() {
     constexpr std::size_t MoreThanALine = 256;
     std::array<char, MoreThanALine> chunk{};
-    const auto count = read(output_, chunk.data(), chunk.size());
+    const auto count = read(output_.number(), chunk.data(), chunk.size());
     if (count <= 0) {
         end();
         return;
@@ -116,8 +140,7 @@ void DialogProcess::end() {
         waitpid(child_, nullptr, 0);
         child_ = 0;
     }
-    if (output_ >= 0) close(output_);
-    output_ = -1;
+    output_.reset();
     if (state_ != State::Pressed) state_ = State::Ended;
 }
 

@@ -8,7 +8,16 @@
 #include <string>
 #include <vector>
 
+#include "platform/desktop/ActivationToken.h"
+#include "shared/Descriptor.h"
+
 namespace brisel::platform::desktop {
+
+/// brisel-dialog: its path, and the token that its next window gets.
+struct DialogProgram {
+    std::string path;
+    ActivationToken& activationToken;
+};
 
 /// Main thread only.
 class DialogProcess {
@@ -16,7 +25,7 @@ class DialogProcess {
     enum class State { Starting, Shown, Pressed, Ended };
 
     /// Starts `program` with `input` on its standard input. On failure the state is Ended.
-    DialogProcess(const std::string& program, const std::vector<std::string>& arguments,
+    DialogProcess(const DialogProgram& program, const std::vector<std::string>& arguments,
                   const std::string& input = {});
     DialogProcess(const DialogProcess&) = delete;
     DialogProcess& operator=(const DialogProcess&) = delete;
@@ -24,7 +33,7 @@ class DialogProcess {
     ~DialogProcess();
 
     /// -1 once ended.
-    [[nodiscard]] int descriptor() const { return output_; }
+    [[nodiscard]] int descriptor() const { return output_.number(); }
     /// Reads output and updates the state. Call when the descriptor is readable.
     void takeIn();
 
@@ -36,12 +45,12 @@ class DialogProcess {
     [[nodiscard]] std::optional<int> pressed() const { return pressed_; }
 
   private:
-    void start(std::vector<std::string> words, int input);
+    void start(std::vector<std::string> words, std::vector<std::string> environment, int input);
     void understand(const std::string& line);
     void end();
 
     pid_t child_ = 0;
-    int output_ = -1;
+    shared::Descriptor output_;
     std::string told_;
     State state_ = State::Starting;
     bool shown_ = false;

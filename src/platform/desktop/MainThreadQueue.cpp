@@ -3,7 +3,6 @@
 #include "platform/desktop/MainThreadQueue.h"
 
 #include <sys/eventfd.h>
-#include <unistd.h>
 
 #include <utility>
 
@@ -13,22 +12,17 @@ namespace brisel::platform::desktop {
 
 MainThreadQueue::MainThreadQueue()
     : event_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
-      reading_(headless::whenReadable(event_, [this] { work(); })) {}
-
-MainThreadQueue::~MainThreadQueue() {
-    reading_.reset();
-    close(event_);
-}
+      reading_(headless::whenReadable(event_.number(), [this] { work(); })) {}
 
 void MainThreadQueue::post(std::function<void()> work) {
     const std::lock_guard lock(mutex_);
     waiting_.push_back(std::move(work));
-    eventfd_write(event_, 1);
+    eventfd_write(event_.number(), 1);
 }
 
 void MainThreadQueue::work() {
     eventfd_t count = 0;
-    eventfd_read(event_, &count);
+    eventfd_read(event_.number(), &count);
     std::vector<std::function<void()>> due;
     {
         const std::lock_guard lock(mutex_);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/Subscription.h"
+#include "shared/Descriptor.h"
 
 namespace brisel::platform::desktop {
 
@@ -16,17 +17,17 @@ class MainThreadQueue {
     MainThreadQueue();
     MainThreadQueue(const MainThreadQueue&) = delete;
     MainThreadQueue& operator=(const MainThreadQueue&) = delete;
-    ~MainThreadQueue();
+    ~MainThreadQueue() = default;
 
     /// Work runs in order; destroying the queue drops the rest. Any thread.
     void post(std::function<void()> work);
     /// Readable while work is pending.
-    [[nodiscard]] int descriptor() const { return event_; }
+    [[nodiscard]] int descriptor() const { return event_.number(); }
     /// Runs the pending work. Main thread.
     void work();
 
   private:
-    int event_;
+    shared::Descriptor event_;
     std::mutex mutex_;
     std::vector<std::function<void()>> waiting_;
     Subscription reading_;

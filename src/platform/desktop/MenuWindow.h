@@ -13,8 +13,7 @@ namespace brisel::platform::desktop {
 /// Main thread only.
 class MenuWindow {
   public:
-    /// `dialog` is the path of brisel-dialog.
-    MenuWindow(StatusItem& statusItem, platform::SystemLog& log, std::string dialog)
+    MenuWindow(StatusItem& statusItem, platform::SystemLog& log, DialogProgram dialog)
         : statusItem_(statusItem), window_(log, std::move(dialog)) {}
 
     /// Shows the current menu; replaces an open window.

@@ -27,7 +27,7 @@ void ModelessWindow::takeIn() {
 
 void ModelessWindow::end() {
     const auto number = window_->pressed();
-    if (!number && !window_->wasShown()) log_.log("%@ could not show a window.", program_);
+    if (!number && !window_->wasShown()) log_.log("%@ could not show a window.", program_.path);
     reading_.reset();
     window_.reset();
     const auto pressed = std::exchange(pressed_, nullptr);

@@ -17,8 +17,7 @@ namespace brisel::platform::desktop {
 /// Main thread only.
 class ModelessWindow {
   public:
-    /// `program` is the path of brisel-dialog.
-    ModelessWindow(platform::SystemLog& log, std::string program)
+    ModelessWindow(platform::SystemLog& log, DialogProgram program)
         : log_(log), program_(std::move(program)) {}
 
     using Pressed = std::function<void(int number)>;
@@ -32,7 +31,7 @@ class ModelessWindow {
     void end();
 
     platform::SystemLog& log_;
-    std::string program_;
+    DialogProgram program_;
     std::unique_ptr<DialogProcess> window_;
     Subscription reading_;
     Pressed pressed_;

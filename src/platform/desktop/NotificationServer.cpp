@@ -13,18 +13,22 @@ namespace {
 
 constexpr const char* Name = "org.freedesktop.Notifications";
 constexpr const char* Path = "/org/freedesktop/Notifications";
-constexpr const char* ProgramName = "Brisel";
+constexpr const char* ApplicationName = "Brisel";
 constexpr const char* DesktopEntry = "org.brisel.Brisel";
-constexpr gint32 ServersOwnTime = -1;
+
+// The server of LXQt draws a button for the default action.
+constexpr const char* ServerWithDefaultButton = "lxqt-notificationd";
 
 void addHint(GVariantBuilder& hints, const char* name, GVariant* value) {
     g_variant_builder_add(&hints, "{sv}", name, value);
 }
 
-GVariant* actionList(const std::vector<std::pair<std::string, std::string>>& actions) {
+GVariant* actionList(const std::vector<std::pair<std::string, std::string>>& actions,
+                     const std::string& server) {
     GVariantBuilder list;
     g_variant_builder_init(&list, G_VARIANT_TYPE("as"));
     for (const auto& [key, label] : actions) {
+        if (key == "default" && server == ServerWithDefaultButton) continue;
         g_variant_builder_add(&list, "s", key.c_str());
         g_variant_builder_add(&list, "s", busText(label).c_str());
     }
@@ -55,6 +59,19 @@ NotificationServer::NotificationServer(GDBusConnection* bus) : server_(bus, Name
     watching_ = server_.watch([] {}, [this] { capabilities_.reset(); });
 }
 
+void NotificationServer::askForName(std::function<void()> known) {
+    server_.call("GetServerInformation", nullptr,
+                 [this, known = std::move(known)](const auto& answer, const auto& /*error*/) {
+                     name_.clear();
+                     if (answer && g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(ssss)"))) {
+                         const char* name = nullptr;
+                         g_variant_get_child(answer.get(), 0, "&s", &name);
+                         name_ = name;
+                     }
+                     known();
+                 });
+}
+
 void NotificationServer::askForCapabilities(std::function<void()> known) {
     server_.call("GetCapabilities", nullptr,
                  [this, known = std::move(known)](const auto& answer, const auto& /*error*/) {
@@ -68,6 +85,7 @@ GVariant* NotificationServer::hintsFor(const Notification& notification) const {
     g_variant_builder_init(&hints, G_VARIANT_TYPE_VARDICT);
     addHint(hints, "urgency", g_variant_new_byte(static_cast<guchar>(notification.urgency)));
     addHint(hints, "desktop-entry", g_variant_new_string(DesktopEntry));
+    if (notification.lifetime.count() > 0) addHint(hints, "transient", g_variant_new_boolean(TRUE));
     if (!notification.soundName.empty() && can("sound")) {
         addHint(hints, "sound-name", g_variant_new_string(notification.soundName.c_str()));
     }
@@ -76,10 +94,11 @@ GVariant* NotificationServer::hintsFor(const Notification& notification) const {
 
 GVariant* NotificationServer::argumentsFor(const Notification& notification) const {
     const auto body = busText(notification.body);
-    return g_variant_new("(susss@as@a{sv}i)", ProgramName, notification.replaces,
+    return g_variant_new("(susss@as@a{sv}i)", ApplicationName, notification.replaces,
                          headless::applicationIcon().c_str(), busText(notification.summary).c_str(),
                          (can("body-markup") ? escaped(body) : body).c_str(),
-                         actionList(notification.actions), hintsFor(notification), ServersOwnTime);
+                         actionList(notification.actions, name_), hintsFor(notification),
+                         static_cast<gint32>(notification.lifetime.count()));
 }
 
 void NotificationServer::show(const Notification& notification, Shown shown) {
@@ -87,8 +106,9 @@ void NotificationServer::show(const Notification& notification, Shown shown) {
         notify(notification, std::move(shown));
         return;
     }
-    askForCapabilities(
-        [this, notification, shown = std::move(shown)] { notify(notification, shown); });
+    askForName([this, notification, shown = std::move(shown)] {
+        askForCapabilities([this, notification, shown] { notify(notification, shown); });
+    });
 }
 
 void NotificationServer::notify(const Notification& notification, Shown shown) {
@@ -116,14 +136,27 @@ void NotificationServer::showCritical(const std::string& summary, const std::str
     server_.callAndWait("Notify", argumentsFor(notification));
 }
 
-Subscription NotificationServer::onActionInvoked(ActionInvoked invoked) {
-    return server_.onSignal("ActionInvoked", [invoked = std::move(invoked)](GVariant* arguments) {
+void NotificationServer::withdraw(std::uint32_t number) {
+    server_.call("CloseNotification", g_variant_new("(u)", number), {});
+}
+
+Subscription NotificationServer::onNumberAndText(
+    const char* signal, std::function<void(std::uint32_t, const std::string&)> received) {
+    return server_.onSignal(signal, [received = std::move(received)](GVariant* arguments) {
         if (g_variant_is_of_type(arguments, G_VARIANT_TYPE("(us)")) == FALSE) return;
         std::uint32_t number = 0;
-        const char* key = nullptr;
-        g_variant_get(arguments, "(u&s)", &number, &key);
-        invoked(number, key);
+        const char* text = nullptr;
+        g_variant_get(arguments, "(u&s)", &number, &text);
+        received(number, text);
     });
+}
+
+Subscription NotificationServer::onActionInvoked(ActionInvoked invoked) {
+    return onNumberAndText("ActionInvoked", std::move(invoked));
+}
+
+Subscription NotificationServer::onActivationToken(TokenGiven given) {
+    return onNumberAndText("ActivationToken", std::move(given));
 }
 
 Subscription NotificationServer::onClosed(Closed closed) {

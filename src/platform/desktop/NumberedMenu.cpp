@@ -3,7 +3,7 @@
 #include "platform/desktop/NumberedMenu.h"
 
 #include <algorithm>
-#include <map>
+#include <iterator>
 #include <tuple>
 #include <utility>
 
@@ -26,22 +26,39 @@ MenuEntry::Kind kindOf(const MenuItem& item) {
 
 }  // namespace
 
+// From the bottom up, because the program inserts at the top. A separator has no identity of its
+// own: it is the earlier one if the item below is.
+std::vector<int> NumberedMenu::keptNumbers(const std::deque<MenuItem>& items) const {
+    std::vector<int> numbers(items.size(), NewItem);
+    auto earlier = items_.rbegin();
+    for (auto at = items.size(); at-- > 0;) {
+        const auto& item = items[at];
+        const auto end =
+            item.separator && earlier != items_.rend() ? std::next(earlier) : items_.rend();
+        const auto known = std::find_if(earlier, end, [&item](const auto& numbered) {
+            return identityOf(numbered.item) == identityOf(item);
+        });
+        if (known == end) continue;
+        numbers[at] = known->number;
+        earlier = std::next(known);
+    }
+    return numbers;
+}
+
 std::vector<MenuEntry> NumberedMenu::update(const std::deque<MenuItem>& items) {
-    std::multimap<Identity, int> before;
-    for (const auto& [number, item] : items_)
-        before.emplace(identityOf(item), number);
-    std::vector<Numbered> now;
+    const auto kept = keptNumbers(items);
+    items_.clear();
     std::vector<MenuEntry> entries;
-    for (const auto& item : items) {
-        auto known = before.extract(identityOf(item));
-        const int number = known.empty() ? ++lastNumber_ : known.mapped();
-        now.push_back({.number = number, .item = item});
+    for (std::size_t at = 0; at < items.size(); ++at) {
+        const auto& item = items[at];
+        const int number = kept[at] == NewItem ? ++lastNumber_ : kept[at];
+        items_.push_back({.number = number, .item = item});
         entries.push_back({.number = number,
                            .kind = kindOf(item),
                            .title = busText(item.title),
+                           .checkable = item.checkable,
                            .checked = item.checked});
     }
-    items_ = std::move(now);
     return entries;
 }
 

@@ -6,6 +6,7 @@
 
 #include <functional>
 
+#include "platform/desktop/ActivationToken.h"
 #include "platform/headless/GLibOwners.h"
 #include "platform/SystemLog.h"
 
@@ -17,8 +18,9 @@ class SingleInstance {
   public:
     enum class Place { First, Second, Unknown };
 
-    /// Requests the name. `bus` must outlive this object.
-    explicit SingleInstance(GDBusConnection* bus);
+    /// Requests the name. `bus` and `activationToken` must outlive this object. Each launch gives
+    /// the first instance its token.
+    SingleInstance(GDBusConnection* bus, ActivationToken& activationToken);
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
     ~SingleInstance();
@@ -34,9 +36,10 @@ class SingleInstance {
 
   private:
     [[nodiscard]] guint exportObject();
-    void noteStart();
+    void noteStart(GVariant* arguments);
 
     GDBusConnection* bus_;
+    ActivationToken& activationToken_;
     std::function<void()> activated_;
     bool startedMeanwhile_ = false;
     guint object_;

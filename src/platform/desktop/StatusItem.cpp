@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/StatusItem.h"
 
+#include <chrono>
 #include <utility>
 
 #include "platform/common/StatusWords.h"
@@ -11,37 +12,55 @@
 
 namespace brisel::platform::desktop {
 
-/// What lives on the tray's thread.
-struct StatusItem::Tray {
-    Tray(const Surroundings& surroundings, TrayMenu::Chosen chosen,
-         const std::function<void(ColourScheme::Scheme)>& changed)
-        : menu(std::move(chosen)),
-          icon(surroundings.bus, surroundings.log, TrayMenu::ObjectPath),
-          colourScheme(surroundings.bus, changed) {}
+// Longer than a host takes to open the menu after a click.
+constexpr std::chrono::milliseconds TimeToOpen{500};
 
+/// Lives on the tray's thread.
+struct StatusItem::Tray {
+    explicit Tray(StatusItem& statusItem)
+        : item(statusItem),
+          menu(
+              [this](int number) {
+                  item.onMainThread([&item = item, number] { item.choose(number); });
+              },
+              [this] { missingMenu.reset(); }),
+          icon({.bus = item.dependencies_.bus,
+                .log = item.dependencies_.log,
+                .activationToken = item.dependencies_.activationToken,
+                .menuPath = TrayMenu::ObjectPath,
+                .clicked = [this] { expectMenu(); }}),
+          colourScheme(item.dependencies_.bus, [this](auto scheme) { item.noteScheme(scheme); }) {}
+
+    // LXQt 1.2 and MATE 1.26 do nothing when Activate fails.
+    void expectMenu() {
+        missingMenu = headless::RunLoop().scheduledTimer(TimeToOpen, [this] {
+            const auto once = std::move(missingMenu);
+            item.onMainThread([&item = item] { item.showWindow_(); });
+        });
+    }
+
+    StatusItem& item;
+    Subscription missingMenu;
     TrayMenu menu;
     TrayIcon icon;
     ColourScheme colourScheme;
 };
 
-StatusItem::StatusItem(const Surroundings& surroundings) : surroundings_(surroundings) {
-    surroundings_.menu.setChanged([this] { showMenuSoon(); });
+StatusItem::StatusItem(const Dependencies& dependencies) : dependencies_(dependencies) {
+    menuChanges_ = dependencies_.menu.observeChanges([this] { showMenuSoon(); });
 }
 
 StatusItem::~StatusItem() {
-    surroundings_.menu.setChanged({});
     trayThread_.post([this] { tray_.reset(); });
 }
 
 StatusItem::Tray& StatusItem::tray() {
-    if (!tray_) {
-        const auto chosen = [this](int number) {
-            headless::handTo(mainContext_, ifAlive([this, number] { choose(number); }));
-        };
-        tray_ = std::make_unique<Tray>(surroundings_, chosen,
-                                       [this](auto scheme) { noteScheme(scheme); });
-    }
+    if (!tray_) tray_ = std::make_unique<Tray>(*this);
     return *tray_;
+}
+
+void StatusItem::onMainThread(std::function<void()> work) const {
+    headless::handTo(mainContext_, ifAlive(std::move(work)));
 }
 
 std::function<void()> StatusItem::ifAlive(std::function<void()> work) const {
@@ -51,10 +70,12 @@ std::function<void()> StatusItem::ifAlive(std::function<void()> work) const {
 }
 
 void StatusItem::setImage(const std::optional<std::string>& name) {
+    // The core sets the image after each refresh of the menu, and may then block the main loop,
+    // where showMenuSoon would show it.
     showMenu();
     const auto key = common::statusWords(name.value_or(""));
     TrayLook look{.iconName = name.value_or(""),
-                  .words = surroundings_.bundle.localizedString(key)};
+                  .words = dependencies_.bundle.localizedString(key)};
     trayThread_.post([this, look = std::move(look)] { tray().icon.show(look); });
 }
 
@@ -68,7 +89,7 @@ Subscription StatusItem::observeEffectiveAppearance(std::function<void()> change
 
 void StatusItem::noteScheme(ColourScheme::Scheme scheme) {
     dark_ = scheme == ColourScheme::Scheme::Dark;
-    surroundings_.mainThread.post(ifAlive([this] { appearanceChanged_(); }));
+    dependencies_.mainThread.post(ifAlive([this] { appearanceChanged_(); }));
 }
 
 void StatusItem::showMenuSoon() {
@@ -79,7 +100,7 @@ void StatusItem::showMenuSoon() {
 void StatusItem::showMenu() {
     if (!std::exchange(menuChanged_, false)) return;
     pending_.reset();
-    auto entries = numbered_.update(surroundings_.menu.items());
+    auto entries = numbered_.update(dependencies_.menu.items());
     if (entries == entries_) return;
     entries_ = std::move(entries);
     trayThread_.post([this, shown = entries_] { tray().menu.show(shown); });

@@ -14,6 +14,8 @@ namespace brisel::platform::desktop {
 
 namespace {
 
+using std::chrono::milliseconds;
+
 constexpr const char* ItemInterface = "org.kde.StatusNotifierItem";
 constexpr const char* WatcherName = "org.kde.StatusNotifierWatcher";
 constexpr const char* WatcherPath = "/StatusNotifierWatcher";
@@ -34,19 +36,17 @@ constexpr const char* Introspection = R"(
   <property name='ItemIsMenu' type='b' access='read'/>
   <property name='Menu' type='o' access='read'/>
   <method name='Activate'><arg type='i' direction='in'/><arg type='i' direction='in'/></method>
-  <method name='SecondaryActivate'><arg type='i' direction='in'/><arg type='i' direction='in'/></method>
   <method name='ContextMenu'><arg type='i' direction='in'/><arg type='i' direction='in'/></method>
-  <method name='Scroll'><arg type='i' direction='in'/><arg type='s' direction='in'/></method>
+  <method name='ProvideXdgActivationToken'><arg type='s' direction='in'/></method>
   <signal name='NewTitle'/>
   <signal name='NewIcon'/>
   <signal name='NewToolTip'/>
 </interface></node>)";
 
-// Clicks need no action: the host shows the menu (ItemIsMenu).
 void answerMethod(GDBusConnection* /*bus*/, const gchar* /*sender*/, const gchar* /*path*/,
-                  const gchar* /*interface*/, const gchar* /*method*/, GVariant* /*arguments*/,
-                  GDBusMethodInvocation* invocation, gpointer /*icon*/) {
-    g_dbus_method_invocation_return_value(invocation, nullptr);
+                  const gchar* /*interface*/, const gchar* method, GVariant* /*arguments*/,
+                  GDBusMethodInvocation* invocation, gpointer icon) {
+    static_cast<TrayIcon*>(icon)->answer(method, invocation);
 }
 
 GVariant* answerProperty(GDBusConnection* /*bus*/, const gchar* /*sender*/, const gchar* /*path*/,
@@ -61,20 +61,16 @@ GVariant* text(const std::string& value) {
 
 }  // namespace
 
-TrayIcon::TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string menuPath,
-                   std::chrono::milliseconds patience)
-    : bus_(static_cast<GDBusConnection*>(g_object_ref(bus))),
-      log_(log),
-      menuPath_(std::move(menuPath)),
+TrayIcon::TrayIcon(Dependencies dependencies, milliseconds patience)
+    : dependencies_(std::move(dependencies)),
+      bus_(static_cast<GDBusConnection*>(g_object_ref(dependencies_.bus))),
       themePath_(headless::iconThemePath()),
       busName_("org.kde.StatusNotifierItem-" + std::to_string(getpid()) + "-1"),
       object_(exportObject()),
-      ownName_(g_bus_own_name_on_connection(bus, busName_.c_str(), G_BUS_NAME_OWNER_FLAGS_NONE,
-                                            nullptr, nullptr, nullptr, nullptr)),
-      watcher_(bus, WatcherName, WatcherPath, WatcherName) {
-    watching_ = watcher_.watch([this] { registerWithWatcher(); }, [] {});
-    hostComing_ = watcher_.onSignal("StatusNotifierHostRegistered",
-                                    [this](auto* /*arguments*/) { registerWithWatcher(); });
+      ownName_(g_bus_own_name_on_connection(bus_.get(), busName_.c_str(),
+                                            G_BUS_NAME_OWNER_FLAGS_NONE, &TrayIcon::noteName,
+                                            nullptr, this, nullptr)),
+      watcher_(bus_.get(), WatcherName, WatcherPath, WatcherName) {
     waitForHost(patience);
 }
 
@@ -90,8 +86,36 @@ guint TrayIcon::exportObject() {
     const auto object = g_dbus_connection_register_object(bus_.get(), ObjectPath, *node->interfaces,
                                                           &Answers, this, nullptr, error.receive());
     g_dbus_node_info_unref(node);
-    if (error) log_.log("Cannot export the tray icon on the session bus: %@", error.message());
+    if (error) {
+        dependencies_.log.log("Cannot export the tray icon on the session bus: %@",
+                              error.message());
+    }
     return object;
+}
+
+// Hosts look at an item as soon as it registers.
+void TrayIcon::noteName(GDBusConnection* /*bus*/, const gchar* /*name*/, gpointer icon) {
+    static_cast<TrayIcon*>(icon)->watchForHosts();
+}
+
+void TrayIcon::watchForHosts() {
+    watching_ = watcher_.watch([this] { registerWithWatcher(); }, [] {});
+    hostComing_ = watcher_.onSignal("StatusNotifierHostRegistered",
+                                    [this](auto* /*arguments*/) { registerSoon(); });
+}
+
+// Plasma calls Activate in spite of ItemIsMenu, and opens the menu only if that fails.
+void TrayIcon::answer(const std::string& method, GDBusMethodInvocation* invocation) {
+    if (method == "ProvideXdgActivationToken") {
+        const char* token = nullptr;
+        g_variant_get(g_dbus_method_invocation_get_parameters(invocation), "(&s)", &token);
+        dependencies_.activationToken.set(token);
+        g_dbus_method_invocation_return_value(invocation, nullptr);
+        return;
+    }
+    g_dbus_method_invocation_return_error_literal(
+        invocation, G_DBUS_ERROR, G_DBUS_ERROR_UNKNOWN_METHOD, "The item is a menu.");
+    dependencies_.clicked();
 }
 
 void TrayIcon::show(TrayLook look) {
@@ -126,26 +150,38 @@ GVariant* TrayIcon::property(const std::string& name) const {
         Property{"IconAccessibleDesc", [this] { return text(look_.words); }},
         Property{"ToolTip", [this] { return toolTip(); }},
         Property{"ItemIsMenu", [] { return g_variant_new_boolean(TRUE); }},
-        Property{"Menu", [this] { return g_variant_new_object_path(menuPath_.c_str()); }}};
+        Property{"Menu",
+                 [this] { return g_variant_new_object_path(dependencies_.menuPath.c_str()); }}};
     for (const auto& [known, value] : properties) {
         if (known == name) return value();
     }
     return nullptr;
 }
 
-// Safe to repeat: the watcher ignores a registered name.
+void TrayIcon::registerSoon() {
+    constexpr milliseconds Pause{100};
+    registration_ = headless::RunLoop().scheduledTimer(Pause, [this] {
+        const auto once = std::move(registration_);
+        registerWithWatcher();
+    });
+}
+
+// Safe to repeat: the watcher ignores a registered name. By its unique name, because GNOME's
+// extension asks again for the owner of any other name, and drops the item if that answer comes
+// late.
 void TrayIcon::registerWithWatcher() {
-    watcher_.call("RegisterStatusNotifierItem", g_variant_new("(s)", busName_.c_str()), {});
+    watcher_.call("RegisterStatusNotifierItem",
+                  g_variant_new("(s)", g_dbus_connection_get_unique_name(bus_.get())), {});
     watcher_.readProperty("IsStatusNotifierHostRegistered", [this](const auto& there, const auto&) {
         const bool isBoolean = there && g_variant_is_of_type(there.get(), G_VARIANT_TYPE_BOOLEAN);
         if (isBoolean && g_variant_get_boolean(there.get()) != FALSE) patience_.reset();
     });
 }
 
-void TrayIcon::waitForHost(std::chrono::milliseconds patience) {
+void TrayIcon::waitForHost(milliseconds patience) {
     patience_ = headless::RunLoop().scheduledTimer(patience, [this] {
         const auto once = std::move(patience_);
-        log_.log(
+        dependencies_.log.log(
             "This desktop has no tray for status icons. Prompts still work; start Brisel again to "
             "open its menu.");
     });

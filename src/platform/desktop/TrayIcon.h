@@ -5,8 +5,10 @@
 #include <gio/gio.h>
 
 #include <chrono>
+#include <functional>
 #include <string>
 
+#include "platform/desktop/ActivationToken.h"
 #include "platform/desktop/BusClient.h"
 #include "platform/headless/GLibOwners.h"
 #include "platform/headless/MainContext.h"
@@ -31,15 +33,28 @@ class TrayIcon {
     /// Long enough for a session to start its panel.
     static constexpr std::chrono::seconds UsualPatience{15};
 
-    /// `menuPath` is the menu's object path on `bus`. Logs once if no host shows the icon within
-    /// `patience`.
-    TrayIcon(GDBusConnection* bus, platform::SystemLog& log, std::string menuPath,
-             std::chrono::milliseconds patience = UsualPatience);
+    /// The bus on which the icon and its menu are, and what the icon hands on to.
+    struct Dependencies {
+        GDBusConnection* bus;
+        platform::SystemLog& log;
+        /// Gets the tokens that come with clicks.
+        ActivationToken& activationToken;
+        /// The menu's object path.
+        std::string menuPath;
+        /// Runs after each click, which fails on the bus so that the host opens the menu.
+        std::function<void()> clicked;
+    };
+
+    /// Logs once if no host shows the icon within `patience`.
+    explicit TrayIcon(Dependencies dependencies,
+                      std::chrono::milliseconds patience = UsualPatience);
     TrayIcon(const TrayIcon&) = delete;
     TrayIcon& operator=(const TrayIcon&) = delete;
     ~TrayIcon();
 
     void show(TrayLook look);
+    /// Handles a method call of a host.
+    void answer(const std::string& method, GDBusMethodInvocation* invocation);
 
     /// Floating value of a StatusNotifierItem property; null if unknown.
     [[nodiscard]] GVariant* property(const std::string& name) const;
@@ -47,14 +62,18 @@ class TrayIcon {
   private:
     /// The registration ID, 0 on failure.
     [[nodiscard]] guint exportObject();
+    /// Runs once the name is owned.
+    static void noteName(GDBusConnection* bus, const gchar* name, gpointer icon);
+    void watchForHosts();
     void registerWithWatcher();
+    /// Registers when there was no call for a moment.
+    void registerSoon();
     void waitForHost(std::chrono::milliseconds patience);
     [[nodiscard]] std::string title() const;
     [[nodiscard]] GVariant* toolTip() const;
 
+    Dependencies dependencies_;
     headless::OwnedObject<GDBusConnection> bus_;
-    platform::SystemLog& log_;
-    std::string menuPath_;
     std::string themePath_;
     std::string busName_;
     TrayLook look_;
@@ -63,6 +82,7 @@ class TrayIcon {
     BusClient watcher_;
     Subscription watching_;
     Subscription hostComing_;
+    Subscription registration_;
     Subscription patience_;
 };
 

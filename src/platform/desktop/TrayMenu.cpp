@@ -30,8 +30,10 @@ void describe(DbusmenuMenuitem* item, const MenuEntry& entry) {
     dbusmenu_menuitem_property_set(item, DBUSMENU_MENUITEM_PROP_LABEL, label.c_str());
     dbusmenu_menuitem_property_set_bool(item, DBUSMENU_MENUITEM_PROP_ENABLED,
                                         entry.kind == MenuEntry::Kind::Choosable ? TRUE : FALSE);
+    if (!entry.checkable) return;
+    // From the first layout on: Plasma takes no notice of a later one.
     dbusmenu_menuitem_property_set(item, DBUSMENU_MENUITEM_PROP_TOGGLE_TYPE,
-                                   entry.checked ? DBUSMENU_MENUITEM_TOGGLE_CHECK : "");
+                                   DBUSMENU_MENUITEM_TOGGLE_CHECK);
     dbusmenu_menuitem_property_set_int(item, DBUSMENU_MENUITEM_PROP_TOGGLE_STATE,
                                        entry.checked ? DBUSMENU_MENUITEM_TOGGLE_STATE_CHECKED
                                                      : DBUSMENU_MENUITEM_TOGGLE_STATE_UNCHECKED);
@@ -41,6 +43,12 @@ void tellChosen(DbusmenuMenuitem* item, guint /*timestamp*/, gpointer chosen) {
     (*static_cast<TrayMenu::Chosen*>(chosen))(dbusmenu_menuitem_get_id(item));
 }
 
+// The menu needs no update before it is shown.
+gboolean tellOpening(DbusmenuMenuitem* /*root*/, gpointer opening) {
+    (*static_cast<std::function<void()>*>(opening))();
+    return FALSE;
+}
+
 bool contains(const std::vector<MenuEntry>& entries, int number) {
     return std::any_of(entries.begin(), entries.end(),
                        [number](const auto& entry) { return entry.number == number; });
@@ -48,8 +56,11 @@ bool contains(const std::vector<MenuEntry>& entries, int number) {
 
 }  // namespace
 
-TrayMenu::TrayMenu(Chosen chosen) : chosen_(std::move(chosen)) {
+TrayMenu::TrayMenu(Chosen chosen, std::function<void()> opening)
+    : chosen_(std::move(chosen)), opening_(std::move(opening)) {
     dbusmenu_server_set_root(server_.get(), root_.get());
+    g_signal_connect(root_.get(), DBUSMENU_MENUITEM_SIGNAL_ABOUT_TO_SHOW,
+                     reinterpret_cast<GCallback>(&tellOpening), &opening_);
 }
 
 void TrayMenu::show(const std::vector<MenuEntry>& entries) {
@@ -66,7 +77,7 @@ void TrayMenu::show(const std::vector<MenuEntry>& entries) {
         if (!item) item = makeItem(entry);
         describe(item.get(), entry);
     }
-    arrange(entries);
+    insertNew(entries);
 }
 
 headless::OwnedObject<DbusmenuMenuitem> TrayMenu::makeItem(const MenuEntry& entry) {
@@ -76,14 +87,12 @@ headless::OwnedObject<DbusmenuMenuitem> TrayMenu::makeItem(const MenuEntry& entr
     return item;
 }
 
-void TrayMenu::arrange(const std::vector<MenuEntry>& entries) {
+void TrayMenu::insertNew(const std::vector<MenuEntry>& entries) {
     guint position = 0;
     for (const auto& entry : entries) {
         auto* const item = items_.at(entry.number).get();
         if (dbusmenu_menuitem_get_parent(item) == nullptr) {
             dbusmenu_menuitem_child_add_position(root_.get(), item, position);
-        } else if (dbusmenu_menuitem_get_position(item, root_.get()) != position) {
-            dbusmenu_menuitem_child_reorder(root_.get(), item, position);
         }
         ++position;
     }

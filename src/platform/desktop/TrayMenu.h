@@ -20,21 +20,24 @@ class TrayMenu {
 
     using Chosen = std::function<void(int number)>;
 
-    explicit TrayMenu(Chosen chosen);
+    /// Calls `opening` when a host is about to show the menu.
+    TrayMenu(Chosen chosen, std::function<void()> opening);
     TrayMenu(const TrayMenu&) = delete;
     TrayMenu& operator=(const TrayMenu&) = delete;
     ~TrayMenu() = default;
 
-    /// Replaces the entries; hosts are sent only the changes.
+    /// Replaces the entries of a NumberedMenu; hosts are sent only the changes.
     void show(const std::vector<MenuEntry>& entries);
 
   private:
     using Items = std::map<int, headless::OwnedObject<DbusmenuMenuitem>>;
 
     [[nodiscard]] headless::OwnedObject<DbusmenuMenuitem> makeItem(const MenuEntry& entry);
-    void arrange(const std::vector<MenuEntry>& entries);
+    /// The others are in order: a NumberedMenu moves no entry.
+    void insertNew(const std::vector<MenuEntry>& entries);
 
     Chosen chosen_;
+    std::function<void()> opening_;
     headless::OwnedObject<DbusmenuServer> server_{dbusmenu_server_new(ObjectPath)};
     headless::OwnedObject<DbusmenuMenuitem> root_{dbusmenu_menuitem_new_with_id(0)};
     Items items_;

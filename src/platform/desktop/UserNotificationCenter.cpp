@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/UserNotificationCenter.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace brisel::platform::desktop {
@@ -11,21 +12,30 @@ namespace {
 // Used for every macOS sound name; the freedesktop sound theme has none of them.
 constexpr const char* AnySound = "device-added";
 
+// The action of a click on the notification itself, the only one without buttons. Servers draw no
+// button for it.
+constexpr const char* DefaultAction = "default";
+constexpr const char* DefaultLabel = "Brisel";
+
 }  // namespace
 
-UserNotificationCenter::UserNotificationCenter(NotificationServer& server) : server_(server) {
-    actions_ = server_.onActionInvoked(
-        [this](std::uint32_t number, const std::string& key) { respondFor(number, key); });
-    closings_ = server_.onClosed([this](std::uint32_t number, std::uint32_t reason) {
-        if (reason == NotificationServer::Dismissed) {
-            respondFor(number, NotificationDismissActionIdentifier);
+UserNotificationCenter::UserNotificationCenter(NotificationServer& server,
+                                               ActivationToken& activationToken)
+    : server_(server) {
+    tokens_ = server_.onActivationToken([this, &activationToken](auto number, const auto& token) {
+        for (const auto& [identifier, popUp] : popUps_) {
+            if (popUp.number == number) activationToken.set(token);
         }
     });
-    // A new server assigns IDs anew.
-    vanishing_ = server_.onVanished([this] {
-        for (auto& [identifier, popUp] : popUps_)
-            popUp.number = 0;
+    actions_ =
+        server_.onActionInvoked([this](auto number, const auto& key) { answer(number, key); });
+    // Whatever the reason: the number of a closed notification is invalid.
+    closings_ = server_.onClosed([this](std::uint32_t number, std::uint32_t reason) {
+        const auto dismissal = close(number, NotificationDismissActionIdentifier);
+        if (dismissal && reason == NotificationServer::Dismissed) respond(*dismissal);
     });
+    // A new server assigns IDs anew.
+    vanishing_ = server_.onVanished([this] { popUps_.clear(); });
 }
 
 void UserNotificationCenter::addNotificationRequest(const NotificationRequest& request,
@@ -56,6 +66,7 @@ void UserNotificationCenter::finishShow(std::uint32_t number, const std::optiona
     }
     for (const auto& handler : shown)
         handler(error);
+    withdrawMoot();
     // Kept in the queue while the handlers run, so that requests they add wait their turn.
     if (waiting_.front().handlers.empty()) waiting_.pop_front();
     showNext();
@@ -63,7 +74,9 @@ void UserNotificationCenter::finishShow(std::uint32_t number, const std::optiona
 
 Notification UserNotificationCenter::notificationFor(const NotificationRequest& request) const {
     Notification notification{.summary = request.title, .body = request.body};
-    for (const auto& [identifier, title] : actionsOf(request))
+    const auto& actions = actionsOf(request);
+    if (!actions.empty()) notification.actions.emplace_back(DefaultAction, DefaultLabel);
+    for (const auto& [identifier, title] : actions)
         notification.actions.emplace_back(identifier, title);
     if (!request.soundName.empty()) notification.soundName = AnySound;
     const auto before = popUps_.find(request.identifier);
@@ -71,18 +84,35 @@ Notification UserNotificationCenter::notificationFor(const NotificationRequest& 
     return notification;
 }
 
-void UserNotificationCenter::respondFor(std::uint32_t number, const std::string& action) {
-    for (auto& [identifier, popUp] : popUps_) {
-        if (number == 0 || popUp.number != number) continue;
-        // Ignores later signals: servers also close a notification after a choice.
-        popUp.number = 0;
-        // A copy: the response may replace the map entry.
-        const NotificationResponse response{.requestIdentifier = identifier,
-                                            .actionIdentifier = action,
-                                            .userInfo = popUp.userInfo};
-        respond(response);
-        return;
-    }
+std::optional<NotificationResponse> UserNotificationCenter::close(std::uint32_t number,
+                                                                  const std::string& action) {
+    const auto closed = std::find_if(popUps_.begin(), popUps_.end(), [number](const auto& entry) {
+        return entry.second.number == number;
+    });
+    if (closed == popUps_.end()) return std::nullopt;
+    NotificationResponse response{.requestIdentifier = closed->first,
+                                  .actionIdentifier = action,
+                                  .userInfo = closed->second.userInfo};
+    popUps_.erase(closed);
+    return response;
+}
+
+void UserNotificationCenter::answer(std::uint32_t number, const std::string& key) {
+    const auto response =
+        close(number, key == DefaultAction ? NotificationDefaultActionIdentifier : key);
+    if (!response) return;
+    // Not every server closes an answered notification.
+    server_.withdraw(number);
+    respond(*response);
+}
+
+void UserNotificationCenter::withdrawMoot() {
+    std::erase_if(popUps_, [this](const auto& entry) {
+        const auto& popUp = entry.second;
+        const bool moot = moot_(popUp.userInfo);
+        if (moot) server_.withdraw(popUp.number);
+        return moot;
+    });
 }
 
 }  // namespace brisel::platform::desktop

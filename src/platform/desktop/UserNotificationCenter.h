@@ -4,23 +4,34 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/common/UserNotificationCenter.h"
+#include "platform/desktop/ActivationToken.h"
 #include "platform/desktop/NotificationServer.h"
 
 namespace brisel::platform::desktop {
 
-/// Main thread only. A request replaces the notification of an earlier one with its identifier.
-/// Ignores the delay: the Notifications interface has no timed trigger.
+/// Main thread only. A request replaces the open notification of an earlier one with its
+/// identifier. Notifications stay until answered or withdrawn. Ignores the delay: the Notifications
+/// interface has no timed trigger.
 class UserNotificationCenter final : public common::UserNotificationCenter {
   public:
-    explicit UserNotificationCenter(NotificationServer& server);
+    using Moot = std::function<bool(const UserInfo&)>;
+
+    UserNotificationCenter(NotificationServer& server, ActivationToken& activationToken);
 
     void addNotificationRequest(const NotificationRequest& request, AddHandler handler) override;
+
+    /// `moot` tells by its user info whether a notification is to be withdrawn once it is shown,
+    /// and at each withdrawMoot.
+    void setMoot(Moot moot) { moot_ = std::move(moot); }
+    void withdrawMoot();
 
   private:
     struct Waiting {
@@ -35,14 +46,19 @@ class UserNotificationCenter final : public common::UserNotificationCenter {
 
     void showNext();
     void finishShow(std::uint32_t number, const std::optional<Error>& error);
-    void respondFor(std::uint32_t number, const std::string& action);
+    /// Forgets the notification; its response with `action`, if it is one of ours.
+    [[nodiscard]] std::optional<NotificationResponse> close(std::uint32_t number,
+                                                            const std::string& action);
+    void answer(std::uint32_t number, const std::string& key);
     [[nodiscard]] Notification notificationFor(const NotificationRequest& request) const;
 
     NotificationServer& server_;
     /// The first is being shown. One at a time, because the next may replace it and needs its ID.
     std::deque<Waiting> waiting_;
-    /// Latest notification of each request identifier.
+    /// The open notification of each request identifier.
     std::map<std::string, PopUp> popUps_;
+    Moot moot_ = [](const UserInfo& /*userInfo*/) { return false; };
+    Subscription tokens_;
     Subscription actions_;
     Subscription closings_;
     Subscription vanishing_;

@@ -2,34 +2,38 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop/Workspace.h"
 
-#include <memory>
+#include <array>
 
 namespace brisel::platform::desktop {
 
-namespace {
-
-/// A pending launch; cancelled when the Workspace is destroyed.
-struct Opening {
-    platform::SystemLog& log;
-    headless::OwnedObject<GCancellable> cancellable;
-};
-
-void finishOpening(GObject* /*source*/, GAsyncResult* result, gpointer data) {
-    const std::unique_ptr<Opening> opening(static_cast<Opening*>(data));
-    headless::CallError error;
-    const bool opened = g_app_info_launch_default_for_uri_finish(result, error.receive()) != FALSE;
-    if (opened || g_cancellable_is_cancelled(opening->cancellable.get()) != FALSE) return;
-    opening->log.log("Cannot open the folder: %@", error.message());
-}
-
-}  // namespace
+Workspace::Workspace(GDBusConnection* bus, platform::SystemLog& log,
+                     ActivationToken& activationToken)
+    : log_(log),
+      activationToken_(activationToken),
+      fileManager_(bus, "org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
+                   "org.freedesktop.FileManager1"),
+      portal_(bus, log),
+      application_(log) {}
 
 void Workspace::openURL(const std::optional<FileURL>& url) {
     if (!url) return;
-    auto* const cancellable = static_cast<GCancellable*>(g_object_ref(cancellable_.get()));
-    g_app_info_launch_default_for_uri_async(
-        url->absoluteString().c_str(), nullptr, cancellable, &finishOpening,
-        new Opening{.log = log_, .cancellable = headless::OwnedObject<GCancellable>(cancellable)});
+    const auto text = url->absoluteString();
+    const auto token = activationToken_.take();
+    const std::array<const char*, 2> folders{text.c_str(), nullptr};
+    fileManager_.call("ShowFolders", g_variant_new("(^ass)", folders.data(), token.c_str()),
+                      [this, folder = *url, token](const auto& answer, const auto& error) {
+                          if (answer) return;
+                          if (!isMissing(error)) {
+                              log_.log("The file manager cannot open the folder: %@",
+                                       error.message());
+                          }
+                          openWithoutFileManager(folder, token);
+                      });
+}
+
+void Workspace::openWithoutFileManager(const FileURL& folder, const std::string& activationToken) {
+    portal_.open(folder, activationToken,
+                 [this, folder, activationToken] { application_.open(folder, activationToken); });
 }
 
 }  // namespace brisel::platform::desktop

@@ -2,7 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/headless/GLibOwners.h"
+#include <gio/gio.h>
+
+#include <string>
+
+#include "platform/desktop/ActivationToken.h"
+#include "platform/desktop/BusClient.h"
+#include "platform/desktop/FolderApplication.h"
+#include "platform/desktop/OpenURIPortal.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
 
@@ -10,17 +17,21 @@ namespace brisel::platform::desktop {
 
 class Workspace final : public platform::Workspace {
   public:
-    explicit Workspace(platform::SystemLog& log) : log_(log) {}
-    Workspace(const Workspace&) = delete;
-    Workspace& operator=(const Workspace&) = delete;
-    ~Workspace() override { g_cancellable_cancel(cancellable_.get()); }
+    /// `bus` is the session bus. The next folder that opens takes the token.
+    Workspace(GDBusConnection* bus, platform::SystemLog& log, ActivationToken& activationToken);
 
-    /// Opens the folder in the default application for folders, without blocking. Logs a failure.
+    /// Opens the folder, without blocking, in the file manager on the session bus; without one
+    /// through the desktop portal; else in the default application for folders. Logs a failure.
     void openURL(const std::optional<FileURL>& url) override;
 
   private:
+    void openWithoutFileManager(const FileURL& folder, const std::string& activationToken);
+
     platform::SystemLog& log_;
-    headless::OwnedObject<GCancellable> cancellable_{g_cancellable_new()};
+    ActivationToken& activationToken_;
+    BusClient fileManager_;
+    OpenURIPortal portal_;
+    FolderApplication application_;
 };
 
 }  // namespace brisel::platform::desktop

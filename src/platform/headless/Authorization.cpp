@@ -1,134 +1,142 @@
-// Authorization through polkit, and tools started as root by pkexec.
+// Tools started as root by pkexec, which has polkit ask for a password.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/Authorization.h"
 
-#include <polkit/polkit.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
-#include <string>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <optional>
+#include <thread>
 #include <utility>
 #include <vector>
 
 #include "platform/common/ToolProcess.h"
-#include "platform/headless/GLibOwners.h"
-#include "platform/headless/MainContext.h"
+#include "shared/Descriptor.h"
 
 namespace brisel::platform::headless {
 
 namespace {
 
-constexpr const char* ActionIdentifier = "org.brisel.run-mount-tool";
-constexpr const char* Pkexec = "/usr/bin/pkexec";
+// pkexec's exit statuses, which the mount tool does not use.
+constexpr int Dismissed = 126;
+constexpr int NotAuthorized = 127;
 
 bool isRoot() {
     return geteuid() == 0;
 }
 
-OSStatus statusOf(PolkitAuthorizationResult* result) {
-    if (polkit_authorization_result_get_is_authorized(result) != FALSE) {
-        return errAuthorizationSuccess;
-    }
-    const bool dismissed = polkit_authorization_result_get_dismissed(result) != FALSE;
-    return dismissed ? errAuthorizationCanceled : errAuthorizationDenied;
-}
-
-// libpolkit uses GLib's shared bus connection, which by default exits the process when the bus
-// closes (GDBusConnection:exit-on-close).
-void outliveTheBus() {
-    const OwnedObject<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SYSTEM, nullptr, nullptr));
-    if (bus) g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
-}
-
-/// One authorization check, run on its own main loop.
-class PolkitQuestion {
+/// A program with its arguments, for execv.
+class CommandLine {
   public:
-    /// Null if the check failed or was cancelled.
-    using Answer = OwnedObject<PolkitAuthorizationResult>;
-
-    Answer ask(PolkitAuthority* authority, int interruption, CallError& error) {
-        error_ = &error;
-        Subscription ending;
-        if (interruption >= 0) {
-            ending =
-                whenReadable(interruption, [this] { g_cancellable_cancel(cancellable_.get()); });
-        }
-        const OwnedObject<PolkitSubject> subject(
-            polkit_unix_process_new_for_owner(getpid(), 0, static_cast<gint>(getuid())));
-        polkit_authority_check_authorization(
-            authority, subject.get(), ActionIdentifier, nullptr,
-            POLKIT_CHECK_AUTHORIZATION_FLAGS_ALLOW_USER_INTERACTION, cancellable_.get(), &finish,
-            this);
-        loop_.run();
-        return std::move(answer_);
+    CommandLine(std::vector<std::string> words, char* const* furtherWords)
+        : words_(std::move(words)) {
+        for (; *furtherWords != nullptr; ++furtherWords)
+            words_.emplace_back(*furtherWords);
+        for (auto& word : words_)
+            pointers_.push_back(word.data());
+        pointers_.push_back(nullptr);
     }
+    /// Allocates nothing, so a forked child may call it.
+    void execute() const { execv(pointers_.front(), pointers_.data()); }
 
   private:
-    static void finish(GObject* authority, GAsyncResult* result, gpointer self) {
-        auto& question = *static_cast<PolkitQuestion*>(self);
-        question.answer_.reset(polkit_authority_check_authorization_finish(
-            POLKIT_AUTHORITY(authority), result, question.error_->receive()));
-        question.loop_.quit();
-    }
-
-    OwnMainLoop loop_;
-    OwnedObject<GCancellable> cancellable_{g_cancellable_new()};
-    CallError* error_ = nullptr;
-    Answer answer_;
+    std::vector<std::string> words_;
+    std::vector<char*> pointers_;
 };
+
+// Exit status of a child that has ended; nullopt while it runs. It stays a zombie.
+std::optional<int> exitStatusOf(pid_t child) {
+    siginfo_t info{};
+    if (waitid(P_PID, static_cast<id_t>(child), &info, WEXITED | WNOHANG | WNOWAIT) != 0 ||
+        info.si_pid == 0)
+        return std::nullopt;
+    return info.si_code == CLD_EXITED ? info.si_status : NotAuthorized;
+}
+
+// A process closes its descriptors some moments before it can be waited for.
+std::optional<int> exitStatusSoon(pid_t child) {
+    constexpr int Tries = 50;
+    constexpr std::chrono::milliseconds Pause{1};
+    for (int tries = 0; tries < Tries; ++tries) {
+        if (const auto status = exitStatusOf(child)) return status;
+        std::this_thread::sleep_for(Pause);
+    }
+    return std::nullopt;
+}
+
+OSStatus statusFor(std::optional<int> exitStatus) {
+    if (exitStatus == Dismissed) return errAuthorizationCanceled;
+    return exitStatus == NotAuthorized ? errAuthorizationDenied : errAuthorizationSuccess;
+}
+
+StartedTool refused(const StartedTool& tool, pid_t pkexec, OSStatus status) {
+    std::fclose(tool.communicationsPipe);
+    waitpid(pkexec, nullptr, 0);
+    return {.status = status, .communicationsPipe = nullptr};
+}
 
 }  // namespace
 
-OSStatus Authorization::askPolkit() const {
-    outliveTheBus();
-    CallError error;
-    const OwnedObject<PolkitAuthority> authority(
-        polkit_authority_get_sync(nullptr, error.receive()));
-    if (!authority) {
-        log_.log("Cannot connect to polkit: %@", error.message());
-        return errAuthorizationInternal;
-    }
-    const auto answer = PolkitQuestion().ask(authority.get(), terminationSignals_, error);
-    if (g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED) != FALSE) {
-        return errAuthorizationDenied;
-    }
-    if (!answer) {
-        log_.log("The polkit authorization check failed: %@", error.message());
-        return errAuthorizationInternal;
-    }
-    return statusOf(answer.get());
-}
+Authorization::Authorization(int terminationSignals, std::string pkexec)
+    : terminationSignals_(terminationSignals), pkexec_(std::move(pkexec)) {}
 
-// polkit keeps authorizations per process; no reference is needed.
 CreatedAuthorization Authorization::create(std::uint32_t /*flags*/) {
     return {.status = errAuthorizationSuccess, .authorization = nullptr};
 }
 
 OSStatus Authorization::copyRights(AuthorizationRef /*authorization*/,
                                    const AuthorizationItem& /*right*/, std::uint32_t /*flags*/) {
-    return isRoot() ? errAuthorizationSuccess : askPolkit();
+    return errAuthorizationSuccess;
 }
 
 void Authorization::free(AuthorizationRef /*authorization*/, std::uint32_t /*flags*/) {}
 
 bool Authorization::offersExecuteWithPrivileges() const {
-    return isRoot() || access(Pkexec, X_OK) == 0;
+    return isRoot() || access(pkexec_.c_str(), X_OK) == 0;
 }
 
 StartedTool Authorization::executeWithPrivileges(AuthorizationRef /*authorization*/,
                                                  const char* pathToTool, std::uint32_t /*flags*/,
                                                  char* const* arguments) {
-    // Allocates before the fork: the child may call only async-signal-safe functions.
-    const std::string program = isRoot() ? pathToTool : Pkexec;
-    std::vector<std::string> words{program};
-    if (!isRoot()) words.emplace_back(pathToTool);
-    for (; *arguments != nullptr; ++arguments)
-        words.emplace_back(*arguments);
-    std::vector<char*> vector;
-    vector.reserve(words.size() + 1);
-    for (auto& word : words)
-        vector.push_back(word.data());
-    vector.push_back(nullptr);
-    return common::startToolProcess([&] { execv(program.c_str(), vector.data()); });
+    if (isRoot()) {
+        const CommandLine command({pathToTool}, arguments);
+        return common::startToolProcess([&] { command.execute(); });
+    }
+    std::array<int, 2> ends{-1, -1};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) {
+        return {.status = errAuthorizationInternal, .communicationsPipe = nullptr};
+    }
+    const shared::Descriptor ours(ends[0]);
+    shared::Descriptor pkexecs(ends[1]);
+    const CommandLine command({pkexec_, "--disable-internal-agent", pathToTool}, arguments);
+    const auto tool = common::startToolProcess([&] {
+        // Inherited by pkexec, which closes it when it starts the tool.
+        fcntl(pkexecs.number(), F_SETFD, 0);
+        command.execute();
+    });
+    pkexecs.reset();
+    if (tool.status != errAuthorizationSuccess) return tool;
+    const pid_t pkexec = fcntl(fileno(tool.communicationsPipe), F_GETOWN, 0);
+    const auto status = waitForTool(pkexec, ours.number());
+    return status == errAuthorizationSuccess ? tool : refused(tool, pkexec, status);
+}
+
+OSStatus Authorization::waitForTool(pid_t pkexec, int pkexecRuns) const {
+    constexpr int NoLimit = -1;
+    std::array<pollfd, 2> awaited{
+        pollfd{.fd = pkexecRuns, .events = POLLIN, .revents = 0},
+        pollfd{.fd = terminationSignals_, .events = POLLIN, .revents = 0}};
+    while (poll(awaited.data(), awaited.size(), NoLimit) < 0 && errno == EINTR) {
+    }
+    if (awaited[0].revents != 0) return statusFor(exitStatusSoon(pkexec));
+    kill(pkexec, SIGTERM);
+    return errAuthorizationDenied;
 }
 
 }  // namespace brisel::platform::headless

@@ -9,6 +9,7 @@
 #include "platform/headless/MainContext.h"
 #include "platform/headless/MountFolder.h"
 #include "platform/headless/UDisksErrors.h"
+#include "shared/MountFolders.h"
 
 namespace brisel::platform::headless {
 
@@ -24,17 +25,17 @@ bool isSameVolume(const DiskDescription& one, const DiskDescription& other) {
            one.mediaUUID == other.mediaUUID;
 }
 
-// What is mounted there was mounted for the program, by the mount tool behind UDisks2's back. The
-// kernel tells of mounts by the paths without links.
+// The mount tool mounts there, for the program and without UDisks2. The kernel reports mount points
+// without symbolic links.
 bool isInMountFolder(const std::optional<FileURL>& path) {
     std::error_code code;
     const auto home = std::filesystem::weakly_canonical(g_get_home_dir(), code);
     return path && isBelow(path->path(), mountFolderIn(home.string()));
 }
 
-// Where the mount tool has a volume for a moment, until it is in order: its StagingFolder.
+// The mount tool mounts a volume there until it has verified it.
 bool isUnderWay(const std::optional<FileURL>& path) {
-    return path && path->path().starts_with("/run/brisel-");
+    return path && path->path().starts_with(shared::StagingPrefix);
 }
 
 }  // namespace
@@ -60,7 +61,7 @@ void DiskArbitration::scheduleWithRunLoop() {
 }
 
 void DiskArbitration::compare() {
-    // While the service is away nothing is known; its disks are still there.
+    // Without the service the state of the disks is unknown; they are not gone.
     if (!scheduled_ || !service_->isThere()) return;
     const auto present = service_->disks();
     for (const auto& [name, description] : Disks(reported_)) {
@@ -71,13 +72,13 @@ void DiskArbitration::compare() {
             compareMounts(name, description, found->second);
         } else {
             reported_.erase(name);
-            disappeared_({.bsdName = name, .reported = description});
+            disappeared_({.bsdName = name}, description);
         }
     }
     for (const auto& [name, description] : present) {
         if (!isMountable(description) || reported_.contains(name)) continue;
         reported_[name] = description;
-        appeared_({.bsdName = name, .reported = description});
+        appeared_({.bsdName = name}, description);
     }
 }
 
@@ -86,8 +87,8 @@ void DiskArbitration::compareMounts(const std::string& name, const DiskDescripti
     if (requests_[name] > 0 || isUnderWay(now.volumePath)) return;
     reported_[name] = now;
     if (before.volumePath == now.volumePath || isInMountFolder(now.volumePath)) return;
-    disappeared_({.bsdName = name, .reported = before});
-    if (now.volumePath) appeared_({.bsdName = name, .reported = now});
+    disappeared_({.bsdName = name}, before);
+    if (now.volumePath) appeared_({.bsdName = name}, now);
 }
 
 void DiskArbitration::finish(const Disk& disk, const std::optional<Dissenter>& dissenter,
@@ -108,7 +109,7 @@ void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoin
     if (reported != reported_.end()) {
         const auto before = reported->second;
         reported->second.volumePath = FileURL(mountPoint);
-        disappeared_({.bsdName = disk.bsdName, .reported = before});
+        disappeared_({.bsdName = disk.bsdName}, before);
     }
     --requests_[disk.bsdName];
     completion(disk, std::nullopt);
@@ -116,7 +117,7 @@ void DiskArbitration::finishMount(const Disk& disk, const std::string& mountPoin
 
 std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
     if (!name) return std::nullopt;
-    return Disk{.bsdName = *name, .reported = std::nullopt};
+    return Disk{.bsdName = *name};
 }
 
 std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<FileURL>& path) {
@@ -128,7 +129,6 @@ std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<File
 }
 
 DiskDescription DiskArbitration::copyDescription(const Disk& disk) {
-    if (disk.reported) return *disk.reported;
     const auto present = service_->disks();
     if (const auto found = present.find(disk.bsdName); found != present.end()) return found->second;
     if (const auto found = reported_.find(disk.bsdName); found != reported_.end()) {

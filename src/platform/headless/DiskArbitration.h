@@ -37,10 +37,15 @@ class DiskArbitration final : public platform::DiskArbitration {
     void mountWithArguments(const Disk& disk, const std::vector<std::string>& arguments,
                             Completion completion) override;
 
+    /// True if the disk can be unplugged and nothing on its drive is mounted. After an unmount.
+    [[nodiscard]] bool mayBeUnplugged(const std::string& bsdName) const {
+        return service_->mayBeUnplugged(bsdName);
+    }
+
   private:
     using Disks = std::map<std::string, DiskDescription>;
 
-    /// Reports what has come and gone since the last time.
+    /// Reports the disks that appeared and disappeared since the last call.
     void compare();
     void compareMounts(const std::string& name, const DiskDescription& before,
                        const DiskDescription& now);
@@ -54,12 +59,12 @@ class DiskArbitration final : public platform::DiskArbitration {
     std::unique_ptr<ReadWriteMount> readWriteMount_;
     Subscription nextComparison_;
     bool scheduled_ = false;
-    /// How many of the program's own requests are under way, by BSD name.
+    /// Number of the program's own unfinished requests, by BSD name.
     std::map<std::string, int> requests_;
-    /// What was reported as appeared, with the newest description of each.
+    /// The disks reported as appeared, with their newest descriptions.
     Disks reported_;
-    common::Signal<const Disk&> appeared_;
-    common::Signal<const Disk&> disappeared_;
+    common::Signal<const Disk&, const DiskDescription&> appeared_;
+    common::Signal<const Disk&, const DiskDescription&> disappeared_;
 };
 
 }  // namespace brisel::platform::headless

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/headless/DiskDescriptions.h"
+#include "platform/headless/DriveUse.h"
 
 namespace brisel::platform::headless {
 
@@ -31,6 +32,26 @@ BlockProperties propertiesOf(UDisksObject* object, UDisksBlock* block) {
         if (points != nullptr && *points != nullptr) properties.mountPoint = *points;
     }
     return properties;
+}
+
+bool isMounted(UDisksObject* object) {
+    auto* const filesystem = udisks_object_peek_filesystem(object);
+    const auto* const* const points =
+        filesystem != nullptr ? udisks_filesystem_get_mount_points(filesystem) : nullptr;
+    return points != nullptr && *points != nullptr;
+}
+
+std::string pathOrNone(const char* path) {
+    return path != nullptr ? path : "/";
+}
+
+BlockUse useOf(UDisksObject* object, UDisksBlock* block) {
+    return {.path = g_dbus_object_get_object_path(G_DBUS_OBJECT(object)),
+            .bsdName = bsdName(textOrEmpty(udisks_block_get_device(block))),
+            .drive = pathOrNone(udisks_block_get_drive(block)),
+            .backing = pathOrNone(udisks_block_get_crypto_backing_device(block)),
+            .system = udisks_block_get_hint_system(block) != FALSE,
+            .mounted = isMounted(object)};
 }
 
 DiskService::CallFailure failureOf(const GError* error) {
@@ -70,10 +91,18 @@ std::map<std::string, DiskDescription> DiskService::disks() const {
     std::map<std::string, DiskDescription> found;
     objects_.forEachBlock([&found](UDisksObject* object, UDisksBlock* block) {
         auto description = describe(propertiesOf(object, block));
-        auto name = textOf(description.mediaBSDName);
+        auto name = orNullText(description.mediaBSDName);
         found.insert_or_assign(std::move(name), std::move(description));
     });
     return found;
+}
+
+bool DiskService::mayBeUnplugged(const std::string& device) const {
+    std::vector<BlockUse> blocks;
+    objects_.forEachBlock([&blocks](UDisksObject* object, UDisksBlock* block) {
+        blocks.push_back(useOf(object, block));
+    });
+    return headless::mayBeUnplugged(blocks, device);
 }
 
 OwnedObject<UDisksFilesystem> DiskService::filesystem(const std::string& device) const {

@@ -45,6 +45,9 @@ class DiskService {
     /// All block devices, by BSD name.
     [[nodiscard]] std::map<std::string, DiskDescription> disks() const;
 
+    /// See DriveUse.h.
+    [[nodiscard]] bool mayBeUnplugged(const std::string& device) const;
+
     /// Unmounts the file system on `device`, a BSD name. If it has none, calls `done` before
     /// returning.
     void unmount(const std::string& device, Done done);

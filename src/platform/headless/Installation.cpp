@@ -39,7 +39,7 @@ std::string toolPath(const std::string& name) {
 std::string applicationIcon() {
     const auto icons = iconThemePath();
     return icons.empty() ? "org.brisel.Brisel"
-                         : icons + "/hicolor/scalable/apps/org.brisel.Brisel.svg";
+                         : icons + "/hicolor/48x48/apps/org.brisel.Brisel.png";
 }
 
 std::string iconThemePath() {

@@ -56,11 +56,11 @@ Subscription whenReadable(int descriptor, std::function<void()> work) {
                   std::move(work));
 }
 
-void handTo(GMainContext* context, std::function<void()> work) {
+void handTo(GMainContext* context, std::function<void()> work, Turn turn) {
     // `work` may end the context's thread before g_source_attach returns.
     auto* const kept = context != nullptr ? g_main_context_ref(context) : nullptr;
     auto* const source = g_idle_source_new();
-    g_source_set_priority(source, G_PRIORITY_DEFAULT);
+    if (turn == Turn::Next) g_source_set_priority(source, G_PRIORITY_DEFAULT);
     g_source_set_callback(source, &runOnce, new Work(std::move(work)), &destroyWork);
     g_source_attach(source, context);
     g_source_unref(source);

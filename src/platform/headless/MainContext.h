@@ -19,8 +19,10 @@ namespace brisel::platform::headless {
 /// until the subscription ends.
 [[nodiscard]] Subscription whenReadable(int descriptor, std::function<void()> work);
 
+enum class Turn { Next, WhenIdle };
+
 /// Runs `work` once on the thread that runs `context`; null is GLib's default context. Any thread.
-void handTo(GMainContext* context, std::function<void()> work);
+void handTo(GMainContext* context, std::function<void()> work, Turn turn = Turn::Next);
 
 /// Timers on the calling thread's main context, on any thread.
 class RunLoop final : public platform::RunLoop {

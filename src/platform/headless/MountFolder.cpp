@@ -1,6 +1,7 @@
 // HOME/.brisel, the folder of the mount tool's mount points.
 // SPDX-License-Identifier: MIT
 #include "platform/headless/MountFolder.h"
+#include "shared/MountFolders.h"
 
 #include <unistd.h>
 
@@ -24,7 +25,7 @@ bool isFolder(const fs::path& path) {
 }  // namespace
 
 std::string mountFolderIn(const std::string& home) {
-    return home + "/.brisel";
+    return home + "/" + shared::MountFolders;
 }
 
 bool isBelow(std::string_view path, std::string_view folder) {

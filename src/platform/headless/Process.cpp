@@ -8,6 +8,8 @@
 
 #include <csignal>
 
+#include "shared/IgnoreResult.h"
+
 namespace brisel::platform::headless {
 
 namespace {
@@ -21,7 +23,7 @@ std::string languageOf(const std::string& locale) {
 
 void restoreProcessDefaults() {
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (fcntl(descriptor, F_GETFD) < 0) static_cast<void>(open("/dev/null", O_RDWR) >= 0);
+        if (fcntl(descriptor, F_GETFD) < 0) shared::ignoreResult(open("/dev/null", O_RDWR));
     }
     std::signal(SIGCHLD, SIG_DFL);
 }

@@ -9,6 +9,8 @@
 #include <cerrno>
 #include <csignal>
 
+#include "shared/IgnoreResult.h"
+
 namespace brisel::platform::headless {
 
 namespace {
@@ -17,12 +19,12 @@ constexpr std::array EndingSignals{SIGINT, SIGTERM, SIGHUP};
 
 // A signal handler can reach only globals.
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
-volatile std::sig_atomic_t writeEnd = -1;
+volatile std::sig_atomic_t signalled = -1;
 
 extern "C" void noteSignal(int /*signal*/) {
     const int saved = errno;
     const char anything = 0;
-    static_cast<void>(write(writeEnd, &anything, sizeof anything) > 0);
+    shared::ignoreResult(write(signalled, &anything, sizeof anything));
     errno = saved;
 }
 
@@ -30,9 +32,11 @@ extern "C" void noteSignal(int /*signal*/) {
 
 TerminationSignals::TerminationSignals() {
     std::array<int, 2> ends{-1, -1};
-    static_cast<void>(pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) == 0);
-    readEnd_ = ends[0];
-    writeEnd = ends[1];
+    // Without a pipe the signals keep their default actions.
+    if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
+    readEnd_ = shared::Descriptor(ends[0]);
+    writeEnd_ = shared::Descriptor(ends[1]);
+    signalled = ends[1];
     struct sigaction action = {};
     action.sa_handler = &noteSignal;
     for (const int signal : EndingSignals)
@@ -42,8 +46,7 @@ TerminationSignals::TerminationSignals() {
 TerminationSignals::~TerminationSignals() {
     for (const int signal : EndingSignals)
         std::signal(signal, SIG_DFL);
-    close(readEnd_);
-    close(writeEnd);
+    signalled = -1;
 }
 
 }  // namespace brisel::platform::headless

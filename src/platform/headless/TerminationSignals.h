@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shared/Descriptor.h"
+
 namespace brisel::platform::headless {
 
 /// At most one per process. While it exists, these signals do not end the process.
@@ -14,10 +16,11 @@ class TerminationSignals {
     ~TerminationSignals();
 
     /// Becomes readable, and stays so, after one of the signals.
-    [[nodiscard]] int descriptor() const { return readEnd_; }
+    [[nodiscard]] int descriptor() const { return readEnd_.number(); }
 
   private:
-    int readEnd_ = -1;
+    shared::Descriptor readEnd_;
+    shared::Descriptor writeEnd_;
 };
 
 }  // namespace brisel::platform::headless

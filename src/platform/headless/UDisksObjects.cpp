@@ -63,17 +63,22 @@ void UDisksObjects::connect() {
         tryAgain(error.message());
         return;
     }
-    // The bus activates UDisks2 for this call if need be. Once it has answered, the synchronous
-    // call in `fetch` returns without delay.
+    backlog_ = std::make_unique<SignalBacklog>(connection.get(), [this] { readAnew(); });
+    ask(connection.get());
+}
+
+// The bus activates UDisks2 for this call if need be. Once it has answered, the synchronous call in
+// `fetch` returns without delay.
+void UDisksObjects::ask(GDBusConnection* connection) {
     g_dbus_connection_call(
-        connection.get(), BusName, ObjectPath, "org.freedesktop.DBus.ObjectManager",
-        "GetManagedObjects", nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
-        &UDisksObjects::finishFirstQuestion,
+        connection, BusName, ObjectPath, "org.freedesktop.DBus.ObjectManager", "GetManagedObjects",
+        nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
+        &UDisksObjects::finishQuestion,
         new Question{*this,
                      OwnedObject<GCancellable>(G_CANCELLABLE(g_object_ref(cancellable_.get())))});
 }
 
-void UDisksObjects::finishFirstQuestion(GObject* connection, GAsyncResult* result, gpointer data) {
+void UDisksObjects::finishQuestion(GObject* connection, GAsyncResult* result, gpointer data) {
     const std::unique_ptr<Question> question(static_cast<Question*>(data));
     CallError error;
     const OwnedVariant answer(
@@ -102,7 +107,9 @@ void UDisksObjects::fetch(GDBusConnection* connection) {
 }
 
 void UDisksObjects::watch(GDBusObjectManager* objects) {
+    connections_.clear();
     objects_.reset(objects);
+    areOutdated_ = false;
     for (const char* const signal :
          {"object-added", "object-removed", "interface-added", "interface-removed",
           "interface-proxy-properties-changed", "notify::name-owner"}) {
@@ -112,6 +119,13 @@ void UDisksObjects::watch(GDBusObjectManager* objects) {
         connectionOf(objects_.get()), "closed",
         [](gpointer service) { static_cast<UDisksObjects*>(service)->disconnect(); }, this);
     changed_();
+}
+
+void UDisksObjects::readAnew() {
+    if (!objects_) return;
+    areOutdated_ = true;
+    connections_.clear();
+    ask(connectionOf(objects_.get()));
 }
 
 void UDisksObjects::disconnect() {
@@ -135,7 +149,7 @@ void UDisksObjects::tryAgain(const std::string& reason) {
 }
 
 bool UDisksObjects::areThere() const {
-    if (!objects_) return false;
+    if (!objects_ || areOutdated_) return false;
     const OwnedText owner(
         g_dbus_object_manager_client_get_name_owner(G_DBUS_OBJECT_MANAGER_CLIENT(objects_.get())));
     return owner != nullptr;

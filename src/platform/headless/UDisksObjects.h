@@ -6,10 +6,12 @@
 #include <udisks/udisks.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "platform/headless/GLibOwners.h"
+#include "platform/headless/SignalBacklog.h"
 #include "platform/Subscription.h"
 #include "platform/SystemLog.h"
 
@@ -27,26 +29,31 @@ class UDisksObjects {
     UDisksObjects& operator=(const UDisksObjects&) = delete;
     ~UDisksObjects();
 
-    /// True while connected to UDisks2.
+    /// True while connected to UDisks2, and the objects are up to date.
     [[nodiscard]] bool areThere() const;
     void forEachBlock(const std::function<void(UDisksObject*, UDisksBlock*)>& visit) const;
 
   private:
     void connect();
+    void ask(GDBusConnection* connection);
     void fetch(GDBusConnection* connection);
     void watch(GDBusObjectManager* objects);
+    /// Replaces the objects after a backlog has dropped signals.
+    void readAnew();
     void disconnect();
     void tryAgain(const std::string& reason);
     void noteOwner();
     void tell(bool there);
     void askForRestart() const;
     struct Question;
-    static void finishFirstQuestion(GObject* connection, GAsyncResult* result, gpointer data);
+    static void finishQuestion(GObject* connection, GAsyncResult* result, gpointer data);
 
     platform::SystemLog& log_;
     Changed changed_;
     OwnedObject<GCancellable> cancellable_{g_cancellable_new()};
+    std::unique_ptr<SignalBacklog> backlog_;
     OwnedObject<GDBusObjectManager> objects_;
+    bool areOutdated_ = false;
     std::vector<SignalConnection> connections_;
     Subscription nextTry_;
     /// The state last logged. Initially true: a normal start logs nothing.

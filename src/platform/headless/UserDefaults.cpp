@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/headless/UserDefaults.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -27,6 +28,35 @@ std::string freeNameBeside(const std::string& path) {
     return name;
 }
 
+// True for FILE.XXXXXX, which GLib writes and renames to FILE. A suffix of only small letters or
+// only digits may be a copy made by the user, such as `backup`; GLib picks one in 200 times.
+bool isTemporary(const std::string& name, const std::string& file) {
+    constexpr std::string_view SmallLetters = "abcdefghijklmnopqrstuvwxyz";
+    constexpr std::string_view Digits = "0123456789";
+    constexpr std::size_t SuffixLength = 6;
+    if (!name.starts_with(file + ".") || name.size() != file.size() + 1 + SuffixLength) {
+        return false;
+    }
+    const auto suffix = std::string_view(name).substr(file.size() + 1);
+    return std::all_of(suffix.begin(), suffix.end(),
+                       [](char character) { return g_ascii_isalnum(character); }) &&
+           suffix.find_first_not_of(SmallLetters) != std::string_view::npos &&
+           suffix.find_first_not_of(Digits) != std::string_view::npos;
+}
+
+// A killed write leaves its temporary file.
+void removeTemporaryFilesOf(const fs::path& path) {
+    std::error_code code;
+    for (fs::directory_iterator entry(path.parent_path(), code); !code && entry != end(entry);
+         entry.increment(code)) {
+        std::error_code unknown;
+        const bool isFile = fs::is_regular_file(entry->symlink_status(unknown));
+        if (isFile && isTemporary(entry->path().filename(), path.filename())) {
+            fs::remove(entry->path(), unknown);
+        }
+    }
+}
+
 }  // namespace
 
 UserDefaults::UserDefaults(platform::SystemLog& log, std::string path)
@@ -40,9 +70,10 @@ std::string UserDefaults::defaultPath() {
 
 void UserDefaults::load() {
     std::error_code code;
-    if (!fs::exists(fs::symlink_status(path_, code))) return;
     // Resolves symbolic links: writing replaces the target and keeps the link.
     if (const auto target = fs::canonical(path_, code); !code) path_ = target;
+    removeTemporaryFilesOf(path_);
+    if (!fs::exists(fs::symlink_status(path_, code))) return;
     const auto complaint = read();
     if (complaint.empty()) return;
     log_.log("The preferences in %@ cannot be read: %@", path_, complaint);

@@ -13,8 +13,9 @@
 
 namespace brisel::platform::headless {
 
-/// Writes the file atomically at each change. Renames an unreadable file to a free name ending in
-/// `.malformed` or `.malformed-N`, and starts with the defaults.
+/// Writes the file atomically at each change; removes what killed writes of earlier runs left.
+/// Renames an unreadable file to a free name ending in `.malformed` or `.malformed-N`, and starts
+/// with the defaults.
 class UserDefaults final : public platform::UserDefaults {
   public:
     /// `path` need not exist yet; see defaultPath.

@@ -11,6 +11,7 @@
 
 #include "platform/Format.h"
 #include "platform/headless/MountInfo.h"
+#include "shared/Descriptor.h"
 
 namespace brisel::platform::headless {
 
@@ -18,10 +19,9 @@ namespace {
 
 bool takesAFile(const std::string& folder) {
     auto path = folder + "/.brisel-XXXXXX";
-    const int file = mkstemp(path.data());
+    const shared::Descriptor file(mkstemp(path.data()));
     // A full volume is still writable: files can be deleted.
-    if (file < 0) return errno == ENOSPC || errno == EDQUOT;
-    close(file);
+    if (!file) return errno == ENOSPC || errno == EDQUOT;
     return unlink(path.c_str()) == 0;
 }
 

@@ -8,7 +8,7 @@ namespace brisel::platform::macos {
 
 class Alert final : public platform::Alert {
   public:
-    /// Returns 0 if AppKit raised an exception.
+    /// Brings the alert to the front. Returns 0 if AppKit raised an exception.
     int runModal(const AlertContent& content) override;
 };
 

@@ -4,6 +4,7 @@
 
 #include <dlfcn.h>
 #import <Security/Authorization.h>
+#include <sys/wait.h>
 
 #include "platform/macos/ToolOutput.h"
 
@@ -14,11 +15,26 @@ namespace {
 using ExecuteWithPrivileges = ::OSStatus (*)(::AuthorizationRef, const char*, ::AuthorizationFlags,
                                              char* const*, std::FILE**);
 
+void* executeSymbol() {
+    constexpr const char* Name = "AuthorizationExecuteWithPrivileges";
+    if (void* const found = dlsym(RTLD_DEFAULT, Name)) return found;
+    // macOS 26.2 is reported to find it this way only.
+    void* const framework =
+        dlopen("/System/Library/Frameworks/Security.framework/Security", RTLD_LAZY);
+    return framework != nullptr ? dlsym(framework, Name) : nullptr;
+}
+
 ExecuteWithPrivileges executeFunction() {
-    // Searches all loaded images. The result never changes.
-    static const auto function = reinterpret_cast<ExecuteWithPrivileges>(
-        dlsym(RTLD_DEFAULT, "AuthorizationExecuteWithPrivileges"));
+    // The result never changes.
+    static const auto function = reinterpret_cast<ExecuteWithPrivileges>(executeSymbol());
     return function;
+}
+
+// After some failures the system's call leaves a child that it has not waited for. Waiting for any
+// child, as for a tool without a process ID, would take the exit status of that one.
+void reapLeftChildren() {
+    while (waitpid(0, nullptr, WNOHANG) > 0) {
+    }
 }
 
 ::AuthorizationRef systemReference(AuthorizationRef authorization) {
@@ -58,6 +74,7 @@ StartedTool Authorization::executeWithPrivileges(AuthorizationRef authorization,
                                                  char* const* arguments) {
     const auto execute = executeFunction();
     if (execute == nullptr) return {};
+    reapLeftChildren();
     std::FILE* stream = nullptr;
     const auto status =
         execute(systemReference(authorization), pathToTool, flags, arguments, &stream);

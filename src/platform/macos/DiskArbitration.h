@@ -4,6 +4,10 @@
 
 #import <DiskArbitration/DiskArbitration.h>
 
+#include <memory>
+#include <set>
+#include <string>
+
 #include "platform/DiskArbitration.h"
 #include "platform/macos/Owned.h"
 
@@ -24,8 +28,8 @@ class DiskArbitration final : public platform::DiskArbitration {
     [[nodiscard]] DiskDescription copyDescription(const Disk& disk) override;
 
     void unmount(const Disk& disk, Completion completion) override;
-    /// Fails with kDAReturnNotWritable if `rw` was requested and the volume came out read-only.
-    /// With a success instead, an automount would remount it forever.
+    /// Fails with kDAReturnNotWritable if `rw` was requested and the volume came out read-only for
+    /// the second time in a row. With a success instead, an automount would remount it forever.
     void mountWithArguments(const Disk& disk, const std::vector<std::string>& arguments,
                             Completion completion) override;
 
@@ -36,6 +40,9 @@ class DiskArbitration final : public platform::DiskArbitration {
     [[nodiscard]] Owned<DADiskRef> diskNamed(const std::string& name) const;
 
     Owned<DASessionRef> session_;
+    /// Names of the attached disks whose last read-write mount came out read-only.
+    const std::shared_ptr<std::set<std::string>> readOnlyDisks_ =
+        std::make_shared<std::set<std::string>>();
 };
 
 }  // namespace brisel::platform::macos

@@ -32,13 +32,14 @@ void report(DADiskRef disk, void* context) noexcept {
     @autoreleasepool {
         // A copy: the callback may end the registration.
         const auto callback = *static_cast<const DiskCallback*>(context);
-        callback({.bsdName = nameOf(disk), .reported = descriptionOf(disk)});
+        callback({.bsdName = nameOf(disk)}, descriptionOf(disk));
     }
 }
 
 struct Request {
     Completion completion;
-    bool mustBeWritable = false;
+    /// Null unless a read-write mount was requested.
+    std::shared_ptr<std::set<std::string>> readOnlyDisks;
 };
 
 std::optional<Dissenter> dissenterFrom(DADissenterRef dissenter) {
@@ -51,20 +52,28 @@ bool cameOutReadOnly(DADiskRef disk) {
     return path && isMountedReadOnly(path->path());
 }
 
+// Whether this mount and the disk's one before came out read-only. Updates `readOnlyDisks`.
+bool cameOutReadOnlyAgain(DADiskRef disk, std::set<std::string>& readOnlyDisks) {
+    if (cameOutReadOnly(disk)) return !readOnlyDisks.insert(nameOf(disk)).second;
+    readOnlyDisks.erase(nameOf(disk));
+    return false;
+}
+
 // The framework owns `disk` and `dissenter`; they are valid only during the call.
 void complete(DADiskRef disk, DADissenterRef dissenter, void* context) noexcept {
     @autoreleasepool {
         const std::unique_ptr<const Request> request(static_cast<const Request*>(context));
         auto refusal = dissenterFrom(dissenter);
-        if (!refusal && request->mustBeWritable && cameOutReadOnly(disk)) {
+        if (!refusal && request->readOnlyDisks &&
+            cameOutReadOnlyAgain(disk, *request->readOnlyDisks)) {
             refusal = Dissenter{.status = DAReturn::NotWritable};
         }
-        request->completion({.bsdName = nameOf(disk), .reported = std::nullopt}, refusal);
+        request->completion({.bsdName = nameOf(disk)}, refusal);
     }
 }
 
 void refuse(const Disk& disk, const Completion& completion) {
-    completion({.bsdName = disk.bsdName, .reported = std::nullopt}, Dissenter());
+    completion({.bsdName = disk.bsdName}, Dissenter());
 }
 
 /// The null-terminated string array of DADiskMountWithArguments, which reads it during the call.
@@ -104,7 +113,12 @@ Subscription DiskArbitration::registerDiskAppearedCallback(DiskCallback callback
 }
 
 Subscription DiskArbitration::registerDiskDisappearedCallback(DiskCallback callback) {
-    return registerCallback(&DARegisterDiskDisappearedCallback, std::move(callback));
+    auto forget = [disks = readOnlyDisks_, callback = std::move(callback)](
+                      const Disk& disk, const DiskDescription& description) {
+        disks->erase(disk.bsdName);
+        callback(disk, description);
+    };
+    return registerCallback(&DARegisterDiskDisappearedCallback, std::move(forget));
 }
 
 void DiskArbitration::scheduleWithRunLoop() {
@@ -121,7 +135,7 @@ Owned<DADiskRef> DiskArbitration::diskNamed(const std::string& name) const {
 
 std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
     if (!name || !diskNamed(*name)) return std::nullopt;
-    return Disk{.bsdName = *name, .reported = std::nullopt};
+    return Disk{.bsdName = *name};
 }
 
 std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<FileURL>& path) {
@@ -129,11 +143,10 @@ std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<File
     const Owned<DADiskRef> disk(DADiskCreateFromVolumePath(kCFAllocatorDefault, session_.get(),
                                                            (__bridge CFURLRef)nsURL(path)));
     if (!disk) return std::nullopt;
-    return Disk{.bsdName = nameOf(disk.get()), .reported = std::nullopt};
+    return Disk{.bsdName = nameOf(disk.get())};
 }
 
 DiskDescription DiskArbitration::copyDescription(const Disk& disk) {
-    if (disk.reported) return *disk.reported;
     const auto found = diskNamed(disk.bsdName);
     return found ? descriptionOf(found.get()) : DiskDescription();
 }
@@ -161,8 +174,8 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
     }
     auto request = std::make_unique<Request>();
     request->completion = std::move(completion);
-    request->mustBeWritable =
-        std::find(arguments.begin(), arguments.end(), "rw") != arguments.end();
+    const bool readWrite = std::find(arguments.begin(), arguments.end(), "rw") != arguments.end();
+    if (readWrite) request->readOnlyDisks = readOnlyDisks_;
     ArgumentArray strings(arguments);
     DADiskMountWithArguments(found.get(), nullptr, kDADiskMountOptionDefault, &complete,
                              request.release(), strings.data());

@@ -6,7 +6,8 @@
 
 namespace brisel::platform::macos {
 
-/// SMLoginItemSetEnabled is deprecated in macOS 13, and always fails on some newer systems.
+/// SMLoginItemSetEnabled, or SMAppService if that refuses: it is reported to refuse always on macOS
+/// 13 and later, where there is SMAppService. Logs that class's error.
 class LoginItems final : public platform::LoginItems {
   public:
     [[nodiscard]] bool setEnabled(const std::string& identifier, bool enabled) override;

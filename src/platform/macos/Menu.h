@@ -4,6 +4,7 @@
 
 #import <AppKit/AppKit.h>
 
+#include "platform/Bundle.h"
 #include "platform/macos/Owned.h"
 #include "platform/Menu.h"
 
@@ -15,9 +16,9 @@ class Menu final : public platform::Menu {
   public:
     Menu();
 
-    /// Sets the nib's menu and its check item. Call after loading the nib, before any other
-    /// function.
-    void connect(NSMenu* menu, NSMenuItem* checkItem);
+    /// Sets the nib's menu and its check item, and localises the items' titles, which are keys of
+    /// `bundle`. Call after loading the nib, before any other function.
+    void connect(NSMenu* menu, NSMenuItem* checkItem, const platform::Bundle& bundle);
     [[nodiscard]] NSMenu* menu() const { return menu_.get(); }
 
     void removeItemsWithTags(std::span<const int> tags) override;

@@ -91,9 +91,13 @@ const MenuItem* insertedItem(NSMenuItem* menuItem) {
 
 Menu::Menu() : target_([[BriselMenuTarget alloc] init]) {}
 
-void Menu::connect(NSMenu* menu, NSMenuItem* checkItem) {
+void Menu::connect(NSMenu* menu, NSMenuItem* checkItem, const platform::Bundle& bundle) {
     menu_ = retained(menu);
     checkItem_ = retained(checkItem);
+    for (NSMenuItem* menuItem in [menu itemArray]) {
+        if ([menuItem isSeparatorItem]) continue;
+        [menuItem setTitle:nsString(bundle.localizedString(stdString([menuItem title])))];
+    }
 }
 
 void Menu::removeItemsWithTags(std::span<const int> tags) {

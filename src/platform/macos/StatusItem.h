@@ -4,6 +4,8 @@
 
 #import <AppKit/AppKit.h>
 
+#include <memory>
+
 #include "platform/macos/Bundle.h"
 #include "platform/macos/Menu.h"
 #include "platform/macos/Owned.h"
@@ -18,7 +20,8 @@ class StatusItem final : public platform::StatusItem {
 
     void create(double length) override;
     void showStatusMenu() override;
-    /// Also sets the button's accessibility label to the state in words.
+    /// Also sets the button's accessibility label to the state in words. Sets only what differs
+    /// from what is up.
     void setImage(const std::optional<std::string>& name) override;
     [[nodiscard]] std::string effectiveAppearanceName() const override;
     [[nodiscard]] Subscription observeEffectiveAppearance(std::function<void()> changed) override;
@@ -28,6 +31,10 @@ class StatusItem final : public platform::StatusItem {
     const Bundle& bundle_;
     /// Releasing it removes it from the menu bar.
     Owned<NSStatusItem*> item_;
+    /// The name of the image that is up.
+    std::optional<std::string> image_;
+    /// Shared with the observations, which may outlive the item.
+    const std::shared_ptr<bool> settingImage_ = std::make_shared<bool>(false);
 };
 
 }  // namespace brisel::platform::macos

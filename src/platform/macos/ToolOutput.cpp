@@ -57,13 +57,18 @@ void carryOver(std::FILE* toolOutput, int destination) {
     std::fclose(toolOutput);
 }
 
-// Sockets, not a pipe: F_GETOWN is 0, as on the system's own stream. Close-on-exec, because a tool
-// that inherited them would keep the reader from end of file. False on failure.
+// Sockets, not a pipe, which has no owner on macOS. Close-on-exec, because a tool that inherited
+// them would keep the reader from end of file. False on failure.
 bool makeSockets(std::array<int, 2>& ends) {
     if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0) return false;
     for (const int end : ends)
         fcntl(end, F_SETFD, FD_CLOEXEC);
     return true;
+}
+
+// Failures are negative, and would name a process group.
+void setOwner(int descriptor, pid_t owner) {
+    if (owner > 0) fcntl(descriptor, F_SETOWN, owner);
 }
 
 bool startCarrying(std::FILE* toolOutput, int destination) {
@@ -80,6 +85,7 @@ bool startCarrying(std::FILE* toolOutput, int destination) {
 std::FILE* neverFull(std::FILE* toolOutput) {
     std::array<int, 2> ends{};
     if (!makeSockets(ends)) return toolOutput;
+    setOwner(ends[0], fcntl(fileno(toolOutput), F_GETOWN, 0));
     std::FILE* const stream = fdopen(ends[0], "r+");
     if (stream != nullptr && startCarrying(toolOutput, ends[1])) return stream;
     if (stream != nullptr) {

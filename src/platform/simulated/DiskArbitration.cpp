@@ -37,18 +37,17 @@ void DiskArbitration::scheduleWithRunLoop() {}
 
 std::optional<Disk> DiskArbitration::diskFromBSDName(const std::optional<std::string>& name) {
     if (faults_.strikes("diskFromBSDName") || dead_ || !name) return std::nullopt;
-    return Disk{.bsdName = *name, .reported = std::nullopt};
+    return Disk{.bsdName = *name};
 }
 
 std::optional<Disk> DiskArbitration::diskFromVolumePath(const std::optional<FileURL>& path) {
     if (faults_.strikes("diskFromVolumePath") || dead_ || !path) return std::nullopt;
     const auto found = diskMountedAt(*path);
     if (found == disks_.end()) return std::nullopt;
-    return Disk{.bsdName = found->first, .reported = std::nullopt};
+    return Disk{.bsdName = found->first};
 }
 
 DiskDescription DiskArbitration::copyDescription(const Disk& disk) {
-    if (disk.reported) return *disk.reported;
     const auto* const entry = find(disk.bsdName);
     return entry != nullptr ? entry->properties.description : DiskDescription();
 }
@@ -75,7 +74,7 @@ void DiskArbitration::mountWithArguments(const Disk& disk,
     transcript_.write(event);
     auto* const entry = find(disk.bsdName);
     const auto refusal = judgeMount(entry);
-    if (!refusal) mount(*entry, "/Volumes/" + textOf(entry->properties.description.volumeName));
+    if (!refusal) mount(*entry, "/Volumes/" + orNullText(entry->properties.description.volumeName));
     complete(disk, refusal, std::move(completion));
 }
 
@@ -103,7 +102,7 @@ void DiskArbitration::complete(const Disk& disk, std::optional<std::uint32_t> re
     auto work = [name = disk.bsdName, refusal, completion = std::move(completion)] {
         const auto dissenter =
             refusal ? std::optional<Dissenter>({.status = *refusal}) : std::nullopt;
-        completion({.bsdName = name, .reported = std::nullopt}, dissenter);
+        completion({.bsdName = name}, dissenter);
     };
     if (holding_) {
         held_.emplace_back(std::move(work));
@@ -154,12 +153,10 @@ void DiskArbitration::detach(const std::string& device) {
     if (path) fileSystem_.emptyFolder(path->path());
 }
 
-void DiskArbitration::postReport(const common::Signal<const Disk&>& signal,
-                                 const std::string& device) {
+void DiskArbitration::postReport(const Reports& signal, const std::string& device) {
     const auto& description = disks_.at(device).properties.description;
     if (signal.empty() || !description.volumeMountable.value_or(false)) return;
-    mainLoop_.post(
-        [&signal, disk = Disk{.bsdName = device, .reported = description}] { signal(disk); });
+    mainLoop_.post([&signal, device, description] { signal({.bsdName = device}, description); });
 }
 
 void DiskArbitration::refuseUnmount(const std::string& device, std::uint32_t status) {

@@ -79,11 +79,12 @@ class DiskArbitration final : public platform::DiskArbitration {
     };
 
     using Disks = std::map<std::string, Entry>;
+    using Reports = common::Signal<const Disk&, const DiskDescription&>;
 
     /// The attached disk last mounted at `path`, or the end of `disks_`.
     [[nodiscard]] Disks::const_iterator diskMountedAt(const FileURL& path) const;
     void mount(Entry& entry, const std::string& path);
-    void postReport(const common::Signal<const Disk&>& signal, const std::string& device);
+    void postReport(const Reports& signal, const std::string& device);
     void complete(const Disk& disk, std::optional<std::uint32_t> refusal, Completion completion);
     [[nodiscard]] std::optional<std::uint32_t> judgeUnmount(Entry* entry);
     [[nodiscard]] std::optional<std::uint32_t> judgeMount(Entry* entry);
@@ -98,8 +99,8 @@ class DiskArbitration final : public platform::DiskArbitration {
     std::uint64_t order_ = 0;
     Disks disks_;
     std::vector<std::function<void()>> held_;
-    common::Signal<const Disk&> appeared_;
-    common::Signal<const Disk&> disappeared_;
+    Reports appeared_;
+    Reports disappeared_;
 };
 
 }  // namespace brisel::platform::simulated

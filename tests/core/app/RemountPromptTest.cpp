@@ -197,8 +197,11 @@ class Response : public RunningProgram {
     }
 };
 
-TEST_F(Response, StartsTheRemount) {
+TEST_F(Response, StartsTheRemountOfAVolumeThatIsListedAndReadOnly) {
+    EXPECT_FALSE(isPromptOpen(manager(), {{"volume", "disk9s1"}}));
+    EXPECT_TRUE(isPromptOpen(manager(), {{"volume", "disk4s1"}}));
     respond("DO_MOUNT", "disk4s1");
+    EXPECT_FALSE(isPromptOpen(manager(), {{"volume", "disk4s1"}}));
     EXPECT_THAT(newLines(), Contains("unmount: disk4s1"));
     EXPECT_TRUE(volume()->writable());
 }

@@ -118,8 +118,7 @@ TEST_F(BusyMoment, DoesNotBeginIfAnAutomaticRemountFindsNoDisk) {
         busy = manager().inProgress();
         return 0;
     };
-    diskAppeared(manager(),
-                 {.bsdName = "disk4s1", .reported = ntfsDisk("Data", SomeUUID).description});
+    diskAppeared(manager(), {.bsdName = "disk4s1"}, ntfsDisk("Data", SomeUUID).description);
     EXPECT_EQ(person.alertsSeen.size(), 1U);
     EXPECT_FALSE(busy);
 }

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "app/UnplugNotice.h"
+#include "platform/common/Bundle.h"
 #include "tests/support/RunningProgram.h"
 
 namespace brisel::tests {
@@ -41,6 +43,22 @@ TEST_F(Unmount, DropsARemountedVolumeAndItsMountPoint) {
                             "delete: /Users/user/.brisel/Data"));
     EXPECT_TRUE(manager().volumes().empty());
     EXPECT_FALSE(mac.fileSystem.hasFolder("/Users/user/.brisel/Data"));
+}
+
+TEST_F(Unmount, PostsANotificationOnceTheVolumeIsUnmounted) {
+    std::vector<std::string> posted;
+    const auto observer = mac.notificationCenter.addObserver(
+        NTFSVolumeDidUnmountNotification, [&posted](const void* object) {
+            const UnplugNotice notice(platform::common::Bundle(),
+                                      *static_cast<const NTFSVolume*>(object));
+            posted = {notice.title, notice.body};
+        });
+    attachWritable("disk4s1", "Data");
+    mac.diskArbitration.refuseUnmount("disk4s1", platform::DAReturn::Busy);
+    choose("unmount");
+    EXPECT_THAT(posted, ElementsAre());
+    choose("unmount");
+    EXPECT_THAT(posted, ElementsAre("Data unmounted", "You may unplug the device now."));
 }
 
 TEST_F(Unmount, PrefersThePathOfItsOwnMount) {
@@ -148,7 +166,7 @@ TEST_F(Unmount, LeavesTheAutomountListAlone) {
 
 TEST_F(Unmount, CompletesForAnUnknownDisk) {
     attachWritable("disk4s1", "Data");
-    unmountDidFinish(manager(), {.bsdName = "disk9", .reported = {}}, std::nullopt);
+    unmountDidFinish(manager(), {.bsdName = "disk9"}, std::nullopt);
     EXPECT_THAT(devices(), ElementsAre("disk4s1"));
     EXPECT_THAT(newLines(), ElementsAre());
 }

@@ -20,7 +20,7 @@ class Launch : public PrivilegedTask {
 };
 
 TEST_F(Launch, AsksForTheRightThenStartsTheToolThenFrees) {
-    const auto made = task("/bin/true");
+    const auto made = task("/usr/bin/true");
     EXPECT_EQ(made->launch(), 0);
     made->waitUntilExit();
     EXPECT_THAT(tools.calls, ElementsAre("create", "copyRights", "execute", "free"));
@@ -52,6 +52,15 @@ TEST_F(Launch, DescribesAPathShorterThanAPointerByItsFirstBytes) {
     EXPECT_EQ(std::memcmp(tools.value.data(), &pointer, 3), 0);
 }
 
+TEST_F(Launch, WithoutALaunchPathAsksForAnEmptyOneAndStartsNoTool) {
+    const auto made = task("");
+    EXPECT_EQ(made->launch(), 0);
+    EXPECT_EQ(tools.valueLength, 0U);
+    made->waitUntilExit();
+    EXPECT_NE(made->terminationStatus(), 0);
+    EXPECT_EQ(made->outputFileHandle()->readDataToEndOfFile(), "");
+}
+
 TEST_F(Launch, RunsTheToolAndItsArgumentsAsTheyStand) {
     const std::vector<std::string> arguments{"%s|", "a b", "it's", "\"q\"", "", "*", "$HOME", "\n"};
     EXPECT_EQ(outputOf(task("/usr/bin/printf", arguments)), "a b|it's|\"q\"||*|$HOME|\n|");
@@ -80,7 +89,7 @@ TEST_F(Launch, ChangesTheWorkingDirectoryForTheCallOnly) {
 
 TEST_F(Launch, IgnoresAWorkingDirectoryThatIsNotThere) {
     const auto before = std::filesystem::current_path();
-    const auto made = task("/bin/true");
+    const auto made = task("/usr/bin/true");
     made->setCurrentDirectoryPath("/no/such/folder");
     EXPECT_EQ(made->launch(), 0);
     made->waitUntilExit();
@@ -90,7 +99,7 @@ TEST_F(Launch, IgnoresAWorkingDirectoryThatIsNotThere) {
 
 TEST_F(Launch, RestoresTheWorkingDirectoryAfterAFailure) {
     const auto before = std::filesystem::current_path();
-    const auto made = task("/bin/true");
+    const auto made = task("/usr/bin/true");
     made->setCurrentDirectoryPath("/usr/bin");
     tools.executeStatus = -60031;
     EXPECT_EQ(made->launch(), -60031);
@@ -98,7 +107,7 @@ TEST_F(Launch, RestoresTheWorkingDirectoryAfterAFailure) {
 }
 
 TEST_F(Launch, ReturnsTheStatusOfAFailedStartAndChangesNothing) {
-    const auto made = task("/bin/true");
+    const auto made = task("/usr/bin/true");
     tools.executeStatus = -60031;
     EXPECT_EQ(made->launch(), -60031);
     expectUntouched(made);
@@ -107,7 +116,7 @@ TEST_F(Launch, ReturnsTheStatusOfAFailedStartAndChangesNothing) {
 }
 
 TEST_F(Launch, ReturnsTheStatusOfAFailedAuthorization) {
-    const auto made = task("/bin/true");
+    const auto made = task("/usr/bin/true");
     tools.createStatus = -60008;
     EXPECT_EQ(made->launch(), -60008);
     expectUntouched(made);
@@ -116,7 +125,7 @@ TEST_F(Launch, ReturnsTheStatusOfAFailedAuthorization) {
 }
 
 TEST_F(Launch, ReturnsTheStatusOfARefusalAndFreesNothing) {
-    const auto made = task("/bin/true");
+    const auto made = task("/usr/bin/true");
     tools.copyStatus = -60006;
     EXPECT_EQ(made->launch(), -60006);
     expectUntouched(made);
@@ -125,7 +134,7 @@ TEST_F(Launch, ReturnsTheStatusOfARefusalAndFreesNothing) {
 }
 
 TEST_F(Launch, LeavesTheReferenceUnfreedOnRefusalAlone) {
-    const auto made = KJPrivilegedTask::initWithLaunchPath(mac.platform, "/bin/true");
+    const auto made = KJPrivilegedTask::initWithLaunchPath(mac.platform, "/usr/bin/true");
     EXPECT_EQ(made->launch(), 0);
     made->waitUntilExit();
     EXPECT_EQ(mac.authorization.unfreed(), 0U);
@@ -136,7 +145,7 @@ TEST_F(Launch, LeavesTheReferenceUnfreedOnRefusalAlone) {
 
 TEST_F(Launch, FailsWithItsOwnCodeWhereTheCallIsMissing) {
     mac.authorization.removeExecuteWithPrivileges();
-    const auto made = KJPrivilegedTask::initWithLaunchPath(mac.platform, "/bin/true");
+    const auto made = KJPrivilegedTask::initWithLaunchPath(mac.platform, "/usr/bin/true");
     EXPECT_EQ(made->launch(), -70001);
     EXPECT_EQ(made->launchWithAuthorization(nullptr), -70001);
     constexpr const char* Line =
@@ -147,7 +156,7 @@ TEST_F(Launch, FailsWithItsOwnCodeWhereTheCallIsMissing) {
 }
 
 TEST_F(Launch, UsesAnAuthorizationThatTheCallerHolds) {
-    const auto made = task("/bin/true");
+    const auto made = task("/usr/bin/true");
     EXPECT_EQ(made->launchWithAuthorization(tools.own()), 0);
     made->waitUntilExit();
     EXPECT_THAT(tools.calls, ElementsAre("execute"));

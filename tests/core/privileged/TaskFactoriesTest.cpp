@@ -47,13 +47,14 @@ TEST_F(TaskFactory, ReturnsATaskAlsoWhereTheLaunchFailed) {
     tools.executeStatus = -60031;
     tools.copyStatus = -60006;
     const std::vector<Task> made{
-        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPath(withTools, "/bin/true"),
-        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArguments(withTools, "/bin/true", {}),
+        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPath(withTools, "/usr/bin/true"),
+        KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArguments(withTools, "/usr/bin/true",
+                                                                        {}),
         KJPrivilegedTask::launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectory(
-            withTools, "/bin/true", {}, "/"),
+            withTools, "/usr/bin/true", {}, "/"),
         KJPrivilegedTask::
             launchedPrivilegedTaskWithLaunchPathArgumentsCurrentDirectoryAuthorization(
-                withTools, "/bin/true", {}, "/", tools.own())};
+                withTools, "/usr/bin/true", {}, "/", tools.own())};
     for (const auto& one : made) {
         EXPECT_FALSE(one->isRunning());
         EXPECT_EQ(one->terminationStatus(), 0);

@@ -80,6 +80,10 @@ TEST_F(TaskDescription, NeverHoldsTheCurrentDirectory) {
     EXPECT_THAT(made->description(), AllOf(Not(HasSubstr("/some/where")), Not(HasSubstr("CWD"))));
 }
 
+TEST_F(TaskDescription, WithoutALaunchPathHoldsTheArgumentsAlone) {
+    EXPECT_THAT(task("", {"-l"})->description(), EndsWith(">  '-l'"));
+}
+
 TEST_F(TaskDescription, DistinguishesTwoTasks) {
     const auto one = task("/bin/ls");
     const auto other = task("/bin/ls");

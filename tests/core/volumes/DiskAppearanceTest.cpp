@@ -59,7 +59,7 @@ TEST_F(DiskAppearance, RecordsADiskThatIsNotMountedAsReadOnlyThoughTheRootIsWrit
 TEST_F(DiskAppearance, RecordsTheTextOfAMissingDeviceNode) {
     auto disk = ntfsDisk("Data");
     disk.description.mediaBSDName.reset();
-    diskAppeared(manager(), {.bsdName = "disk4s1", .reported = disk.description});
+    diskAppeared(manager(), {.bsdName = "disk4s1"}, disk.description);
     EXPECT_EQ(volume()->deviceNode(), "(null)");
 }
 
@@ -74,7 +74,7 @@ TEST_F(DiskAppearance, OnlyLogsADiskThatIsNotMountable) {
     auto disk = ntfsDisk("Data");
     for (const std::optional<bool> mountable : {std::optional(false), std::optional<bool>()}) {
         disk.description.volumeMountable = mountable;
-        diskAppeared(manager(), {.bsdName = "disk4s1", .reported = disk.description});
+        diskAppeared(manager(), {.bsdName = "disk4s1"}, disk.description);
         EXPECT_THAT(newLines(), ElementsAre("log: disk disk4s1 appeared"));
     }
     EXPECT_TRUE(manager().volumes().empty());
@@ -120,14 +120,14 @@ TEST_F(DiskAppearance, AsksForWritabilityBeforeAnyTest) {
 }
 
 TEST_F(DiskAppearance, RecordsADescriptionWithoutAnyName) {
-    diskAppeared(manager(), {.bsdName = "disk9",
-                             .reported = platform::DiskDescription{.volumeMountable = true,
-                                                                   .volumeKind = "ntfs",
-                                                                   .volumeName = {},
-                                                                   .mediaBSDName = {},
-                                                                   .volumePath = {},
-                                                                   .mediaUUID = {},
-                                                                   .volumeUUID = {}}});
+    diskAppeared(manager(), {.bsdName = "disk9"},
+                 platform::DiskDescription{.volumeMountable = true,
+                                           .volumeKind = "ntfs",
+                                           .volumeName = {},
+                                           .mediaBSDName = {},
+                                           .volumePath = {},
+                                           .mediaUUID = {},
+                                           .volumeUUID = {}});
     EXPECT_THAT(devices(), ElementsAre("(null)"));
     EXPECT_THAT(labels(), ElementsAre("(null)"));
     EXPECT_THAT(newLogLines(), ElementsAre("disk disk9 appeared"));
@@ -171,7 +171,7 @@ TEST_F(DiskAppearance, DoesNotRebuildTheMenuWhereTheRemountFindsNoDisk) {
     storeAutomountList({SomeUUID});
     auto disk = ntfsDisk("Data", SomeUUID);
     disk.description.mediaBSDName.reset();
-    diskAppeared(manager(), {.bsdName = "disk4s1", .reported = disk.description});
+    diskAppeared(manager(), {.bsdName = "disk4s1"}, disk.description);
     EXPECT_THAT(newLines(), Not(Contains(StartsWith("menu:"))));
     EXPECT_EQ(person.alertsSeen.size(), 1U);
     EXPECT_EQ(manager().volumes().size(), 1U);

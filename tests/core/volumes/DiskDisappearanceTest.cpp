@@ -121,10 +121,10 @@ TEST_F(DiskDisappearance, IgnoresADiskThatIsNotMountableOrOfNoKind) {
     attachQuietly("disk4s1", "Data");
     auto description = mac.diskArbitration.properties("disk4s1").description;
     description.volumeMountable.reset();
-    diskDisappeared(manager(), {.bsdName = "disk4s1", .reported = description});
+    diskDisappeared(manager(), {.bsdName = "disk4s1"}, description);
     description.volumeMountable = true;
     description.volumeKind.reset();
-    diskDisappeared(manager(), {.bsdName = "disk4s1", .reported = description});
+    diskDisappeared(manager(), {.bsdName = "disk4s1"}, description);
     EXPECT_THAT(newLines(),
                 ElementsAre("log: disk disk4s1 disappeared", "log: disk disk4s1 disappeared"));
     EXPECT_EQ(manager().volumes().size(), 1U);

@@ -10,6 +10,7 @@ from .session import NOTIFICATIONS
 from .waiting import NeverHappened, wait_for
 
 PATH = "/org/freedesktop/Notifications"
+EXPIRED = 1
 DISMISSED = 2
 CLOSED = 3
 
@@ -24,6 +25,7 @@ class Notification:
     actions: dict
     replaced: int
     hints: dict
+    timeout: int
     moment: float = field(default_factory=time.monotonic)
 
 
@@ -50,6 +52,8 @@ class NotificationServer(bus.Service):
         # A connection of its own, because closing it must look like the server's end.
         super().__init__(bus.connect(address), PATH)
         self.posted = []
+        # Those on screen.
+        self.open = {}
         self._last_id = 0
         bus.own_name(self.connection, NOTIFICATIONS)
 
@@ -58,14 +62,23 @@ class NotificationServer(bus.Service):
 
     # Names and parameters are those of the D-Bus method. pylint: disable=invalid-name
     # pylint: disable=too-many-arguments
-    def Notify(self, _application, replaces, _icon, summary, body, actions, hints, _timeout):
-        self._last_id = replaces or self._last_id + 1
+    def Notify(self, _application, replaces, _icon, summary, body, actions, hints, timeout):
+        number = replaces or self._last_id + 1
+        self._last_id = max(self._last_id, number)
         buttons = dict(zip(actions[::2], actions[1::2]))
-        self.posted.append(Notification(self._last_id, summary, body, buttons, replaces, hints))
-        return (self._last_id,)
+        posted = Notification(number, summary, body, buttons, replaces, hints, timeout)
+        self.posted.append(posted)
+        if self.pops_up(posted):
+            self.open[number] = posted
+        return (number,)
+
+    def pops_up(self, _notification):
+        """Whether a notification that was posted is shown."""
+        return True
 
     def CloseNotification(self, number):
-        self._closed(number, CLOSED)
+        if number in self.open:
+            self._closed(number, CLOSED)
         return ()
 
     def GetCapabilities(self):
@@ -75,6 +88,7 @@ class NotificationServer(bus.Service):
         return ("stage", "Brisel", "1", "1.2")
 
     def _closed(self, number, reason):
+        self.open.pop(number, None)
         self.emit(NOTIFICATIONS, "NotificationClosed", "(uu)", number, reason)
 
     def wait_for(self, summary, after=0):
@@ -85,6 +99,19 @@ class NotificationServer(bus.Service):
             return wait_for(find, f'"{summary}" is posted')
         except NeverHappened as problem:
             raise NeverHappened(f"{problem}; posted were {self.posted}") from None
+
+    def wait_until_open(self, summary):
+        """Waits until a notification with this summary is on screen; returns it."""
+        return wait_for(lambda: next((one for one in list(self.open.values())
+                                      if one.summary == summary), None), f'"{summary}" is shown')
+
+    def wait_until_withdrawn(self, notification):
+        wait_for(lambda: notification.id not in self.open,
+                 f'"{notification.summary}" is withdrawn')
+
+    def expire(self, notification):
+        """Closes the notification, as after its time."""
+        GLib.idle_add(lambda: self._closed(notification.id, EXPIRED))
 
     def press(self, notification, action):
         """Presses the button of `action`; the notification closes."""
@@ -97,6 +124,26 @@ class NotificationServer(bus.Service):
         self.emit(NOTIFICATIONS, "ActionInvoked", "(us)", number, action)
         self._closed(number, DISMISSED)
         return GLib.SOURCE_REMOVE
+
+
+class PlasmaNotifications(NotificationServer):
+    """Shows only new notifications, and replacements of open ones; any other replacement changes
+    the history alone."""
+
+    def pops_up(self, notification):
+        return not notification.replaced or notification.replaced in self.open
+
+
+class NotificationsWithoutButtons(NotificationServer):
+    """Draws no buttons; a click does the default action and leaves the notification open, as in
+    mako."""
+
+    def click(self, notification):
+        """Clicks the notification."""
+        if "default" not in notification.actions:
+            raise AssertionError(f"{notification} has no default action")
+        GLib.idle_add(lambda: self.emit(NOTIFICATIONS, "ActionInvoked", "(us)", notification.id,
+                                        "default"))
 
 
 class NotificationWindow:

@@ -36,11 +36,11 @@ PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 </channel>
 """
 
-# A file manager that records the URIs it is asked to show.
+# A file manager that records the URIs it is asked to show, or cannot start.
 FILE_MANAGER = """[Desktop Entry]
 Type=Application
 Name=The stage's file manager
-Exec=sh -c 'printf "%%s\\n" "$1" >>"$HOME/shown"' sh %u
+Exec=sh -c '[ ! -e "$HOME/broken" ] || exit 3; printf "%%s\\n" "$1" >>"$HOME/shown"' sh %u
 MimeType=inode/directory;
 """
 DEFAULT_PROGRAMS = """[Default Applications]
@@ -217,6 +217,13 @@ class Session:
             left, top, width, height = part
             options = ["-crop", f"{width}x{height}+{left}+{top}", "+repage"]
         run("import", "-window", "root", "-display", self.environment["DISPLAY"], *options, file)
+
+    def brightness(self, window):
+        """The mean brightness of a window, from 0 to 1."""
+        left, top, width, height = self.geometry(window)
+        return float(self.run(
+            "import", "-window", "root", "-crop", f"{width}x{height}+{left}+{top}",
+            "-colorspace", "Gray", "-format", "%[fx:mean]", "info:"))
 
     def wait_until_still(self):
         """Waits until the screen stops changing: window contents fade in after the window appears.

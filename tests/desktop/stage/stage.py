@@ -158,10 +158,15 @@ class Stage:
         self._story.close()
         self.session.stop_notification_server()
 
-    def start_notification_mock(self):
+    def start_notification_mock(self, kind=NotificationServer):
         self.stop_notifications()
-        self.notifications = NotificationServer(self.session.bus.address)
+        self.notifications = kind(self.session.bus.address)
         self._story.callback(self.stop_notifications)
+
+    def start_host(self, kind):
+        """Replaces the panel by a fake host for this story."""
+        self.session.stop_panel()
+        return self._story.enter_context(closing(kind(self.session.bus.address)))
 
     def stop_notifications(self):
         """Leaves the desktop without a notification server."""

@@ -48,7 +48,8 @@ class Tray:
 
     def _registered(self):
         try:
-            return any(item.startswith(self._name) for item in self.all_items())
+            owner = bus.driver(self._connection, "GetNameOwner", "(s)", self._name)
+            return any(item.startswith(owner) for item in self.all_items())
         except GLib.Error:
             return False
 

@@ -86,6 +86,20 @@ class Desk(Story):
         self.start_brisel()
         self.tray.wait_for_icon("brisel-status-grey-dark")
 
+    def test_the_windows_follow_the_desktop_into_the_dark(self):
+        self.stage.portal.choose(portal.DARK)
+        self.stage.preferences.forget()
+        self.brisel = self.stage.start_brisel()
+        notice = self.stage.alerts.wait_for("A Warning Notice")
+        session = self.stage.session
+        wait_for(lambda: 0 < session.brightness(notice) < 0.4, "the window is dark")
+        self.take_picture("dark")
+        self.stage.portal.choose(portal.LIGHT)
+        wait_for(lambda: session.brightness(notice) > 0.6, "the window is light")
+        self.stage.portal.choose(portal.DARK)
+        wait_for(lambda: session.brightness(notice) < 0.4, "the window is dark again")
+        self.stage.alerts.answer(notice, "Return")
+
     def test_the_icon_says_in_words_what_it_shows(self):
         self.start_brisel()
         self.tray.wait_for_colour("grey")

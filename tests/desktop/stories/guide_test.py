@@ -54,7 +54,7 @@ class Guide(Story):
         second = self.attach("Music")
         self.accept_prompt(second, posted)
         self.wait_for_writable(second)
-        self.tray.choose("mount automatically", below="show Music in Finder")
+        self.tray.choose("mount automatically", below="show the folder of Music")
         self.tray.wait_for_entry("mount manually")
         self.attach("Work")
         self.tray.wait_for_entry("re-mount Work")

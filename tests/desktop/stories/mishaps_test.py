@@ -82,6 +82,6 @@ class Mishaps(Story):
         second = self.attach("StageSecond")
         self.accept_prompt(second)
         second.wait_until_writable()
-        self.tray.wait_for_entry("show StageSecond in Finder")
+        self.tray.wait_for_entry("show the folder of StageSecond")
         self.assertEqual(first.mounts(), [])
         self.assertTrue(self.brisel.program.runs())

@@ -36,6 +36,7 @@ class MountTool(Story):
         self.write_greeting(folder)
         self.unmount(stick)
         self.assertFalse(os.path.exists(self.mount_point()))
+        self.notifications.wait_for("StageData unmounted")
         self.assert_greeting_arrived(stick)
 
     @on_real_disks_only(REASON)

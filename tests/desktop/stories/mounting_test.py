@@ -20,14 +20,15 @@ class Mounting(Story):
         stick = self.attach("StageData")
         prompt = self.notifications.wait_for("StageData detected")
         self.assertEqual(prompt.body, "Re-mount it read-write?")
-        self.assertEqual(prompt.actions, {"DO_MOUNT": "Yes, sure!", "NOTHING": "No, thanks."})
+        self.assertEqual(prompt.actions, {
+            "default": "Brisel", "DO_MOUNT": "Yes, sure!", "NOTHING": "No, thanks."})
         self.tray.wait_for_colour("green")
         self.assertEqual(self.tray.labels()[0], "re-mount StageData")
         self.take_picture("prompt")
         self.notifications.press(prompt, "DO_MOUNT")
         folder = self.wait_for_writable(stick)
         self.assertEqual(self.tray.labels()[:5], [
-            "show StageData in Finder", "unmount", "remove all extended attributes",
+            "show the folder of StageData", "unmount", "remove all extended attributes",
             "mount automatically", None])
         self.wait_until_shown(folder)
         self.write_greeting(folder)
@@ -52,7 +53,7 @@ class Mounting(Story):
         folder = self.make_writable(stick)
         self.wait_until_shown(folder)
         before = len(self.folders_shown())
-        self.tray.choose("show StageData in Finder")
+        self.tray.choose("show the folder of StageData")
         wait_for(lambda: len(self.folders_shown()) > before, "the folder is shown again")
         self.wait_until_shown(folder)
 
@@ -67,6 +68,16 @@ class Mounting(Story):
         self.write_greeting(folder)
         self.unmount(stick)
         self.assert_greeting_arrived(stick)
+
+    def test_after_unmount_a_notification_lets_the_stick_be_unplugged(self):
+        self.start_brisel()
+        stick = self.attach("StageData")
+        self.make_writable(stick)
+        self.unmount(stick)
+        notice = self.notifications.wait_for("StageData unmounted")
+        self.assertEqual(notice.body, "You may unplug the device now.")
+        self.assertEqual(notice.actions, {})
+        self.assertGreater(notice.timeout, 0)
 
     def test_a_no_to_the_prompt_leaves_the_stick_alone(self):
         self.start_brisel()
@@ -130,7 +141,7 @@ class Mounting(Story):
         self.tray.wait_for_entry("re-mount StageData")
         self.tray.choose(f"re-mount StageData-{second.node}")
         second.wait_until_writable()
-        self.tray.wait_for_entry(f"show StageData-{second.node} in Finder")
+        self.tray.wait_for_entry(f"show the folder of StageData-{second.node}")
         self.assertEqual(first.mounts(), [])
         self.tray.wait_for_entry("re-mount StageData")
 

@@ -83,15 +83,15 @@ class Story(unittest.TestCase):
 
     def wait_for_writable(self, stick):
         """Waits for menu, icon and mount; returns the folder."""
-        self.tray.wait_for_entry(f"show {stick.label} in Finder")
+        self.tray.wait_for_entry(f"show the folder of {stick.label}")
         self.tray.wait_for_colour("blue")
         # Last: the mount tool mounts elsewhere first, then moves the mount.
         return stick.wait_until_writable()
 
     def unmount(self, stick):
-        self.tray.choose("unmount", below=f"show {stick.label} in Finder")
+        self.tray.choose("unmount", below=f"show the folder of {stick.label}")
         stick.wait_until_unmounted()
-        self.tray.wait_until_gone(f"show {stick.label} in Finder")
+        self.tray.wait_until_gone(f"show the folder of {stick.label}")
 
     def in_use(self, stick, folder):
         """While in context, the stick cannot be unmounted."""

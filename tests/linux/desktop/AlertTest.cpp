@@ -36,8 +36,8 @@ class AnAlert : public testing::Test {
         return Alert({.log = log_,
                       .mainThread = mainThread_,
                       .notifications = notifications_,
-                      .interruption = interruption,
-                      .dialog = dialog,
+                      .terminationSignals = interruption,
+                      .dialog = {.path = dialog, .activationToken = activationToken_},
                       .patience = patience})
             .runModal(content);
     }
@@ -62,6 +62,7 @@ class AnAlert : public testing::Test {
     tests::TestLoop loop_;
     tests::RecordedLog log_;
     MainThreadQueue mainThread_;
+    ActivationToken activationToken_;
     tests::BusyNotifications desktop_{{}};
     NotificationServer notifications_{tests::SessionBus::shared().program()};
 };
@@ -192,8 +193,8 @@ TEST_F(TheAppearanceUnderAnAlert, FollowsTheDesktop) {
     Alert alert({.log = log_,
                  .mainThread = mainThread_,
                  .notifications = notifications,
-                 .interruption = NoInterruption,
-                 .dialog = dialog.path()});
+                 .terminationSignals = NoInterruption,
+                 .dialog = dialog.program()});
     EXPECT_EQ(alert.runModal(Question), AlertFirstButtonReturn);
     program.run([&] { portal.reset(); });
 }

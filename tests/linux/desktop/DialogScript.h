@@ -10,6 +10,7 @@
 #include <sstream>
 #include <string>
 
+#include "platform/desktop/DialogProcess.h"
 #include "tests/linux/TemporaryFolder.h"
 
 namespace brisel::tests {
@@ -24,6 +25,9 @@ class DialogScript {
     }
 
     [[nodiscard]] std::string path() const { return folder_.path() + "/dialog"; }
+    [[nodiscard]] platform::desktop::DialogProgram program() const {
+        return {.path = path(), .activationToken = activationToken};
+    }
     [[nodiscard]] std::string file(const std::string& name) const {
         return folder_.path() + "/" + name;
     }
@@ -40,6 +44,8 @@ class DialogScript {
         const auto pid = std::atoi(textIn("pid").c_str());
         return pid > 0 && kill(pid, 0) != 0;
     }
+
+    mutable platform::desktop::ActivationToken activationToken;
 
   private:
     TemporaryFolder folder_;

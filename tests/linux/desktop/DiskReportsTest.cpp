@@ -6,7 +6,9 @@
 #include <memory>
 
 #include "platform/headless/DiskArbitration.h"
+#include "platform/headless/DiskDescriptions.h"
 #include "platform/headless/MountFolder.h"
+#include "platform/headless/SignalBacklog.h"
 #include "tests/linux/desktop/FakeDesktop.h"
 #include "tests/linux/desktop/FakeDisks.h"
 
@@ -24,9 +26,9 @@ class DiskReports : public testing::Test {
         machine_.run([this] { disks_ = std::make_unique<FakeDisks>(); });
         arbitration_.createSession();
         appeared_ = arbitration_.registerDiskAppearedCallback(
-            [this](const Disk& disk) { note("appeared", disk); });
+            [this](const auto& disk, const auto& is) { note("appeared", disk, is); });
         disappeared_ = arbitration_.registerDiskDisappearedCallback(
-            [this](const Disk& disk) { note("disappeared", disk); });
+            [this](const auto& disk, const auto& was) { note("disappeared", disk, was); });
         tests::turnUntil(
             [this] { return arbitration_.copyDescription(Volume).volumeKind.has_value(); });
     }
@@ -49,13 +51,13 @@ class DiskReports : public testing::Test {
             return arbitration_.copyDescription(Other).volumeName == std::to_string(changes_);
         });
     }
-    void note(const std::string& event, const Disk& disk) {
-        const auto path = arbitration_.copyDescription(disk).volumePath;
+    void note(const std::string& event, const Disk& disk, const DiskDescription& description) {
+        const auto& path = description.volumePath;
         events_.push_back(event + " " + disk.bsdName + (path ? " " + path->path() : ""));
     }
 
-    const Disk Volume{.bsdName = "sdz1", .reported = std::nullopt};
-    const Disk Other{.bsdName = "sdy1", .reported = std::nullopt};
+    const Disk Volume{.bsdName = "sdz1"};
+    const Disk Other{.bsdName = "sdy1"};
     tests::TestLoop loop_;
     tests::RecordedLog log_;
     tests::OtherProgram machine_;
@@ -116,7 +118,7 @@ TEST_F(DiskReports, DropADiskThatAnotherProgramUnmounts) {
 
 TEST_F(DiskReports, PassOverMountsOfTheMountTool) {
     start();
-    change([](auto& disks) { disks.setMounted("/run/brisel-x7Ghq2"); });
+    change([](auto& disks) { disks.setMounted("/run/brisel-x7Ghq2/volume"); });
     EXPECT_THAT(events_, IsEmpty());
     change([](auto& disks) {
         disks.setMounted(mountFolderIn(FileURL(g_get_home_dir()).path()) + "/Data");
@@ -133,6 +135,28 @@ TEST_F(DiskReports, PassOverTheProgramsOwnUnmount) {
     tests::turnUntil([&done] { return done; });
     change([](auto& /*disks*/) {});
     EXPECT_THAT(events_, IsEmpty());
+}
+
+TEST_F(DiskReports, AreFoldedWhileTheMainThreadIsBlocked) {
+    start();
+    constexpr int Pairs = 1000;
+    constexpr std::size_t Most = 2 * SignalBacklog::Limit;
+    machine_.run([this] {
+        for (int pair = 0; pair < Pairs; ++pair) {
+            disks_->remove();
+            disks_->add();
+        }
+        disks_->becomeVolume("ntfs", "FEDCBA9876543210");
+        disks_->waitUntilRead();
+    });
+    tests::turnUntil([this] {
+        return arbitration_.copyDescription(Volume).volumeUUID == uuidText("FEDCBA9876543210");
+    });
+    EXPECT_LE(events_.size(), Most);
+    EXPECT_EQ(events_.back(), "appeared sdz1");
+    change([](auto& disks) { disks.remove(); });
+    EXPECT_EQ(events_.back(), "disappeared sdz1");
+    EXPECT_THAT(log_.entries(), IsEmpty());
 }
 
 TEST_F(DiskReports, StandStillWhileTheServiceIsAway) {

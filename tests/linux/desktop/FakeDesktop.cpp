@@ -20,12 +20,14 @@ const FakeService::Interface NotificationsInterface{.busName = "org.freedesktop.
                                                     .name = "org.freedesktop.Notifications",
                                                     .introspection = R"(
 <node><interface name='org.freedesktop.Notifications'>
+  <method name='GetServerInformation'/>
   <method name='GetCapabilities'/>
   <method name='Notify'>
     <arg type='s' direction='in'/><arg type='u' direction='in'/><arg type='s' direction='in'/>
     <arg type='s' direction='in'/><arg type='s' direction='in'/><arg type='as' direction='in'/>
     <arg type='a{sv}' direction='in'/><arg type='i' direction='in'/>
   </method>
+  <method name='CloseNotification'><arg type='u' direction='in'/></method>
 </interface></node>)"};
 
 const FakeService::Interface PortalInterface{.busName = "org.freedesktop.portal.Desktop",
@@ -89,6 +91,11 @@ FakeNotifications::FakeNotifications(std::vector<std::string> capabilities)
         call.answer(g_variant_new("(as)", &words));
     });
     service.on("Notify", [this](const BusCall& call) { notify(call); });
+    service.on("CloseNotification", [this](const BusCall& call) {
+        g_variant_get_child(call.arguments(), 0, "u", &withdrawn_.emplace_back());
+        call.answer(nullptr);
+        close(withdrawn_.back(), ClosedByCall);
+    });
 }
 
 void FakeNotifications::notify(const BusCall& call) {
@@ -107,6 +114,10 @@ void FakeNotifications::notify(const BusCall& call) {
 
 void FakeNotifications::invoke(std::uint32_t number, const char* action) const {
     service.emit("ActionInvoked", g_variant_new("(us)", number, action));
+}
+
+void FakeNotifications::giveToken(std::uint32_t number, const char* token) const {
+    service.emit("ActivationToken", g_variant_new("(us)", number, token));
 }
 
 void FakeNotifications::close(std::uint32_t number, std::uint32_t reason) const {

@@ -46,12 +46,17 @@ struct NotifyCall {
 
 class FakeNotifications {
   public:
+    static constexpr std::uint32_t ClosedByCall = 3;
+
     explicit FakeNotifications(std::vector<std::string> capabilities);
 
     /// Sets the ID of the next new notification; later ones count up from it.
     void numberFrom(std::uint32_t number) { next_ = number; }
     [[nodiscard]] const std::vector<NotifyCall>& calls() const { return calls_; }
+    /// The argument of each CloseNotification call, in order.
+    [[nodiscard]] const std::vector<std::uint32_t>& withdrawn() const { return withdrawn_; }
     void invoke(std::uint32_t number, const char* action) const;
+    void giveToken(std::uint32_t number, const char* token) const;
     void close(std::uint32_t number, std::uint32_t reason) const;
 
     FakeService service;
@@ -61,6 +66,7 @@ class FakeNotifications {
 
     std::uint32_t next_ = 1;
     std::vector<NotifyCall> calls_;
+    std::vector<std::uint32_t> withdrawn_;
 };
 
 /// FakeNotifications on its own thread.

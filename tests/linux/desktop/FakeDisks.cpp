@@ -100,6 +100,26 @@ void FakeDisks::relabelOther(const std::string& label) {
     g_dbus_interface_skeleton_flush(G_DBUS_INTERFACE_SKELETON(otherBlock_.get()));
 }
 
+OwnedVariant FakeDisks::callPeer(const char* name, const char* interface,
+                                 const char* method) const {
+    return OwnedVariant(g_dbus_connection_call_sync(bus_.get(), name, "/", interface, method,
+                                                    nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
+                                                    nullptr, nullptr));
+}
+
+// GLib's thread reads a connection's messages in order, and answers a ping itself.
+void FakeDisks::waitUntilRead() const {
+    constexpr const char* Bus = "org.freedesktop.DBus";
+    const auto answer = callPeer(Bus, Bus, "ListNames");
+    GVariantIter* names = nullptr;
+    g_variant_get(answer.get(), "(as)", &names);
+    const char* name = nullptr;
+    while (g_variant_iter_next(names, "&s", &name) != FALSE) {
+        if (*name == ':') static_cast<void>(callPeer(name, "org.freedesktop.DBus.Peer", "Ping"));
+    }
+    g_variant_iter_free(names);
+}
+
 bool FakeDisks::has(const std::string& driver) const {
     if (drivers_ == Drivers::Both) return true;
     return drivers_ == (driver == Ntfs3Driver ? Drivers::Kernel : Drivers::Fuse);

@@ -46,6 +46,8 @@ class FakeDisks {
     void add();
     /// Changes the label of another device, /dev/sdy1, which has no file system.
     void relabelOther(const std::string& label);
+    /// Waits until every connection to the bus has read the changes.
+    void waitUntilRead() const;
 
   private:
     struct MountCall {
@@ -53,6 +55,7 @@ class FakeDisks {
         std::string driver;
     };
 
+    OwnedVariant callPeer(const char* name, const char* interface, const char* method) const;
     [[nodiscard]] std::string resultOf(const MountCall& call);
     [[nodiscard]] std::string resultOn2_9(const MountCall& call);
     [[nodiscard]] std::string resultOn2_10(const MountCall& call);

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/linux/desktop/FakeService.h"
 
+#include <gio/gunixfdlist.h>
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 namespace brisel::tests {
 
@@ -16,6 +19,13 @@ void send(GDBusMethodInvocation* invocation, GDBusMessage* message) {
 }
 
 }  // namespace
+
+std::string BusCall::file() const {
+    auto* const files =
+        g_dbus_message_get_unix_fd_list(g_dbus_method_invocation_get_message(invocation_));
+    const auto number = std::to_string(g_unix_fd_list_peek_fds(files, nullptr)[0]);
+    return std::filesystem::read_symlink("/proc/self/fd/" + number);
+}
 
 void BusCall::answer(GVariant* tuple) const {
     auto* const reply =

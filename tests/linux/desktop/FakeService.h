@@ -22,6 +22,8 @@ class BusCall {
     [[nodiscard]] GVariant* arguments() const {
         return g_dbus_method_invocation_get_parameters(invocation_);
     }
+    /// The path of the file behind the first descriptor that was passed.
+    [[nodiscard]] std::string file() const;
     /// Replies with `tuple`, floating, or null for an empty one; it need not match the
     /// introspection.
     void answer(GVariant* tuple) const;

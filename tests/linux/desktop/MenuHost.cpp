@@ -26,13 +26,15 @@ ShownItem itemFrom(GVariant* wrapped) {
     if (g_variant_lookup(properties.get(), "type", "&s", &text) != FALSE)
         shown.separator = std::string(text) == "separator";
     shown.enabled = enabled != FALSE;
-    shown.checked = toggleState == 1 && std::string(toggleType) == "checkmark";
+    shown.checkable = std::string(toggleType) == "checkmark";
+    shown.checked = toggleState == 1;
     return shown;
 }
 
-std::string textOf(const ShownItem& item) {
+std::string orNullText(const ShownItem& item) {
     if (item.separator) return "---";
-    const auto label = item.label + (item.checked ? " [x]" : "");
+    const auto* const mark = item.checked ? " [x]" : " [ ]";
+    const auto label = item.label + (item.checkable ? mark : "");
     return item.enabled ? label : "(" + label + ")";
 }
 
@@ -41,7 +43,7 @@ std::string textOf(const ShownItem& item) {
 std::string ShownMenu::text() const {
     std::string text;
     for (const auto& item : items)
-        text += (text.empty() ? "" : " | ") + textOf(item);
+        text += (text.empty() ? "" : " | ") + orNullText(item);
     return text;
 }
 

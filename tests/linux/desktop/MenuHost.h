@@ -15,6 +15,7 @@ struct ShownItem {
     std::string label;
     bool separator = false;
     bool enabled = true;
+    bool checkable = false;
     bool checked = false;
 };
 
@@ -22,7 +23,7 @@ struct ShownMenu {
     std::uint32_t revision = 0;
     std::vector<ShownItem> items;
 
-    /// `LABEL | LABEL | ---`; checked items end in [x], disabled ones are in parentheses.
+    /// `LABEL | LABEL | ---`; check items end in [x] or [ ], disabled ones are in parentheses.
     [[nodiscard]] std::string text() const;
     [[nodiscard]] std::vector<int> ids() const;
     /// ID of the first item with this label; 0 if there is none.

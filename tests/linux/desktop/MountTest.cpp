@@ -56,7 +56,7 @@ class AMount : public testing::Test {
         return mount();
     }
 
-    const Disk Volume{.bsdName = "sdz1", .reported = std::nullopt};
+    const Disk Volume{.bsdName = "sdz1"};
     tests::TestLoop loop_;
     tests::RecordedLog log_;
     tests::TemporaryFolder folder_;
@@ -105,11 +105,11 @@ TEST_F(AWritableMount, IsMadeByTheDriverThatIsThereOnEveryRelease) {
 
 TEST_F(AWritableMount, ReportsTheDiskAsGoneBeforeItCompletes) {
     const auto disappeared = arbitration_.registerDiskDisappearedCallback(
-        [this](const Disk& disk) { log_.write(disk.bsdName + " disappeared"); });
+        [this](const Disk& disk, const auto&) { log_.write(disk.bsdName + " disappeared"); });
     arbitration_.scheduleWithRunLoop();
     auto appeared = false;
-    const auto appearance =
-        arbitration_.registerDiskAppearedCallback([&appeared](const Disk&) { appeared = true; });
+    const auto appearance = arbitration_.registerDiskAppearedCallback(
+        [&appeared](const auto&, const auto&) { appeared = true; });
     turnUntil([&appeared] { return appeared; });
     EXPECT_FALSE(mount().has_value());
     const auto entries = log_.entries();

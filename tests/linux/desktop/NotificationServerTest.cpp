@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 #include "platform/headless/Installation.h"
 #include "tests/linux/desktop/Notifications.h"
 
@@ -27,11 +29,13 @@ TEST_F(Notifications, NameTheApplication) {
     const auto& call = desktop.calls().front();
     EXPECT_EQ(call.program, "Brisel");
     EXPECT_EQ(call.icon, headless::applicationIcon());
-    EXPECT_THAT(call.icon, HasSubstr("org.brisel.Brisel"));
+    // mako shows no SVG.
+    EXPECT_THAT(call.icon, testing::EndsWith("/48x48/apps/org.brisel.Brisel.png"));
+    EXPECT_TRUE(std::filesystem::exists(call.icon)) << call.icon;
     EXPECT_EQ(call.summary, "Found");
     EXPECT_EQ(call.body, "Go?");
     EXPECT_EQ(call.replaces, 0U);
-    EXPECT_EQ(call.time, -1);
+    EXPECT_EQ(call.time, 0);
     EXPECT_THAT(call.hints, UnorderedElementsAre(Pair("urgency", "0x01"),
                                                  Pair("desktop-entry", "'org.brisel.Brisel'")));
 }
@@ -44,6 +48,34 @@ TEST_F(Notifications, HaveTheirButtonsInOrder) {
     show(notification);
     EXPECT_THAT(desktop.calls().front().actions,
                 ElementsAre("DO", "Yes, sure!", "NOT", "No,^Jthanks."));
+}
+
+// LXQt's server draws a button for it.
+TEST_F(Notifications, HaveNoDefaultActionOnLXQt) {
+    auto notification = popUp("Found");
+    notification.actions = {{"default", "Brisel"}, {"DO", "Yes, sure!"}};
+    FakeNotifications desktop({"actions"});
+    for (const char* const name : {"lxqt-notificationd", "mako"}) {
+        desktop.service.on("GetServerInformation", [name](const auto& call) {
+            call.answer(g_variant_new("(ssss)", name, "", "1", "1.2"));
+        });
+        desktop.service.appear();
+        show(notification);
+        leave(desktop);
+    }
+    EXPECT_THAT(desktop.calls().front().actions, ElementsAre("DO", "Yes, sure!"));
+    EXPECT_THAT(desktop.calls().back().actions,
+                ElementsAre("default", "Brisel", "DO", "Yes, sure!"));
+}
+
+TEST_F(Notifications, WithALifetimeGoByThemselves) {
+    FakeNotifications desktop({});
+    desktop.service.appear();
+    auto notification = popUp("Done");
+    notification.lifetime = std::chrono::seconds(8);
+    show(notification);
+    EXPECT_EQ(desktop.calls().front().time, 8000);
+    EXPECT_THAT(desktop.calls().front().hints, testing::Contains(Pair("transient", "true")));
 }
 
 // This includes the first notifications, and those of a server that replaces another.

@@ -46,16 +46,42 @@ TEST_F(ShownPrompts, ReportADismissal) {
                 ElementsAre(std::string("mount ") + NotificationDismissActionIdentifier + " Data"));
 }
 
-// Some desktops keep expired notifications in a list where they can still be answered.
-TEST_F(ShownPrompts, ReportNothingWhenTheyExpireButCanStillBeAnswered) {
-    prompt("mount", "Data");
-    desktop_.close(1, Expired);
-    desktop_.close(1, ClosedByCall);
-    catchUp();
+// A closed notification's number is invalid: Plasma would change its history without a pop-up.
+TEST_F(ShownPrompts, AreForgottenOnceClosedForAnyReason) {
+    std::uint32_t number = 0;
+    for (const auto reason : {Expired, ClosedByCall, Undefined}) {
+        prompt("mount", "Data");
+        EXPECT_EQ(desktop_.calls().back().replaces, 0U) << reason;
+        desktop_.close(++number, reason);
+        desktop_.invoke(number, "DO");
+        catchUp();
+    }
     EXPECT_THAT(responses_, IsEmpty());
-    desktop_.invoke(1, "DO");
+}
+
+// mako leaves a notification on screen after its action.
+TEST_F(ShownPrompts, AreWithdrawnAfterTheAnswer) {
+    prompt("mount", "Data");
+    desktop_.invoke(1, "NOT");
+    turnUntil([this] { return !desktop_.withdrawn().empty(); });
+    EXPECT_THAT(desktop_.withdrawn(), ElementsAre(1));
+}
+
+TEST_F(ShownPrompts, TakeAClickForTheDefaultAction) {
+    prompt("mount", "Data");
+    desktop_.invoke(1, "default");
     turnUntil([this] { return !responses_.empty(); });
-    EXPECT_THAT(responses_, ElementsAre("mount DO Data"));
+    EXPECT_THAT(responses_,
+                ElementsAre(std::string("mount ") + NotificationDefaultActionIdentifier + " Data"));
+}
+
+// Plasma sends every program the tokens of all.
+TEST_F(ShownPrompts, BringTheTokenOfTheirOwnClick) {
+    prompt("mount", "Data");
+    desktop_.giveToken(1, "ours");
+    desktop_.giveToken(2, "of another program");
+    catchUp();
+    EXPECT_EQ(activationToken_.take(), "ours");
 }
 
 TEST_F(ShownPrompts, AreForgottenWithTheirServer) {

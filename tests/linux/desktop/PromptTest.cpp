@@ -19,12 +19,14 @@ TEST_F(ShownPrompts, HaveTheTextsAndTheButtonsOfTheirCategoryAndASound) {
     const auto& call = desktop_.calls().front();
     EXPECT_EQ(call.summary, "Data detected");
     EXPECT_EQ(call.body, "Go?");
-    EXPECT_THAT(call.actions, ElementsAre("DO", "Yes, sure!", "NOT", "No, thanks."));
+    EXPECT_THAT(call.actions,
+                ElementsAre("default", "Brisel", "DO", "Yes, sure!", "NOT", "No, thanks."));
+    EXPECT_EQ(call.time, 0);
     EXPECT_TRUE(call.hints.contains("sound-name"));
     EXPECT_THAT(results_, ElementsAre("shown"));
 }
 
-TEST_F(ShownPrompts, AreSilentAndWithoutButtonsWhenAskedTo) {
+TEST_F(ShownPrompts, AreSilentAndWithoutActionsWhenAskedTo) {
     add({.identifier = "mount",
          .title = "Data",
          .body = "",
@@ -111,6 +113,27 @@ TEST_F(ShownPrompts, ThatTheServerRefusesLeaveTheEarlierOneAsItWas) {
     desktop_.invoke(1, "DO");
     turnUntil([this] { return !responses_.empty(); });
     EXPECT_THAT(responses_, ElementsAre("mount DO Data"));
+}
+
+TEST_F(ShownPrompts, AreWithdrawnOnceMoot) {
+    std::string gone;
+    center_.setMoot([&gone](const auto& userInfo) { return userInfo.at("volume") == gone; });
+    prompt("mount", "Data");
+    prompt("other", "More");
+    center_.withdrawMoot();
+    gone = "Data";
+    center_.withdrawMoot();
+    turnUntil([this] { return !desktop_.withdrawn().empty(); });
+    EXPECT_THAT(desktop_.withdrawn(), ElementsAre(1));
+    EXPECT_THAT(responses_, IsEmpty());
+}
+
+TEST_F(ShownPrompts, ThatAreMootBeforeTheyAreShownAreWithdrawn) {
+    add(request("mount", "Data"));
+    center_.setMoot([](const auto& /*userInfo*/) { return true; });
+    center_.withdrawMoot();
+    turnUntil([this] { return !desktop_.withdrawn().empty(); });
+    EXPECT_THAT(results_, ElementsAre("shown"));
 }
 
 TEST_F(ShownPrompts, WaitForAServerThatTakesItsTime) {

@@ -16,6 +16,7 @@ namespace brisel::platform::desktop {
 inline constexpr std::uint32_t Expired = 1;
 inline constexpr std::uint32_t Dismissed = 2;
 inline constexpr std::uint32_t ClosedByCall = 3;
+inline constexpr std::uint32_t Undefined = 4;
 
 class Prompts : public testing::Test {
   protected:
@@ -51,7 +52,8 @@ class Prompts : public testing::Test {
     tests::TestLoop loop_;
     tests::BusCaller observer_{"org.freedesktop.DBus", "/", "org.freedesktop.DBus"};
     NotificationServer server_{tests::SessionBus::shared().program()};
-    UserNotificationCenter center_{server_};
+    ActivationToken activationToken_;
+    UserNotificationCenter center_{server_, activationToken_};
     std::vector<std::string> results_;
     std::vector<std::string> responses_;
     Subscription delegate_ = center_.setDelegate([this](const auto& response, const auto& done) {

@@ -41,10 +41,6 @@ constexpr const char* Configuration = R"(<busconfig>
   </policy>
 </busconfig>)";
 
-OwnedVariant answerTo(GAsyncResult* result, GDBusConnection* bus) {
-    return OwnedVariant(g_dbus_connection_call_finish(bus, result, nullptr));
-}
-
 }  // namespace
 
 SessionBus& SessionBus::shared() {
@@ -184,11 +180,16 @@ BusCaller::~BusCaller() {
     g_dbus_connection_close_sync(bus_.get(), nullptr, nullptr);
 }
 
-OwnedVariant BusCaller::ask(const Question& question) {
-    using Answer = std::optional<OwnedVariant>;
-    Answer answer;
+BusCaller::Answer BusCaller::ask(const Question& question) {
+    std::optional<Answer> answer;
     const auto finish = [](GObject* bus, GAsyncResult* result, gpointer data) {
-        static_cast<Answer*>(data)->emplace(answerTo(result, G_DBUS_CONNECTION(bus)));
+        CallError error;
+        OwnedVariant value(
+            g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, error.receive()));
+        const platform::headless::OwnedText name(error ? g_dbus_error_get_remote_error(error.get())
+                                                       : nullptr);
+        static_cast<std::optional<Answer>*>(data)->emplace(
+            Answer{.value = std::move(value), .errorName = name ? name.get() : ""});
     };
     g_dbus_connection_call(bus_.get(), question.name, path_.c_str(), question.interface,
                            question.method, question.arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
@@ -201,7 +202,16 @@ OwnedVariant BusCaller::call(const char* method, GVariant* arguments) {
     return ask({.name = name_.c_str(),
                 .interface = interface_.c_str(),
                 .method = method,
-                .arguments = arguments});
+                .arguments = arguments})
+        .value;
+}
+
+std::string BusCaller::errorOf(const char* method, GVariant* arguments) {
+    return ask({.name = name_.c_str(),
+                .interface = interface_.c_str(),
+                .method = method,
+                .arguments = arguments})
+        .errorName;
 }
 
 OwnedVariant BusCaller::callBlocking(const char* method, GVariant* arguments) {
@@ -217,7 +227,8 @@ OwnedVariant BusCaller::property(const char* name) {
     const auto answer = ask({.name = name_.c_str(),
                              .interface = "org.freedesktop.DBus.Properties",
                              .method = "Get",
-                             .arguments = g_variant_new("(ss)", interface_.c_str(), name)});
+                             .arguments = g_variant_new("(ss)", interface_.c_str(), name)})
+                            .value;
     GVariant* value = nullptr;
     if (answer) g_variant_get(answer.get(), "(v)", &value);
     return OwnedVariant(value);
@@ -235,7 +246,8 @@ std::vector<std::string> BusCaller::newSignals() {
     EXPECT_TRUE(ask({.name = program,
                      .interface = "org.freedesktop.DBus.Peer",
                      .method = "Ping",
-                     .arguments = nullptr}));
+                     .arguments = nullptr})
+                    .value);
     return std::exchange(signals_, {});
 }
 

@@ -96,6 +96,8 @@ class BusCaller {
 
     /// Calls a method and returns its answer; null on error. Turns the calling thread's loop.
     [[nodiscard]] OwnedVariant call(const char* method, GVariant* arguments);
+    /// Calls a method and returns the name of its D-Bus error; empty on success.
+    [[nodiscard]] std::string errorOf(const char* method, GVariant* arguments);
     /// Calls a method and blocks the calling thread; fails the test on error.
     [[nodiscard]] OwnedVariant callBlocking(const char* method, GVariant* arguments);
     /// Value of a property; null if it is absent.
@@ -113,7 +115,12 @@ class BusCaller {
         GVariant* arguments;
     };
 
-    [[nodiscard]] OwnedVariant ask(const Question& question);
+    struct Answer {
+        OwnedVariant value;
+        std::string errorName;
+    };
+
+    [[nodiscard]] Answer ask(const Question& question);
 
     OwnedObject<GDBusConnection> bus_ = SessionBus::shared().connect();
     std::string name_;

@@ -26,23 +26,25 @@ class AStart : public testing::Test {
     }
 
     tests::TestLoop loop_;
+    ActivationToken tokenOfFirst_;
+    ActivationToken tokenOfSecond_;
     /// The connections of two instances.
     tests::OwnedObject<GDBusConnection> first_ = SessionBus::shared().connect();
     tests::OwnedObject<GDBusConnection> second_ = SessionBus::shared().connect();
 };
 
 TEST_F(AStart, IsTheFirstOrTheSecond) {
-    const SingleInstance first(first_.get());
-    const SingleInstance second(second_.get());
+    const SingleInstance first(first_.get(), tokenOfFirst_);
+    const SingleInstance second(second_.get(), tokenOfSecond_);
     EXPECT_EQ(first.place(), Place::First);
     EXPECT_EQ(second.place(), Place::Second);
 }
 
 TEST_F(AStart, ActivatesTheFirst) {
-    SingleInstance first(first_.get());
+    SingleInstance first(first_.get(), tokenOfFirst_);
     int activated = 0;
     first.listen([&activated] { ++activated; });
-    const SingleInstance second(second_.get());
+    const SingleInstance second(second_.get(), tokenOfSecond_);
     for (const int times : {1, 2}) {
         auto answered = std::async(std::launch::async, [&] { return second.activateFirst(); });
         turnUntil([&] { return activated == times; });
@@ -50,17 +52,29 @@ TEST_F(AStart, ActivatesTheFirst) {
     }
 }
 
+TEST_F(AStart, GivesItsTokenToTheFirst) {
+    SingleInstance first(first_.get(), tokenOfFirst_);
+    std::string token;
+    first.listen([&] { token = tokenOfFirst_.take(); });
+    const SingleInstance second(second_.get(), tokenOfSecond_);
+    tokenOfSecond_.set("of-the-launch");
+    const auto answered = std::async(std::launch::async, [&] { return second.activateFirst(); });
+    turnUntil([&] { return !token.empty(); });
+    EXPECT_EQ(token, "of-the-launch");
+}
+
 TEST_F(AStart, IsTheFirstAgainOnceTheFirstHasEnded) {
     {
-        const SingleInstance first(first_.get());
+        const SingleInstance first(first_.get(), tokenOfFirst_);
         g_dbus_connection_close_sync(first_.get(), nullptr, nullptr);
     }
-    turnUntil([this] { return SingleInstance(second_.get()).place() == Place::First; });
+    turnUntil(
+        [this] { return SingleInstance(second_.get(), tokenOfSecond_).place() == Place::First; });
 }
 
 TEST_F(AStart, BeforeTheFirstListensIsNotLost) {
-    SingleInstance first(first_.get());
-    const SingleInstance second(second_.get());
+    SingleInstance first(first_.get(), tokenOfFirst_);
+    const SingleInstance second(second_.get(), tokenOfSecond_);
     auto answered = std::async(std::launch::async, [&] { return second.activateFirst(); });
     turnUntil(
         [&] { return answered.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
@@ -74,7 +88,7 @@ TEST_F(AStart, BeforeTheFirstListensIsNotLost) {
 
 TEST_F(AStart, IsUnknownWithoutABus) {
     g_dbus_connection_close_sync(first_.get(), nullptr, nullptr);
-    EXPECT_EQ(SingleInstance(first_.get()).place(), Place::Unknown);
+    EXPECT_EQ(SingleInstance(first_.get(), tokenOfFirst_).place(), Place::Unknown);
 }
 
 }  // namespace

@@ -18,11 +18,12 @@ class StatusItemOnBus : public testing::Test {
   protected:
     StatusItemOnBus() {
         item_ = std::make_unique<platform::desktop::StatusItem>(
-            platform::desktop::StatusItem::Surroundings{.bus = bus_,
+            platform::desktop::StatusItem::Dependencies{.bus = bus_,
                                                         .log = log_,
                                                         .bundle = bundle_,
                                                         .menu = menu_,
-                                                        .mainThread = mainThread_});
+                                                        .mainThread = mainThread_,
+                                                        .activationToken = activationToken_});
     }
 
     GDBusConnection* bus_ = SessionBus::shared().program();
@@ -31,6 +32,7 @@ class StatusItemOnBus : public testing::Test {
     platform::common::Bundle bundle_;
     platform::common::Menu menu_;
     platform::desktop::MainThreadQueue mainThread_;
+    platform::desktop::ActivationToken activationToken_;
     std::unique_ptr<platform::desktop::StatusItem> item_;
 };
 

@@ -71,6 +71,47 @@ TEST_F(TheStatusItem, RegistersWithTheTray) {
     EXPECT_EQ(named.text("Id"), "brisel");
 }
 
+class AClickOnTheIcon : public TheStatusItem {
+  protected:
+    AClickOnTheIcon() {
+        MenuItem quit;
+        quit.title = "Quit";
+        menu_.load({quit});
+        item_->setMenuWindow([this] { ++windows_; });
+        item_->setImage("brisel-status-blue-light");
+        tests::waitForDesk();
+    }
+    void click() {
+        EXPECT_EQ(icon_.errorOf("Activate", g_variant_new("(ii)", 0, 0)),
+                  "org.freedesktop.DBus.Error.UnknownMethod");
+    }
+
+    int windows_ = 0;
+};
+
+TEST_F(AClickOnTheIcon, OpensTheMenuInAWindowIfTheHostOpensNone) {
+    click();
+    EXPECT_EQ(windows_, 0);
+    turnUntil([this] { return windows_ == 1; });
+}
+
+TEST_F(AClickOnTheIcon, OpensNoWindowIfTheHostOpensTheMenu) {
+    click();
+    tests::BusCaller menu(g_dbus_connection_get_unique_name(bus_), "/MenuBar",
+                          "com.canonical.dbusmenu");
+    EXPECT_TRUE(menu.call("AboutToShow", g_variant_new("(i)", 0)));
+    bool later = false;
+    const auto waiting =
+        headless::RunLoop().scheduledTimer(std::chrono::seconds(1), [&later] { later = true; });
+    turnUntil([&later] { return later; });
+    EXPECT_EQ(windows_, 0);
+}
+
+TEST_F(AClickOnTheIcon, BringsAnActivationToken) {
+    EXPECT_TRUE(icon_.call("ProvideXdgActivationToken", g_variant_new("(s)", "of-the-click")));
+    EXPECT_EQ(activationToken_.take(), "of-the-click");
+}
+
 class TheAppearance : public tests::StatusItemOnBus {
   protected:
     void waitForChanges(std::size_t count) {

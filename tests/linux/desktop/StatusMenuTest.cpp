@@ -28,6 +28,7 @@ class TheStatusMenu : public tests::StatusItemOnBus {
         MenuItem title;
         title.title = "Brisel 1.0";
         auto login = item("Start at Login", "toggle:");
+        login.checkable = true;
         login.checked = true;
         menu_.load({title, separator, login, item("Quit", "quit:")});
         item_->setImage("brisel-status-grey-light");
@@ -84,9 +85,10 @@ TEST_F(TheStatusMenu, ShowsItsItemsInOrder) {
     EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login [x] | Quit");
 }
 
+// Plasma shows a check mark only if the item's first layout has the toggle type.
 TEST_F(TheStatusMenu, FollowsCheckMarks) {
     menu_.setChecked("toggle:", false);
-    EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login | Quit");
+    EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login [ ] | Quit");
     menu_.setChecked("toggle:", true);
     EXPECT_EQ(read().text(), "(Brisel 1.0) | --- | Start at Login [x] | Quit");
 }
@@ -148,17 +150,45 @@ TEST_F(TheStatusMenu, KeepsTheNumbersOfItemsThatStay) {
         EXPECT_EQ(after.idOf(label), before.idOf(label)) << label;
 }
 
-TEST_F(TheStatusMenu, FollowsAnotherOrder) {
+/// The numbers that a host shows which inserts new items and never moves known ones, as GNOME's
+/// extension does.
+std::vector<int> shownByGnome(std::vector<int> before, const std::vector<int>& now) {
+    std::erase_if(before,
+                  [&now](int id) { return std::find(now.begin(), now.end(), id) == now.end(); });
+    for (std::size_t at = 0; at < now.size(); ++at) {
+        if (std::find(before.begin(), before.end(), now[at]) != before.end()) continue;
+        before.insert(std::next(before.begin(), static_cast<std::ptrdiff_t>(at)), now[at]);
+    }
+    return before;
+}
+
+TEST_F(TheStatusMenu, IsInOrderOnAHostThatMovesNoItem) {
+    MenuItem separator;
+    separator.separator = true;
+    separator.tag = VolumeTag;
+    std::vector<int> shown = read().ids();
+    const auto follow = [&] {
+        const auto now = read().ids();
+        shown = shownByGnome(shown, now);
+        EXPECT_EQ(shown, now);
+    };
     insertVolumes({"Data", "More"});
-    const auto before = read();
-    const auto more = menu_.items().at(0);
-    const auto data = menu_.items().at(1);
+    follow();
+    const std::vector<MenuItem> volumes{menu_.items().at(1), menu_.items().at(0)};
+    // A read-only volume's separator goes below the item that follows; a writable one's does not.
+    for (const std::size_t place : {2U, 1U, 4U}) {
+        removeVolumes();
+        for (const auto& volume : volumes) {
+            menu_.insertItem(volume, 0);
+            menu_.insertItem(separator, place);
+        }
+        follow();
+    }
     removeVolumes();
-    menu_.insertItem(more, 0);
-    menu_.insertItem(data, 0);
-    const auto after = read();
-    EXPECT_EQ(after.text(), "Data | More | (Brisel 1.0) | --- | Start at Login [x] | Quit");
-    EXPECT_EQ(after.idOf("Data"), before.idOf("Data"));
+    menu_.insertItem(volumes[1], 0);
+    menu_.insertItem(volumes[0], 0);
+    follow();
+    EXPECT_EQ(read().text(), "Data | More | (Brisel 1.0) | --- | Start at Login [x] | Quit");
 }
 
 TEST_F(TheStatusMenu, NeverUsesANumberAgain) {

@@ -38,7 +38,7 @@ class AWindow : public testing::Test {
 
 TEST_F(AWindow, ReportsThePressedItem) {
     const DialogScript dialog("cat >input; echo \"$@\" >given; echo shown; echo pressed 42");
-    ModelessWindow window(log_, dialog.path());
+    ModelessWindow window(log_, dialog.program());
     window.show({"menu", "Title"}, "some input\n", note());
     turnUntil([this] { return !pressed_.empty(); });
     EXPECT_THAT(pressed_, ElementsAre(42));
@@ -49,7 +49,7 @@ TEST_F(AWindow, ReportsThePressedItem) {
 
 TEST_F(AWindow, ReportsNothingWhenItIsClosed) {
     const DialogScript dialog("echo shown");
-    ModelessWindow window(log_, dialog.path());
+    ModelessWindow window(log_, dialog.program());
     window.show({"menu"}, {}, note());
     waitForEnd(dialog);
     EXPECT_THAT(pressed_, IsEmpty());
@@ -59,7 +59,7 @@ TEST_F(AWindow, ReportsNothingWhenItIsClosed) {
 TEST_F(AWindow, IsReplacedByANewerOne) {
     const DialogScript dialog(
         "echo shown; echo $$ >>pids; [ -e second ] && echo pressed 2; exec sleep 100");
-    ModelessWindow window(log_, dialog.path());
+    ModelessWindow window(log_, dialog.program());
     window.show({"menu"}, {}, note());
     turnUntil([&] { return !dialog.textIn("pids").empty(); });
     const auto first = std::stoi(dialog.textIn("pids"));
@@ -74,7 +74,7 @@ TEST_F(AWindow, IsReplacedByANewerOne) {
 TEST_F(AWindow, ClosesWithItsOwner) {
     const DialogScript dialog("exec sleep 100");
     {
-        ModelessWindow window(log_, dialog.path());
+        ModelessWindow window(log_, dialog.program());
         window.show({"menu"}, {}, note());
         turnUntil([&] { return !dialog.textIn("pid").empty(); });
         EXPECT_FALSE(dialog.isGone());
@@ -83,7 +83,8 @@ TEST_F(AWindow, ClosesWithItsOwner) {
 }
 
 TEST_F(AWindow, WithoutADialogProgramIsOnlyLogged) {
-    ModelessWindow window(log_, "/nonexistent/dialog");
+    ActivationToken token;
+    ModelessWindow window(log_, {.path = "/nonexistent/dialog", .activationToken = token});
     const auto before = tests::openDescriptors();
     constexpr int Times = 20;
     for (int time = 0; time < Times; ++time)
@@ -96,7 +97,7 @@ TEST_F(AWindow, WithoutADialogProgramIsOnlyLogged) {
 
 TEST_F(AWindow, TakesMoreInputThanAPipeHolds) {
     const DialogScript dialog("wc -c >count; echo pressed 1");
-    ModelessWindow window(log_, dialog.path());
+    ModelessWindow window(log_, dialog.program());
     window.show({"menu"}, std::string(1 << 20, 'x'), note());
     turnUntil([this] { return !pressed_.empty(); });
     EXPECT_EQ(std::stoi(dialog.textIn("count")), 1 << 20);
@@ -104,7 +105,7 @@ TEST_F(AWindow, TakesMoreInputThanAPipeHolds) {
 
 TEST_F(AWindow, MayBeShownAgainByWhatIsPressedInIt) {
     const DialogScript dialog("echo shown; echo pressed 1");
-    ModelessWindow window(log_, dialog.path());
+    ModelessWindow window(log_, dialog.program());
     window.show({"menu"}, {}, [&](int number) {
         pressed_.push_back(number);
         window.show({"menu"}, {}, note());
@@ -115,7 +116,7 @@ TEST_F(AWindow, MayBeShownAgainByWhatIsPressedInIt) {
 
 TEST_F(AWindow, ShowsTheAboutPanel) {
     const DialogScript dialog("echo \"$@\" >given; echo shown");
-    Application application(log_, dialog.path());
+    Application application(log_, dialog.program());
     application.orderFrontStandardAboutPanel();
     turnUntil([&] { return dialog.textIn("given") == "about\n"; });
     waitForEnd(dialog);
@@ -144,7 +145,7 @@ TEST_F(TheMenuWindow, ShowsTheMenuAndChoosesInIt) {
     login.checked = true;
     menu_.load({title, separator, login, item("My_Data", "mount:")});
     const DialogScript dialog("cat >input; echo shown; echo pressed 4");
-    MenuWindow window(*item_, log_, dialog.path());
+    MenuWindow window(*item_, log_, dialog.program());
     window.show();
     turnUntil([this] { return !chosen_.empty(); });
     EXPECT_THAT(chosen_, ElementsAre("My_Data"));
@@ -158,7 +159,7 @@ TEST_F(TheMenuWindow, ChoosesNothingThatHasLeftTheMenu) {
     const DialogScript dialog(
         "echo shown; for try in $(seq 500); do\n"
         "[ -e gone ] && { echo pressed 1; exit; }; sleep 0.02; done");
-    MenuWindow window(*item_, log_, dialog.path());
+    MenuWindow window(*item_, log_, dialog.program());
     window.show();
     menu_.load({item("Other", "mount:")});
     std::ofstream(dialog.file("gone"));

@@ -103,6 +103,15 @@ TEST_F(AuthorizationAdapter, GivesAStreamWithoutAnOwner) {
     std::fclose(tool.communicationsPipe);
 }
 
+TEST_F(AuthorizationAdapter, GivesAStreamWithTheOwnerThatTheSystemNames) {
+    orders().namesOwner = true;
+    const auto tool = started({"/bin/tool"});
+    const auto owner = fcntl(fileno(tool.communicationsPipe), F_GETOWN, 0);
+    EXPECT_GT(owner, 0);
+    EXPECT_EQ(waitpid(owner, nullptr, 0), owner);
+    std::fclose(tool.communicationsPipe);
+}
+
 TEST_F(AuthorizationAdapter, LetsAToolEndWithItsOutputUnread) {
     orders().startsRealTools = true;
     const auto tool =
@@ -112,6 +121,17 @@ TEST_F(AuthorizationAdapter, LetsAToolEndWithItsOutputUnread) {
     const auto output = FileHandle(dup(fileno(tool.communicationsPipe))).readDataToEndOfFile();
     std::fclose(tool.communicationsPipe);
     EXPECT_TRUE(output == std::string(1000000, 'x') + "end");
+}
+
+using AuthorizationAdapterDeathTest = AuthorizationAdapter;
+
+// In a process of its own, because the look-up happens once per process.
+TEST_F(AuthorizationAdapterDeathTest, FindsTheCallThatOnlyItsFrameworkHas) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    orders().hidesExecuteFromDefault = true;
+    EXPECT_EXIT(
+        std::_Exit(adapter.offersExecuteWithPrivileges() ? started({"/bin/tool"}).status : 1),
+        testing::ExitedWithCode(0), "");
 }
 
 class PrivilegedTaskOnAMac : public AuthorizationAdapter {
@@ -131,6 +151,17 @@ TEST_F(PrivilegedTaskOnAMac, GetsTheExitStatusWithoutAProcessID) {
     made->waitUntilExit();
     EXPECT_EQ(made->terminationStatus(), 3);
     EXPECT_EQ(made->outputFileHandle()->readDataToEndOfFile(), "no such volume");
+}
+
+TEST_F(PrivilegedTaskOnAMac, GetsItsOwnExitStatusAfterAFailedStart) {
+    orders().nextStartLeavesZombie = true;
+    EXPECT_EQ(task()->launch(), platform::errAuthorizationToolExecuteFailure);
+    mac.authorization.setToolEnd({.exitStatus = 3, .output = ""});
+    const auto made = task();
+    EXPECT_EQ(made->launch(), 0);
+    made->waitUntilExit();
+    EXPECT_EQ(made->terminationStatus(), 3);
+    EXPECT_EQ(nextExitStatus(), -1);
 }
 
 TEST_F(PrivilegedTaskOnAMac, AsksForThePasswordAndFreesWhatItUsed) {

@@ -28,12 +28,15 @@ class DiskArbitrationAdapter : public AdapterTest {
     std::vector<std::optional<std::uint32_t>> statuses;
 
     void registerCallbacks() {
-        appeared = adapter.registerDiskAppearedCallback([this](const platform::Disk& disk) {
-            reports.push_back("+ " + disk.bsdName);
-            lastDescription = disk.reported.value_or(platform::DiskDescription());
-        });
+        appeared = adapter.registerDiskAppearedCallback(
+            [this](const platform::Disk& disk, const auto& description) {
+                reports.push_back("+ " + disk.bsdName);
+                lastDescription = description;
+            });
         disappeared = adapter.registerDiskDisappearedCallback(
-            [this](const platform::Disk& disk) { reports.push_back("- " + disk.bsdName); });
+            [this](const platform::Disk& disk, const auto&) {
+                reports.push_back("- " + disk.bsdName);
+            });
     }
     void start() {
         adapter.createSession();
@@ -51,14 +54,12 @@ class DiskArbitrationAdapter : public AdapterTest {
             statuses.push_back(dissenter ? std::optional(dissenter->status) : std::nullopt);
         };
     }
-    void unmount(const std::string& device) {
-        adapter.unmount({.bsdName = device, .reported = {}}, noted());
-    }
+    void unmount(const std::string& device) { adapter.unmount({.bsdName = device}, noted()); }
     void mount(const std::string& device, const std::vector<std::string>& arguments = {}) {
-        adapter.mountWithArguments({.bsdName = device, .reported = {}}, arguments, noted());
+        adapter.mountWithArguments({.bsdName = device}, arguments, noted());
     }
     platform::DiskDescription description(const std::string& device) {
-        return adapter.copyDescription({.bsdName = device, .reported = {}});
+        return adapter.copyDescription({.bsdName = device});
     }
 
     void attach(const std::string& device) { mac.diskArbitration.attach(device, ntfsDisk("Data")); }

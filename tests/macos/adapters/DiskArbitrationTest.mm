@@ -81,7 +81,7 @@ TEST_F(DiskReports, ThatWaitAreDroppedWithTheirSubscription) {
 TEST_F(DiskReports, ReleaseTheirCallbacksWhenTheyEnd) {
     start();
     const auto held = std::make_shared<int>();
-    auto extra = adapter.registerDiskAppearedCallback([held](const Disk&) {});
+    auto extra = adapter.registerDiskAppearedCallback([held](const Disk&, const auto&) {});
     EXPECT_GT(held.use_count(), 1);
     extra.reset();
     EXPECT_EQ(held.use_count(), 1);
@@ -91,10 +91,11 @@ TEST_F(DiskReports, MayEndTheirOwnRegistration) {
     start();
     std::vector<std::string> seen;
     platform::Subscription own;
-    own = adapter.registerDiskAppearedCallback([&, label = std::string("seen ")](const Disk& disk) {
-        own.reset();
-        seen.push_back(label + disk.bsdName);
-    });
+    own = adapter.registerDiskAppearedCallback(
+        [&, label = std::string("seen ")](const Disk& disk, const auto&) {
+            own.reset();
+            seen.push_back(label + disk.bsdName);
+        });
     attach("disk4s1");
     attach("disk5s1");
     deliver();

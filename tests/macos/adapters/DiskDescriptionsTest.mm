@@ -45,13 +45,6 @@ TEST_F(DiskDescriptions, OfAnUnknownDiskAreEmpty) {
     EXPECT_EQ(description("disk9s9"), DiskDescription());
 }
 
-TEST_F(DiskDescriptions, OfAReportAreNotAskedForAgain) {
-    attach("disk4s1");
-    DiskDescription reported;
-    reported.volumeName = "Reported";
-    EXPECT_EQ(adapter.copyDescription({.bsdName = "disk4s1", .reported = reported}), reported);
-}
-
 TEST_F(DiskDescriptions, TakeAValueOfAnotherTypeAsAbsent) {
     attach("disk4s1");
     ASSERT_EQ(description("disk4s1").volumeMountable, true);
@@ -82,7 +75,6 @@ TEST_F(Disks, AreCreatedFromAnyNameButNotFromNull) {
     const auto disk = adapter.diskFromBSDName("disk9s9");
     ASSERT_TRUE(disk);
     EXPECT_EQ(disk->bsdName, "disk9s9");
-    EXPECT_FALSE(disk->reported);
     EXPECT_FALSE(adapter.diskFromBSDName(std::nullopt));
 }
 
@@ -97,7 +89,6 @@ TEST_F(Disks, AreFoundAtTheirMountPointAlone) {
     const auto disk = adapter.diskFromVolumePath(FileURL("/Volumes/Data"));
     ASSERT_TRUE(disk);
     EXPECT_EQ(disk->bsdName, "disk4s1");
-    EXPECT_FALSE(disk->reported);
     EXPECT_FALSE(adapter.diskFromVolumePath(FileURL("/Volumes/Data/folder")));
     EXPECT_FALSE(adapter.diskFromVolumePath(FileURL("/Volumes")));
     EXPECT_FALSE(adapter.diskFromVolumePath(std::nullopt));

@@ -99,7 +99,7 @@ TEST_F(DiskRequests, WithoutADiskAreRefusedAtOnce) {
 TEST_F(DiskRequests, ReleaseTheirCompletionsAfterTheCall) {
     attach("disk4s1");
     const auto held = std::make_shared<int>();
-    adapter.unmount({.bsdName = "disk4s1", .reported = {}}, [held](const auto&, const auto&) {});
+    adapter.unmount({.bsdName = "disk4s1"}, [held](const auto&, const auto&) {});
     EXPECT_GT(held.use_count(), 1);
     deliver();
     EXPECT_EQ(held.use_count(), 1);
@@ -146,11 +146,18 @@ class MountedReadOnly : public DiskRequests {
     }
     ~MountedReadOnly() override { umount2(spare.path().c_str(), MNT_DETACH); }
 
-    void mountAt(const std::string& path, const std::vector<std::string>& arguments) {
+    void mountAt(const std::string& path, const std::vector<std::string>& arguments,
+                 const std::string& device = "disk4s1") {
         NSString* const text = [NSString stringWithUTF8String:path.c_str()];
         describeWith(kDADiskDescriptionVolumePathKey, [NSURL fileURLWithPath:text isDirectory:YES]);
-        mount("disk4s1", arguments);
+        mount(device, arguments);
         deliver();
+    }
+    void mountReadWriteAt(const std::string& path, const std::string& device = "disk4s1") {
+        auto unmounted = mac.diskArbitration.properties(device);
+        unmounted.description.volumePath.reset();
+        mac.diskArbitration.change(device, unmounted);
+        mountAt(path, {"auto", "rw", "nobrowse"}, device);
     }
 };
 
@@ -160,9 +167,34 @@ TEST_F(MountedReadOnly, IsDistinguishedFromMountedReadWrite) {
     EXPECT_FALSE(platform::macos::isMountedReadOnly(writable.path() + "/nothing"));
 }
 
-TEST_F(MountedReadOnly, CountsAsRefusedIfReadWriteWasRequested) {
-    mountAt(readOnly, {"auto", "rw", "nobrowse"});
-    EXPECT_THAT(statuses, ElementsAre(DAReturn::NotWritable));
+TEST_F(MountedReadOnly, IsRefusedTheSecondTimeInARow) {
+    mountReadWriteAt(readOnly);
+    mountReadWriteAt(readOnly);
+    mountReadWriteAt(readOnly);
+    EXPECT_THAT(statuses, ElementsAre(std::nullopt, DAReturn::NotWritable, DAReturn::NotWritable));
+}
+
+TEST_F(MountedReadOnly, IsForgottenOnceTheDiskComesOutWritable) {
+    mountReadWriteAt(readOnly);
+    mountReadWriteAt(writable.path());
+    mountReadWriteAt(readOnly);
+    EXPECT_THAT(statuses, ElementsAre(std::nullopt, std::nullopt, std::nullopt));
+}
+
+TEST_F(MountedReadOnly, IsForgottenOnceTheDiskGoes) {
+    mountReadWriteAt(readOnly);
+    mac.diskArbitration.detach("disk4s1");
+    deliver();
+    attachUnmounted("disk4s1");
+    mountReadWriteAt(readOnly);
+    EXPECT_THAT(statuses, ElementsAre(std::nullopt, std::nullopt));
+}
+
+TEST_F(MountedReadOnly, IsRememberedForEachDisk) {
+    attachUnmounted("disk5s1");
+    mountReadWriteAt(readOnly);
+    mountReadWriteAt(readOnly, "disk5s1");
+    EXPECT_THAT(statuses, ElementsAre(std::nullopt, std::nullopt));
 }
 
 TEST_F(MountedReadOnly, IsAcceptedIfReadWriteWasNotRequested) {

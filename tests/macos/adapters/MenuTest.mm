@@ -27,7 +27,7 @@ class MenuAdapter : public AdapterTest {
                                                       keyEquivalent:@""] autorelease];
         [menu addItem:check];
         [menu addItem:quit];
-        adapter->connect(menu, check);
+        adapter->connect(menu, check, mac.bundle);
     }
 
     NSMenu* menu;
@@ -59,6 +59,13 @@ class MenuAdapter : public AdapterTest {
 TEST_F(MenuAdapter, HoldsTheNibsMenu) {
     EXPECT_EQ(adapter->menu(), menu);
     EXPECT_EQ(platform::macos::insertedItem(check), nullptr);
+}
+
+TEST_F(MenuAdapter, LocalisesTheNibsItems) {
+    mac.bundle.setLanguage("de");
+    [menu insertItem:[NSMenuItem separatorItem] atIndex:1];
+    adapter->connect(menu, check, mac.bundle);
+    EXPECT_THAT(titles(), ElementsAre("Bei der Anmeldung starten", "---", "Quit"));
 }
 
 TEST_F(MenuAdapter, PutsItemsWhereTheyBelong) {

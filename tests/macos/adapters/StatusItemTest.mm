@@ -29,6 +29,22 @@ class StatusItemAdapter : public AdapterTest {
     [[nodiscard]] platform::Subscription observe() {
         return adapter.observeEffectiveAppearance([this] { ++changes; });
     }
+    /// Shows another image for another appearance, as the program does.
+    [[nodiscard]] platform::Subscription redrawOnChanges() {
+        return adapter.observeEffectiveAppearance([this] { redraw(); });
+    }
+    void redraw() {
+        const bool dark = adapter.effectiveAppearanceName().find("Dark") != std::string::npos;
+        adapter.setImage(dark ? "brisel-status-grey-dark" : "brisel-status-grey-light");
+    }
+    void change(const char* appearance, NSString* mode = NSDefaultRunLoopMode) {
+        mac.statusItem.setAppearance(appearance);
+        turn(mode, LongerThanCoalescing);
+    }
+    [[nodiscard]] static NSUInteger assignments() {
+        return [[statusItem() button] imageAssignments];
+    }
+    static constexpr NSTimeInterval LongerThanCoalescing = 0.25;
 };
 
 TEST_F(StatusItemAdapter, IsMadeAsWideAsTold) {
@@ -50,7 +66,7 @@ TEST_F(StatusItemAdapter, StaysInTheMenuBarAsLongAsItsOwner) {
 TEST_F(StatusItemAdapter, ShowsTheStatusMenu) {
     [StageApplication sharedApplication];
     NSMenu* const nibMenu = [[[NSMenu alloc] initWithTitle:@"Status"] autorelease];
-    menu.connect(nibMenu, nil);
+    menu.connect(nibMenu, nil, mac.bundle);
     create();
     EXPECT_EQ([statusItem() menu], nil);
     adapter.showStatusMenu();
@@ -90,28 +106,71 @@ TEST_F(StatusItemAdapter, NamesTheAppearanceOfItsButton) {
     EXPECT_EQ(adapter.effectiveAppearanceName(), "NSAppearanceNameVibrantDark");
 }
 
-TEST_F(StatusItemAdapter, TellsOfChangesOfTheAppearanceUntilTheObservationEnds) {
+TEST_F(StatusItemAdapter, SetsOnlyTheImageThatDiffers) {
+    create();
+    for (const char* name : {"blue-dark", "blue-dark", "red-dark"})
+        adapter.setImage(std::string("brisel-status-") + name);
+    adapter.setImage(std::nullopt);
+    adapter.setImage(std::nullopt);
+    EXPECT_EQ(assignments(), 3U);
+}
+
+TEST_F(StatusItemAdapter, TellsOfAChangeOnceUntilTheObservationEnds) {
     create();
     auto observation = observe();
-    EXPECT_EQ(changes, 0);
-    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    change("NSAppearanceNameDarkAqua");
     EXPECT_EQ(changes, 1);
-    mac.statusItem.setAppearance("NSAppearanceNameAqua");
+    change("NSAppearanceNameAqua");
     EXPECT_EQ(changes, 2);
-    observation.reset();
     mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    observation.reset();
+    change("NSAppearanceNameAqua");
     EXPECT_EQ(changes, 2);
     EXPECT_THAT(logLines(), ElementsAre());
+}
+
+TEST_F(StatusItemAdapter, TellsOfAChangeWhileAnAlertIsUp) {
+    create();
+    const auto observation = observe();
+    change("NSAppearanceNameDarkAqua", NSModalPanelRunLoopMode);
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(StatusItemAdapter, ShowsTheSettledAppearanceAndThenRests) {
+    orders().hasSecondDisplay = true;
+    create();
+    redraw();
+    const auto observation = redrawOnChanges();
+    for (const char* appearance : {"NSAppearanceNameVibrantDark", "NSAppearanceNameVibrantLight"}) {
+        const auto before = assignments();
+        change(appearance);
+        EXPECT_LE(assignments(), before + 2);
+        const auto settled = assignments();
+        turn(NSDefaultRunLoopMode, 2 * LongerThanCoalescing);
+        EXPECT_EQ(assignments(), settled);
+    }
+    EXPECT_EQ(stdString([[[statusItem() button] image] name]), "brisel-status-grey-light");
+}
+
+TEST_F(StatusItemAdapter, DoesNotDrawMoreForManyNotifications) {
+    create();
+    redraw();
+    const auto observation = redrawOnChanges();
+    for (int notification = 0; notification < 100; ++notification) {
+        [[statusItem() button] appearanceDidChange];
+        turn(NSDefaultRunLoopMode, 0.01);
+    }
+    EXPECT_EQ(assignments(), 1U);
 }
 
 TEST_F(StatusItemAdapter, TellsEachObserver) {
     create();
     auto first = observe();
     const auto second = observe();
-    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    change("NSAppearanceNameDarkAqua");
     EXPECT_EQ(changes, 2);
     first.reset();
-    mac.statusItem.setAppearance("NSAppearanceNameAqua");
+    change("NSAppearanceNameAqua");
     EXPECT_EQ(changes, 3);
 }
 
@@ -122,8 +181,8 @@ TEST_F(StatusItemAdapter, LetsAnObservationEndItself) {
         own.reset();
         changes += *by;
     });
-    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
-    mac.statusItem.setAppearance("NSAppearanceNameAqua");
+    change("NSAppearanceNameDarkAqua");
+    change("NSAppearanceNameAqua");
     EXPECT_EQ(changes, 1);
 }
 
@@ -139,7 +198,7 @@ TEST_F(StatusItemAdapter, LetsGoOfWhatObservedIt) {
 TEST_F(StatusItemAdapter, EndsAnObservationMadeBeforeItsCreation) {
     auto observation = observe();
     create();
-    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
+    change("NSAppearanceNameDarkAqua");
     observation.reset();
     EXPECT_EQ(changes, 0);
     EXPECT_THAT(logLines(), ElementsAre());

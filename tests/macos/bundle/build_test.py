@@ -4,6 +4,7 @@
 # usage: build_test.py ROOT [-v]
 #
 # The compiler is a stand-in too: the code is not compiled.
+import json
 import pathlib
 import plistlib
 import re
@@ -27,6 +28,7 @@ set(CMAKE_CXX_COMPILER_ID_RUN TRUE)
 set(CMAKE_CXX_COMPILER_ID AppleClang)
 set(CMAKE_CXX_COMPILER_VERSION 13.0)
 set(CMAKE_CXX_STANDARD_COMPUTED_DEFAULT 98)
+set(CMAKE_CXX_COMPILE_FEATURES cxx_std_11 cxx_std_14 cxx_std_17)
 set(CMAKE_AR "{tools}/ar")
 set(CMAKE_RANLIB "{tools}/ranlib")
 set(CMAKE_INSTALL_NAME_TOOL "{tools}/install_name_tool")
@@ -35,16 +37,19 @@ set(CMAKE_INSTALL_NAME_TOOL "{tools}/install_name_tool")
 
 def preset():
     """The cache variables of the macOS preset, without its output folders."""
-    text = (ROOT / "CMakePresets.json").read_text(encoding="utf-8")
-    found = re.search(r'"name": "macos".*?"cacheVariables": \{(.*?)\}', text, re.DOTALL).group(1)
-    pairs = re.findall(r'"(\w+)": "([^"]*)"', found)
-    return [f"-D{name}={value}" for name, value in pairs if not name.endswith("OUTPUT_DIRECTORY")]
+    presets = json.loads((ROOT / "CMakePresets.json").read_text(encoding="utf-8"))
+    named = {each["name"]: each for each in presets["configurePresets"]}
+    macos = named["macos"]
+    variables = {**named[macos["inherits"]]["cacheVariables"], **macos["cacheVariables"]}
+    return [f"-D{name}={value}" for name, value in variables.items()
+            if not name.endswith("OUTPUT_DIRECTORY")]
 
 
 def copy_sources(folder):
     """Copies the sources, so that a test may change them."""
     folder.mkdir()
-    for name in ("cmake", "helper", "packaging", "resources", "scripts", "simulator", "src"):
+    for name in ("cmake", "helper", "packaging", "resources", "scripts", "simulator", "src",
+                 "tests"):
         shutil.copytree(ROOT / name, folder / name)
     shutil.copy(ROOT / "CMakeLists.txt", folder)
 
@@ -60,12 +65,18 @@ class Build(unittest.TestCase):
         cls.mac = FakeMac(cls.folder / "mac")
         cls.sources = cls.folder / "sources"
         copy_sources(cls.sources)
-        (cls.folder / "sdk").mkdir()
+        (cls.folder / "sdk/usr/include/c++/v1").mkdir(parents=True)
         (cls.folder / "toolchain.cmake").write_text(
             TOOLCHAIN.format(folder=cls.folder, tools=cls.mac.tools))
         cls.application = cls.folder / "build/bin/Brisel.app"
-        cls.must(cls.configure("build"))
+        cls.configured = cls.configure("build", *cls.options())
+        cls.must(cls.configured)
         cls.must(cls.build())
+
+    @classmethod
+    def options(cls):
+        """More cache variables of the tree."""
+        return ()
 
     @classmethod
     def must(cls, result):
@@ -165,6 +176,14 @@ class Compilation(Build):
                 self.assertIn("-arch arm64 -arch x86_64", call)
                 self.assertIn("-mmacosx-version-min=11.0", call)
 
+    def test_treats_warnings_as_errors_but_allows_bridging_casts(self):
+        self.change("src/platform/macos/LoginItems.mm")
+        self.must(self.build())
+        call, = [call for call in self.mac.calls("clang++") if call.endswith("LoginItems.mm")]
+        self.assertIn(" -Werror ", call)
+        # The last of the two counts.
+        self.assertLess(call.index(" -Wold-style-cast "), call.index(" -Wno-old-style-cast "))
+
     def test_links_every_framework_that_the_program_uses(self):
         for framework in ("AppKit", "DiskArbitration", "Security", "ServiceManagement",
                           "UserNotifications"):
@@ -178,6 +197,9 @@ class Compilation(Build):
 
 
 class Surroundings(Build):
+    def test_of_other_systems_are_not_spoken_of(self):
+        self.assertNotIn("GIO", self.configured.stdout)
+
     def test_without_xcode_are_reported(self):
         result = self.configure("without-xcode", MISSING="ibtool")
         self.assertNotEqual(result.returncode, 0)
@@ -185,6 +207,16 @@ class Surroundings(Build):
 
     def test_without_xcode_can_build_the_rest(self):
         self.must(self.configure("the-rest", "-DBRISEL_MAC_APPLICATION=OFF", MISSING="ibtool"))
+
+    def test_select_the_tests_that_need_no_linux(self):
+        gtest = next(pathlib.Path("/usr/lib").glob("*/cmake/GTest"))
+        self.must(self.configure("tests", "-DBUILD_TESTING=ON", "-DBRISEL_MAC_APPLICATION=OFF",
+                                 f"-DGTest_DIR={gtest}"))
+        listing = self.mac.run("ctest", "--test-dir", self.folder / "tests", "-N").stdout
+        self.assertEqual(set(re.findall(r"Test +#\d+: (\S+)", listing)),
+                         {"core-tests", "platform-tests", "simulator-tests", "scenarios",
+                          "fault-tests-1", "fault-tests-2", "helper-tests", "macos-plain-tests",
+                          "rules-tests", "random.soak", "thread-tests"})
 
 
 if __name__ == "__main__":

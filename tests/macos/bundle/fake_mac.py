@@ -63,12 +63,12 @@ ls "$folder" >"$1"
 
 
 class FakeMac:
-    def __init__(self, folder):
+    def __init__(self, folder, tools=TOOLS):
         self.folder = pathlib.Path(folder)
         self.log = self.folder / "calls"
         self.tools = self.folder / "tools"
         self.tools.mkdir(parents=True)
-        for name, script in TOOLS.items():
+        for name, script in tools.items():
             file = self.tools / name
             file.write_text(COMMON.format(name=name, log=self.log) + script)
             file.chmod(file.stat().st_mode | stat.S_IXUSR)

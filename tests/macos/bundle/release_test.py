@@ -133,6 +133,9 @@ class Cask(unittest.TestCase):
     def test_has_a_checksum_or_room_for_one(self):
         self.assertRegex(self.value("sha256"), "^[0-9a-f]{64}$")
 
+    def test_names_the_oldest_system_as_homebrew_wants_it(self):
+        self.assertIn("\n  depends_on macos: :big_sur\n", CASK)
+
     def test_asks_for_what_the_disk_image_is_called(self):
         self.assertIn("/Brisel-#{version}.dmg", self.value("url"))
 

@@ -17,15 +17,30 @@
 - (NSString*)name;
 @end
 
-/// The button of a status item; effectiveAppearance is key-value observable.
+/// The button of a status item; effectiveAppearance is key-value observable. An assigned image
+/// makes it resolve its appearance anew: observers are notified with the application's appearance,
+/// then with the settled one, and again a moment later if there is a second display.
 @interface StageStatusBarButton : NSObject {
   @private
+    NSImage* image_;
     NSString* accessibilityLabel_;
+    NSString* passingAppearance_;
+    NSDate* refreshIsDue_;
+    NSUInteger imageAssignments_;
+    BOOL resolves_;
 }
 - (void)setImage:(NSImage*)image;
+- (NSImage*)image;
 - (void)setAccessibilityLabel:(NSString*)label;
+/// The program compares the label last when it shows a state, so this writes the image that is up
+/// to the transcript.
 - (NSString*)accessibilityLabel;
 - (StageAppearance*)effectiveAppearance;
+- (void)appearanceDidChange;
+/// Whether the program has yet to show a state after a change of the appearance; NO after 5
+/// seconds.
+- (BOOL)awaitsRefresh;
+- (NSUInteger)imageAssignments;
 @end
 
 @interface StageStatusItem : NSObject {
@@ -57,11 +72,29 @@
 }
 @end
 
-/// Answered by the simulated Mac's alert, with the main loop in the modal mode meanwhile.
-@interface StageAlert : NSAlert
+/// The window of an alert.
+@interface StageAlertWindow : NSObject {
+  @private
+    BOOL isInFront_;
+}
+- (void)center;
+- (void)orderFrontRegardless;
+- (BOOL)isInFront;
 @end
 
-/// Records activation, About panel and termination in the transcript, and performs them.
+/// Answered by the simulated Mac's alert, with the main loop in the modal mode meanwhile. Before
+/// each alert the user is in another application, behind which it is a misuse to open.
+@interface StageAlert : NSAlert {
+  @private
+    StageAlertWindow* alertWindow_;
+}
+/// GNUstep lays an alert out when it runs.
+- (void)layout;
+- (StageAlertWindow*)window;
+@end
+
+/// Records activation, About panel and termination in the transcript, and performs them. Activation
+/// while there is an alert is part of the alert.
 @interface StageApplication : NSApplication
 @end
 

@@ -10,6 +10,7 @@
 #include "tests/macos/frameworks/Raising.h"
 #include "tests/macos/frameworks/World.h"
 
+using brisel::tests::macos::complain;
 using brisel::tests::macos::countIn;
 using brisel::tests::macos::countOut;
 using brisel::tests::macos::raiseIfTold;
@@ -51,21 +52,59 @@ namespace platform = brisel::platform;
 
 @end
 
+@implementation StageAlertWindow
+
+- (void)center {
+}
+
+- (void)orderFrontRegardless {
+    isInFront_ = YES;
+}
+
+- (BOOL)isInFront {
+    return isInFront_;
+}
+
+@end
+
+namespace {
+
+// GNUstep activates the application during launch; only later calls come from the program.
+bool launched = false;
+bool isActive = false;
+int alerts = 0;
+
+}  // namespace
+
 @implementation StageAlert
 
 - (instancetype)init {
     self = [super init];
+    alertWindow_ = [[StageAlertWindow alloc] init];
     countIn("StageAlert");
+    ++alerts;
+    isActive = false;
     return self;
 }
 
 - (void)dealloc {
+    --alerts;
     countOut("StageAlert");
+    [alertWindow_ release];
     [super dealloc];
+}
+
+- (void)layout {
+}
+
+- (StageAlertWindow*)window {
+    return alertWindow_;
 }
 
 - (NSInteger)runModal {
     raiseIfTold();
+    if (!isActive) complain("an alert opened while another application is active");
+    if (![alertWindow_ isInFront]) complain("an alert opened behind another window");
     platform::AlertContent content{.messageText = stdString([self messageText]),
                                    .informativeText = stdString([self informativeText]),
                                    .buttons = {}};
@@ -76,13 +115,6 @@ namespace platform = brisel::platform;
 
 @end
 
-namespace {
-
-// GNUstep activates the application during launch; only later calls come from the program.
-bool launched = false;
-
-}  // namespace
-
 @implementation StageApplication
 
 - (void)finishLaunching {
@@ -92,7 +124,8 @@ bool launched = false;
 
 - (void)activateIgnoringOtherApps:(BOOL)flag {
     raiseIfTold();
-    if (flag && launched) world().application.activateIgnoringOtherApps();
+    isActive = flag;
+    if (flag && launched && alerts == 0) world().application.activateIgnoringOtherApps();
     [super activateIgnoringOtherApps:flag];
 }
 

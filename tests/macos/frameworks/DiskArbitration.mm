@@ -55,9 +55,9 @@ using DiskCallback = void (*)(DADiskRef, void*);
 
 // The disk lives until the callback returns; a callback that keeps it must retain it.
 platform::DiskArbitration::DiskCallback reporter(DiskCallback callback, void* context) {
-    return [callback, context](const Disk& disk) {
+    return [callback, context](const Disk& disk, const auto& description) {
         @autoreleasepool {
-            const DADiskRef reported = createDisk(disk);
+            const DADiskRef reported = createDisk(disk, description);
             callback(reported, context);
             CFRelease(reported);
         }
@@ -189,7 +189,8 @@ DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef /*allocator*/, DASessionRef 
 }
 
 CFDictionaryRef DADiskCopyDescription(DADiskRef disk) {
-    const auto description = world().diskArbitration.copyDescription(diskOf(disk));
+    const auto description =
+        reportedDescriptionOf(disk).value_or(world().diskArbitration.copyDescription(diskOf(disk)));
     if (!description.mediaBSDName) return nullptr;
     @autoreleasepool {
         NSMutableDictionary* const values = dictionaryFrom(description);
@@ -206,7 +207,7 @@ void DADiskUnmount(DADiskRef disk, DADiskUnmountOptions options, DADiskUnmountCa
                  Dissenter{.status = platform::DAReturn::NotPrivileged});
         return;
     }
-    world().diskArbitration.unmount({.bsdName = diskOf(disk).bsdName, .reported = {}},
+    world().diskArbitration.unmount({.bsdName = diskOf(disk).bsdName},
                                     completer(callback, context));
 }
 
@@ -223,6 +224,6 @@ void DADiskMountWithArguments(DADiskRef disk, CFURLRef path, DADiskMountOptions 
                  Dissenter{.status = platform::DAReturn::NotPrivileged});
         return;
     }
-    world().diskArbitration.mountWithArguments({.bsdName = diskOf(disk).bsdName, .reported = {}},
-                                               words, completer(callback, context));
+    world().diskArbitration.mountWithArguments({.bsdName = diskOf(disk).bsdName}, words,
+                                               completer(callback, context));
 }

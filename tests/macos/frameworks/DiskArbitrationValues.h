@@ -12,7 +12,10 @@
 namespace brisel::tests::macos {
 
 /// The caller owns the result.
-DADiskRef createDisk(const platform::Disk& disk);
+DADiskRef createDisk(const platform::Disk& disk,
+                     std::optional<platform::DiskDescription> reported = std::nullopt);
+/// The description of a reported disk, or nullopt.
+std::optional<platform::DiskDescription> reportedDescriptionOf(DADiskRef disk);
 const platform::Disk& diskOf(DADiskRef disk);
 
 /// The caller owns the result.

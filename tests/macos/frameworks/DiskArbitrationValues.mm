@@ -14,6 +14,7 @@ using platform::macos::nsString;
 @interface StageDisk : StageCounted {
   @public
     platform::Disk disk;
+    std::optional<platform::DiskDescription> reported;
 }
 @end
 
@@ -72,10 +73,16 @@ void setIfPresent(NSMutableDictionary* values, CFStringRef key, const std::optio
 
 namespace brisel::tests::macos {
 
-DADiskRef createDisk(const platform::Disk& disk) {
+DADiskRef createDisk(const platform::Disk& disk,
+                     std::optional<platform::DiskDescription> reported) {
     StageDisk* const object = [[StageDisk alloc] init];
     object->disk = disk;
+    object->reported = std::move(reported);
     return reinterpret_cast<DADiskRef>(object);
+}
+
+std::optional<platform::DiskDescription> reportedDescriptionOf(DADiskRef disk) {
+    return reinterpret_cast<StageDisk*>(disk)->reported;
 }
 
 const platform::Disk& diskOf(DADiskRef disk) {

@@ -39,5 +39,7 @@ typedef NSString* NSKeyValueChangeKey;
 - (NSAppleEventDescriptor*)executeAndReturnError:(NSDictionary<NSString*, id>**)error;
 @end
 
+/// Nil for SMAppService unless orders() has an answer for it.
+Class StageClassFromString(NSString* name);
 NSString* StageHomeDirectory(void);
 void StageLog(NSString* format, ...) NS_FORMAT_FUNCTION(1, 2);

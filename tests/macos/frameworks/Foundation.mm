@@ -172,6 +172,11 @@ std::optional<platform::Error> deleteReally(NSFileManager* manager, const std::s
 
 @end
 
+Class StageClassFromString(NSString* name) {
+    const bool isMissing = [name isEqualToString:@"SMAppService"] && !orders().appServiceAnswer;
+    return isMissing ? Nil : NSClassFromString(name);
+}
+
 NSString* StageHomeDirectory(void) {
     return nsString(world().fileManager.homeDirectory());
 }

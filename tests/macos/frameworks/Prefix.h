@@ -10,6 +10,7 @@
 #define NSAlert StageAlert
 #define NSAppearance StageAppearance
 #define NSAppleScript StageAppleScript
+#define NSClassFromString StageClassFromString
 #define NSFileManager StageFileManager
 #define NSHomeDirectory StageHomeDirectory
 #define NSLog StageLog
@@ -19,4 +20,5 @@
 #define NSStatusItem StageStatusItem
 #define NSUserDefaults StageUserDefaults
 #define NSWorkspace StageWorkspace
+#define dlopen StageDlopen
 #define dlsym StageDlsym

@@ -4,9 +4,11 @@
 
 #include <fcntl.h>
 #import <Security/Authorization.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/common/ToolProcess.h"
@@ -30,6 +32,19 @@ platform::StartedTool startReally(const char* path, char* const* arguments) {
     words.push_back(nullptr);
     return platform::common::startToolProcess([&] { execv(path, words.data()); });
 }
+
+// The real call returns on some failures without waiting for the child that it has forked.
+OSStatus leaveZombie() {
+    constexpr int ExitStatus = 99;
+    const auto child = fork();
+    if (child == 0) _exit(ExitStatus);
+    siginfo_t end{};
+    waitid(P_PID, static_cast<id_t>(child), &end, WEXITED | WNOWAIT);
+    return errAuthorizationToolExecuteFailure;
+}
+
+// Only its address is used.
+char securityFramework = 0;
 
 }  // namespace
 
@@ -63,12 +78,13 @@ OSStatus AuthorizationExecuteWithPrivileges(AuthorizationRef authorization, cons
                                             AuthorizationFlags options, char* const* arguments,
                                             FILE** communicationsPipe) {
     if (options != kAuthorizationFlagDefaults) return errAuthorizationInvalidFlags;
+    if (std::exchange(orders().nextStartLeavesZombie, false)) return leaveZombie();
     const auto started = orders().startsRealTools
                              ? startReally(pathToTool, arguments)
                              : world().authorization.executeWithPrivileges(
                                    worldReference(authorization), pathToTool, options, arguments);
-    // The real call sets no owner of the descriptor.
-    if (started.communicationsPipe != nullptr) {
+    // The real call is not known to set an owner of the descriptor.
+    if (started.communicationsPipe != nullptr && !orders().namesOwner) {
         fcntl(fileno(started.communicationsPipe), F_SETOWN, 0);
     }
     *communicationsPipe = started.communicationsPipe;
@@ -78,5 +94,12 @@ OSStatus AuthorizationExecuteWithPrivileges(AuthorizationRef authorization, cons
 void* StageDlsym(void* handle, const char* symbol) {
     const bool isStart = std::string_view(symbol) == "AuthorizationExecuteWithPrivileges";
     if (isStart && !world().authorization.offersExecuteWithPrivileges()) return nullptr;
+    if (handle == &securityFramework) return dlsym(RTLD_DEFAULT, symbol);
+    if (isStart && orders().hidesExecuteFromDefault) return nullptr;
     return dlsym(handle, symbol);
+}
+
+void* StageDlopen(const char* path, int /*mode*/) {
+    const std::string_view known = "/System/Library/Frameworks/Security.framework/Security";
+    return path == known ? &securityFramework : nullptr;
 }

@@ -1,6 +1,5 @@
 // The stand-in menu bar and its one item.
 // SPDX-License-Identifier: MIT
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -9,8 +8,10 @@
 #include "tests/macos/frameworks/World.h"
 
 using brisel::platform::macos::nsString;
-using brisel::platform::macos::stdString;
+using brisel::platform::macos::optionalString;
+using brisel::tests::macos::complain;
 using brisel::tests::macos::itemsOf;
+using brisel::tests::macos::orders;
 using brisel::tests::macos::world;
 
 namespace {
@@ -65,14 +66,21 @@ StageStatusItem* statusItem() {
 @implementation StageStatusBarButton
 
 - (void)dealloc {
+    [image_ release];
     [accessibilityLabel_ release];
+    [refreshIsDue_ release];
     [super dealloc];
 }
 
 - (void)setImage:(NSImage*)image {
-    [itemInMenuBar tellMenu];
-    world().statusItem.setImage(image != nil ? std::optional(stdString([image name]))
-                                             : std::nullopt);
+    if (image != nil && image == image_) complain("the image that is up was assigned again");
+    ++imageAssignments_;
+    ASSIGN(image_, image);
+    [self resolveAppearance];
+}
+
+- (NSImage*)image {
+    return image_;
 }
 
 - (void)setAccessibilityLabel:(NSString*)label {
@@ -80,12 +88,65 @@ StageStatusItem* statusItem() {
 }
 
 - (NSString*)accessibilityLabel {
+    DESTROY(refreshIsDue_);
+    [itemInMenuBar tellMenu];
+    world().statusItem.setImage(optionalString([image_ name]));
     return accessibilityLabel_;
 }
 
 - (StageAppearance*)effectiveAppearance {
-    NSString* const name = nsString(world().statusItem.effectiveAppearanceName());
+    NSString* const settled = nsString(world().statusItem.effectiveAppearanceName());
+    NSString* const name = passingAppearance_ != nil ? passingAppearance_ : settled;
     return [[[StageAppearance alloc] initWithName:name] autorelease];
+}
+
+- (void)notifyWhilePassing:(NSString*)appearance {
+    passingAppearance_ = appearance;
+    [self willChangeValueForKey:@"effectiveAppearance"];
+    [self didChangeValueForKey:@"effectiveAppearance"];
+    passingAppearance_ = nil;
+}
+
+- (void)notifyOfPassingAndSettled {
+    [self notifyWhilePassing:@"NSAppearanceNameDarkAqua"];
+    [self notifyWhilePassing:nil];
+}
+
+// GNUstep has no common modes.
+- (void)performSoon:(SEL)selector {
+    [NSObject cancelPreviousPerformRequestsWithTarget:self selector:selector object:nil];
+    [self performSelector:selector
+               withObject:nil
+               afterDelay:0
+                  inModes:[NSArray
+                              arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, nil]];
+}
+
+- (void)resolveAppearance {
+    if (resolves_) {
+        [self performSoon:@selector(resolveAppearance)];
+        return;
+    }
+    resolves_ = YES;
+    [self notifyOfPassingAndSettled];
+    resolves_ = NO;
+    if (orders().hasSecondDisplay) [self performSoon:@selector(notifyOfPassingAndSettled)];
+}
+
+- (void)appearanceDidChange {
+    constexpr NSTimeInterval LongestWait = 5;
+    if ([self observationInfo] != nullptr) {
+        ASSIGN(refreshIsDue_, [NSDate dateWithTimeIntervalSinceNow:LongestWait]);
+    }
+    [self resolveAppearance];
+}
+
+- (BOOL)awaitsRefresh {
+    return [refreshIsDue_ timeIntervalSinceNow] > 0 ? YES : NO;
+}
+
+- (NSUInteger)imageAssignments {
+    return imageAssignments_;
 }
 
 @end
@@ -96,10 +157,8 @@ StageStatusItem* statusItem() {
     self = [super init];
     StageStatusBarButton* const button = [[StageStatusBarButton alloc] init];
     button_ = button;
-    observation_ = world().statusItem.observeEffectiveAppearance([button] {
-        [button willChangeValueForKey:@"effectiveAppearance"];
-        [button didChangeValueForKey:@"effectiveAppearance"];
-    });
+    observation_ =
+        world().statusItem.observeEffectiveAppearance([button] { [button appearanceDidChange]; });
     return self;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,12 @@ struct Orders {
     bool onlySaysItDeletes = false;
     /// Starts the system's own tools, not the simulated Mac's.
     bool startsRealTools = false;
+    /// dlsym finds AuthorizationExecuteWithPrivileges by the framework's own handle alone.
+    bool hidesExecuteFromDefault = false;
+    /// The next start of a tool fails after the fork, and leaves a zombie.
+    bool nextStartLeavesZombie = false;
+    /// The stream of a tool names the tool's process as its owner.
+    bool namesOwner = false;
     /// The next call that can raise an exception does.
     bool nextCallRaises = false;
     /// DASessionCreate returns null.
@@ -29,6 +36,10 @@ struct Orders {
     /// Mounts and unmounts are refused before the call returns, as Disk Arbitration does for a
     /// request that it cannot send.
     bool refusesAtOnce = false;
+    /// How the class SMAppService answers; without an answer it is missing, as before macOS 13.
+    std::optional<bool> appServiceAnswer;
+    /// A second display has a menu bar of its own, and so a copy of the status item.
+    bool hasSecondDisplay = false;
     /// Handlers of the notification center wait for deliverAnswers().
     bool answersWait = false;
 };

@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 #
 # usage: images_test.py ROOT [-v]
+import math
 import pathlib
 import re
 import struct
@@ -10,7 +11,7 @@ import sys
 import tempfile
 import unittest
 
-from pictures import decode
+from pictures import decode, render
 from status_icon_checks import BARS, StatusIconChecks
 
 ROOT = pathlib.Path(sys.argv.pop(1))
@@ -18,11 +19,16 @@ PICTURES = ROOT / "resources/macos"
 IMAGES = PICTURES / "images"
 # Height and width of a status image, for a menu bar of 22 points.
 POINTS = 18
+# The lightest and darkest colours of a menu bar.
+BACKGROUNDS = {"dark": ((0, 0, 0), (0x36, 0x3B, 0x40)),
+               "light": ((255, 255, 255), (0xE0, 0xE0, 0xE0))}
 # Renderers round differently; a larger distance is another drawing. Releases of librsvg blend the
 # icon's edges differently, by up to 16.
 MOST_APART = 4
 MOST_APART_AT_EDGES = 24
 PNG = b"\x89PNG\r\n\x1a\n"
+# The elements of colours and of masks; applications do not show a PNG of these sizes.
+MASKS = {"is32": "s8mk", "il32": "l8mk"}
 
 
 def read(file):
@@ -57,6 +63,26 @@ def elements(icns):
         position += length
 
 
+def unpacked(data):
+    """Bytes from an icon's runs: up to 128 as they are, or one repeated 3 to 130 times."""
+    found = b""
+    while data:
+        run = data[0]
+        found += data[1:run + 2] if run < 128 else data[1:2] * (run - 125)
+        data = data[run + 2:] if run < 128 else data[2:]
+    return found
+
+
+def small_picture(found, kind):
+    """The pixels of a size whose colours and mask are elements of their own."""
+    mask = found[MASKS[kind]]
+    area, side = len(mask), math.isqrt(len(mask))
+    colours = unpacked(found[kind])
+    planes = [colours[start:start + area] for start in range(0, len(colours), area)] + [mask]
+    pixels = list(zip(*planes, strict=True))
+    return [pixels[start:start + side] for start in range(0, area, side)]
+
+
 def names_asked_for():
     """The image names that the program composes from colour and bar."""
     source = (ROOT / "src/app/StatusIcon.cpp").read_text(encoding="utf-8")
@@ -68,6 +94,7 @@ def names_asked_for():
 
 class StatusImages(StatusIconChecks, unittest.TestCase):
     sizes = (POINTS, 2 * POINTS)
+    backgrounds = BACKGROUNDS
 
     def picture(self, colour, bar, size):
         return read(IMAGES / f"brisel-status-{colour}-{bar}{'' if size == POINTS else '@2x'}.png")
@@ -92,11 +119,19 @@ class Icon(unittest.TestCase):
 
     def test_has_every_size_as_a_picture_of_that_size(self):
         found = dict(elements((PICTURES / "Brisel.icns").read_bytes()))
-        self.assertEqual(set(found), set(self.SIZES))
-        for kind, data in found.items():
+        self.assertEqual(set(found), {*self.SIZES, *MASKS, *MASKS.values()})
+        for kind, side in self.SIZES.items():
             with self.subTest(kind=kind):
-                self.assertEqual(data[:8], PNG)
-                self.assertEqual(struct.unpack_from(">II", data, 16), (self.SIZES[kind],) * 2)
+                self.assertEqual(found[kind][:8], PNG)
+                self.assertEqual(struct.unpack_from(">II", found[kind], 16), (side, side))
+
+    def test_has_the_drawing_in_the_smallest_sizes(self):
+        found = dict(elements((PICTURES / "Brisel.icns").read_bytes()))
+        for kind, side in (("is32", 16), ("il32", 32)):
+            with self.subTest(kind=kind):
+                drawing = render(ROOT / "resources/org.brisel.Brisel.svg", side)
+                self.assertLessEqual(apart(small_picture(found, kind), drawing),
+                                     MOST_APART_AT_EDGES)
 
 
 class Exports(unittest.TestCase):
@@ -104,7 +139,7 @@ class Exports(unittest.TestCase):
     def setUpClass(cls):
         cls.scratch = tempfile.TemporaryDirectory()
         cls.addClassCleanup(cls.scratch.cleanup)
-        cls.folder = pathlib.Path(cls.scratch.name)
+        cls.folder = pathlib.Path(cls.scratch.name) / "macos"
         script = str(ROOT / "scripts/export-images")
         subprocess.run([sys.executable, "-B", script, cls.scratch.name], check=True)
 
@@ -125,6 +160,16 @@ class Exports(unittest.TestCase):
             with self.subTest(kind=kind):
                 self.assertLessEqual(apart(decode(made[kind]), decode(kept[kind])),
                                      MOST_APART_AT_EDGES)
+        for kind in MASKS:
+            with self.subTest(kind=kind):
+                self.assertLessEqual(apart(small_picture(made, kind), small_picture(kept, kind)),
+                                     MOST_APART_AT_EDGES)
+
+    def test_are_the_linux_icon_that_is_kept(self):
+        name = "linux/org.brisel.Brisel.png"
+        kept = read(ROOT / "resources" / name)
+        self.assertEqual(size(kept), (48, 48))
+        self.assertLessEqual(apart(read(self.folder.parent / name), kept), MOST_APART_AT_EDGES)
 
 
 if __name__ == "__main__":

@@ -164,12 +164,15 @@ void StagedProgram::terminate() {
 void StagedProgram::turnWhileBlocked() {
     @autoreleasepool {
         deliverDiskEvents(NSModalPanelRunLoopMode);
-        [[NSRunLoop currentRunLoop] runMode:NSModalPanelRunLoopMode beforeDate:[NSDate date]];
+        do {
+            [[NSRunLoop currentRunLoop] runMode:NSModalPanelRunLoopMode beforeDate:[NSDate date]];
+        } while ([[statusItem() button] awaitsRefresh]);
     }
 }
 
 void StagedProgram::turn() {
-    if (awaitsResponse_ || deliverDiskEvents(NSDefaultRunLoopMode)) return;
+    if (awaitsResponse_ || [[statusItem() button] awaitsRefresh]) return;
+    if (deliverDiskEvents(NSDefaultRunLoopMode)) return;
     if (!scenario_.step()) std::exit(EXIT_SUCCESS);
 }
 

@@ -25,8 +25,8 @@ TEST_F(Disks, AreReportedWithTheDescriptionOfTheMoment) {
     disks.report("disk4");
     turn();
     ASSERT_EQ(reports.size(), 2U);
-    EXPECT_EQ(disks.copyDescription(reports[0]).volumeName, "Before");
-    EXPECT_EQ(disks.copyDescription(reports[1]).volumeName, "After");
+    EXPECT_EQ(reports[0].volumeName, "Before");
+    EXPECT_EQ(reports[1].volumeName, "After");
 }
 
 TEST_F(Disks, DisappearWithTheirLastDescription) {
@@ -35,7 +35,7 @@ TEST_F(Disks, DisappearWithTheirLastDescription) {
     disks.detach("disk4");
     turn();
     EXPECT_THAT(heard, ElementsAre("+disk4", "-disk4"));
-    EXPECT_EQ(disks.copyDescription(reports[1]).volumePath, platform::FileURL("/Volumes/Data"));
+    EXPECT_EQ(reports[1].volumePath, platform::FileURL("/Volumes/Data"));
     EXPECT_EQ(disks.copyDescription(disk("disk4")).volumeName, "Data");
     EXPECT_FALSE(disks.isAttached("disk4"));
     EXPECT_TRUE(disks.wasEverAttached("disk4"));

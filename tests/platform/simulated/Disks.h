@@ -13,20 +13,22 @@ class Disks : public testing::Test, public SimulatedProgram {
   protected:
     platform::simulated::DiskArbitration& disks = mac.diskArbitration;
     std::vector<std::string> heard;
-    std::vector<platform::Disk> reports;
+    std::vector<platform::DiskDescription> reports;
     platform::Subscription appeared;
     platform::Subscription disappeared;
 
     void listen() {
         disks.createSession();
-        appeared = disks.registerDiskAppearedCallback([this](const platform::Disk& disk) {
-            heard.push_back("+" + disk.bsdName);
-            reports.push_back(disk);
-        });
-        disappeared = disks.registerDiskDisappearedCallback([this](const platform::Disk& disk) {
-            heard.push_back("-" + disk.bsdName);
-            reports.push_back(disk);
-        });
+        appeared =
+            disks.registerDiskAppearedCallback([this](const auto& disk, const auto& description) {
+                heard.push_back("+" + disk.bsdName);
+                reports.push_back(description);
+            });
+        disappeared = disks.registerDiskDisappearedCallback(
+            [this](const auto& disk, const auto& description) {
+                heard.push_back("-" + disk.bsdName);
+                reports.push_back(description);
+            });
         disks.scheduleWithRunLoop();
     }
     platform::Disk disk(const std::string& name) { return disks.diskFromBSDName(name).value(); }

@@ -18,22 +18,22 @@ using testing::ElementsAre;
 class AMenuLine : public testing::Test {};
 
 TEST_F(AMenuLine, HoldsIDKindAndTitle) {
-    const auto entry = entryFrom("7\titem\tre-mount Data");
+    const auto entry = menuLineFrom("7\titem\tre-mount Data");
     ASSERT_TRUE(entry.has_value());
     EXPECT_EQ(entry->id, "7");
-    EXPECT_EQ(entry->kind, EntryKind::Item);
+    EXPECT_EQ(entry->kind, MenuLineKind::Item);
     EXPECT_EQ(entry->title, "re-mount Data");
 }
 
 TEST_F(AMenuLine, MayBeOfAnyKind) {
-    EXPECT_EQ(entryFrom("1\tchecked\ta")->kind, EntryKind::CheckedItem);
-    EXPECT_EQ(entryFrom("1\ttext\ta")->kind, EntryKind::Text);
-    EXPECT_EQ(entryFrom("1\tseparator\t")->kind, EntryKind::Separator);
-    EXPECT_EQ(entryFrom("\tseparator\t")->kind, EntryKind::Separator);
+    EXPECT_EQ(menuLineFrom("1\tchecked\ta")->kind, MenuLineKind::CheckedItem);
+    EXPECT_EQ(menuLineFrom("1\ttext\ta")->kind, MenuLineKind::Text);
+    EXPECT_EQ(menuLineFrom("1\tseparator\t")->kind, MenuLineKind::Separator);
+    EXPECT_EQ(menuLineFrom("\tseparator\t")->kind, MenuLineKind::Separator);
 }
 
 TEST_F(AMenuLine, KeepsItsIDAndMakesItsTitleFitToBeShown) {
-    const auto entry = entryFrom("\x1b\xff\titem\tA\tB\x1b\xff");
+    const auto entry = menuLineFrom("\x1b\xff\titem\tA\tB\x1b\xff");
     ASSERT_TRUE(entry.has_value());
     EXPECT_EQ(entry->id, "\x1b\xff");
     EXPECT_EQ(entry->title, "A B\xef\xbf\xbd\xef\xbf\xbd");
@@ -42,7 +42,7 @@ TEST_F(AMenuLine, KeepsItsIDAndMakesItsTitleFitToBeShown) {
 class OtherLines : public testing::TestWithParam<const char*> {};
 
 TEST_P(OtherLines, AreNoEntries) {
-    EXPECT_FALSE(entryFrom(GetParam()).has_value());
+    EXPECT_FALSE(menuLineFrom(GetParam()).has_value());
 }
 
 INSTANTIATE_TEST_SUITE_P(Such, OtherLines,
@@ -53,7 +53,7 @@ INSTANTIATE_TEST_SUITE_P(Such, OtherLines,
 TEST(AMenu, LeavesOutLinesThatAreNoEntries) {
     std::istringstream lines("1\titem\tone\nnonsense\n\n2\tchecked\ttwo");
     std::vector<std::string> titles;
-    for (const auto& entry : readEntries(lines))
+    for (const auto& entry : readMenuLines(lines))
         titles.push_back(entry.title);
     EXPECT_THAT(titles, ElementsAre("one", "two"));
 }

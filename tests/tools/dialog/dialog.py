@@ -27,9 +27,10 @@ class Display:
 
     def environment(self):
         environment = {key: value for key, value in os.environ.items()
-                       if key not in ("WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS")}
-        return environment | {"DISPLAY": self.name, "GDK_BACKEND": "x11", "NO_AT_BRIDGE": "1",
-                              "LC_ALL": "C.UTF-8", "LSAN_OPTIONS": LEAK_OPTIONS}
+                       if key != "WAYLAND_DISPLAY"}
+        return environment | {
+            "DISPLAY": self.name, "DBUS_SESSION_BUS_ADDRESS": "disabled:", "GDK_BACKEND": "x11",
+            "NO_AT_BRIDGE": "1", "LC_ALL": "C.UTF-8", "LSAN_OPTIONS": LEAK_OPTIONS}
 
     def end(self):
         self.server.terminate()

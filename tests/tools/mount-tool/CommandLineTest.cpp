@@ -16,7 +16,7 @@ constexpr const char* Options = "rw,auto,nobrowse,noowners,noatime";
 const std::string Home = "/home/ann";
 const std::string MountPoint = Home + "/.brisel/Data";
 
-Result<Request> parse(const std::vector<std::string>& words) {
+Result<MountRequest> parse(const std::vector<std::string>& words) {
     std::vector<const char*> arguments{"mount_ntfs"};
     for (const auto& word : words)
         arguments.push_back(word.c_str());
@@ -118,6 +118,13 @@ TEST(CommandLine, RefusesAMountPointAnywhereElse) {
                                    "/home/ann/.brisel/\x01"})
         EXPECT_FALSE(acceptsMountPoint(path)) << path;
     EXPECT_FALSE(acceptsMountPoint(Home + "/.brisel/" + std::string(NAME_MAX + 1, 'a')));
+}
+
+TEST(CommandLine, SaysWhichLabelsItRefuses) {
+    EXPECT_EQ(labelOf(Home + "/.brisel/a\nb", Home).refusal().sentence,
+              "The label contains control characters: rename the volume, then try again.");
+    EXPECT_EQ(labelOf(Home + "/.brisel/a/b", Home).refusal().sentence,
+              "The mount point's name is not a valid folder name.");
 }
 
 }  // namespace

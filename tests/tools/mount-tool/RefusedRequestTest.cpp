@@ -93,7 +93,7 @@ TEST_F(RefusedRequest, IsOneForAMountPoint) {
 }
 
 TEST_F(RefusedRequest, IsOneThatClimbsOutOfDotBrisel) {
-    for (const char* const label : {"..", ".", "", "Data/", "Data/../../.brisel/Data", "a\nb"}) {
+    for (const char* const label : {"..", ".", "", "Data/", "Data/../../.brisel/Data"}) {
         mountPoint_ = brisel() + "/" + label;
         expectRefusal(runTool(), "The mount point");
     }

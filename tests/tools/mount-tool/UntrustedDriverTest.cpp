@@ -119,6 +119,41 @@ TEST_F(UntrustedDriver, IsWaitedForDespiteSignals) {
     EXPECT_NE(run.output.find(mountPoint()), std::string::npos) << run.output;
 }
 
+TEST_F(UntrustedDriver, IsOutOfTheUsersReachUntilItsMountIsVerified) {
+    const auto note = folder() + "/reached";
+    const auto run = runWithDriver(realDriver() + " \"$@\"; " + user->runs() + "ls $4 && touch " +
+                                   note + "; true");
+    EXPECT_EQ(run.status, 0) << run.output;
+    EXPECT_FALSE(fs::exists(note));
+}
+
+TEST_F(UntrustedDriver, OfAKilledToolIsUnmountedByTheNextRun) {
+    for (const auto& mount : {std::string("true"), realDriver() + " \"$@\""}) {
+        const auto run = runToolAfter(replace("/usr/bin/ntfs-3g", mount + "; kill -9 $PPID") +
+                                      "; \"$@\"; umount --lazy /usr/bin/ntfs-3g");
+        EXPECT_EQ(run.status, 0) << run.output;
+        EXPECT_NE(run.output.find(mountPoint()), std::string::npos) << run.output;
+        EXPECT_EQ(run.output.find(" /run/brisel-"), std::string::npos) << run.output;
+        EXPECT_TRUE(stagingIsGone());
+    }
+}
+
+TEST_F(UntrustedDriver, KeepsItsFolderWhileAnotherRunSweeps) {
+    const fs::path left = "/run/brisel-000000";
+    const fs::path foreign = "/run/brisel-111111";
+    const auto note = folder() + "/swept";
+    fs::create_directory(foreign);
+    ASSERT_EQ(chown(foreign.c_str(), 1, 1), 0);
+    const auto run =
+        runWithDriver("mkdir -m 700 " + left.string() +
+                      "; " BRISEL_MOUNT_TOOL " -o rw /dev/null /nowhere; test -e " + left.string() +
+                      " || touch " + note + "; exec " + realDriver() + " \"$@\"");
+    EXPECT_EQ(run.status, 0) << run.output;
+    EXPECT_TRUE(fs::exists(note));
+    EXPECT_TRUE(fs::remove(foreign));
+    EXPECT_TRUE(stagingIsGone());
+}
+
 // Swaps the mount point with a link again and again while in scope.
 class Swapper {
   public:

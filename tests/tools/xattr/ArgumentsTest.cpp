@@ -16,7 +16,7 @@ TEST(CommandLine, TakesTheOptionsInAnyUsualForm) {
     for (const auto& words : {Words{"-cr", "a"}, Words{"-rc", "a"}, Words{"-c", "-r", "a"},
                               Words{"-r", "-c", "--", "a"}}) {
         const auto arguments = argumentsFrom(words);
-        EXPECT_EQ(arguments.request, Request::Clear) << words.size() << words.front();
+        EXPECT_EQ(arguments.action, Action::Clear) << words.size() << words.front();
         EXPECT_EQ(arguments.depth, Depth::EverythingBelow) << words.size() << words.front();
         EXPECT_THAT(arguments.paths, ElementsAre("a")) << words.size() << words.front();
     }
@@ -35,14 +35,14 @@ TEST(CommandLine, EndsTheOptionsAtTheFirstPath) {
 }
 
 TEST(CommandLine, PrintsItsUsageOnRequest) {
-    EXPECT_EQ(argumentsFrom(Words{"--help"}).request, Request::ShowUsage);
-    EXPECT_EQ(argumentsFrom(Words{"-c", "--help", "a"}).request, Request::ShowUsage);
+    EXPECT_EQ(argumentsFrom(Words{"--help"}).action, Action::ShowUsage);
+    EXPECT_EQ(argumentsFrom(Words{"-c", "--help", "a"}).action, Action::ShowUsage);
 }
 
 class OtherCommandLines : public testing::TestWithParam<Words> {};
 
 TEST_P(OtherCommandLines, AreNotUnderstood) {
-    EXPECT_EQ(argumentsFrom(GetParam()).request, Request::NotUnderstood);
+    EXPECT_EQ(argumentsFrom(GetParam()).action, Action::NotUnderstood);
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, OtherCommandLines,

@@ -221,13 +221,13 @@ INSTANTIATE_TEST_SUITE_P(On, Stripping, testing::Values("Memory", "TemporaryFile
                          [](const auto& of) { return of.param; });
 
 TEST(AVisibleText, HasItsControlCharactersSpelledOut) {
-    EXPECT_EQ(visible("a b"), "a b");
-    EXPECT_EQ(visible(std::string("\0\t\x7f", 3)), "\\x00\\x09\\x7f");
-    EXPECT_EQ(visible("\xc2\x9b"
+    EXPECT_EQ(escaped("a b"), "a b");
+    EXPECT_EQ(escaped(std::string("\0\t\x7f", 3)), "\\x00\\x09\\x7f");
+    EXPECT_EQ(escaped("\xc2\x9b"
                       "31m"),
               "\\xc2\\x9b31m");
-    EXPECT_EQ(visible("M\xc3\xa4rz \xe2\x82\xac \xc2\xa0"), "M\xc3\xa4rz \xe2\x82\xac \xc2\xa0");
-    EXPECT_EQ(visible("cut \xc2"), "cut \xc2");
+    EXPECT_EQ(escaped("M\xc3\xa4rz \xe2\x82\xac \xc2\xa0"), "M\xc3\xa4rz \xe2\x82\xac \xc2\xa0");
+    EXPECT_EQ(escaped("cut \xc2"), "cut \xc2");
 }
 
 }  // namespace

@@ -10,6 +10,8 @@
 #include <fstream>
 
 #include "tests/linux/TemporaryFolder.h"
+#include "tests/tools/xattr/UserAttributes.h"
+#include "tools/xattr/Attributes.h"
 
 namespace brisel::xattr {
 
@@ -30,16 +32,17 @@ class AWalk : public testing::Test {
         std::ofstream(elsewhere_ + "/file") << "not to be touched";
     }
 
-    /// Walks the tree; calls `meddle` on the visit of `where`, a path below the tree.
+    /// Walks the tree and strips it; calls `meddle` on the visit of `where`, a path below the tree.
     void walk(const std::string& where, const std::function<void()>& meddle) {
-        const auto visit = [&](const Descriptor& /*file*/, const std::string& path) {
+        const auto visit = [&](const Entry& entry, const std::string& path) {
             visited_.push_back(path.substr(tree_.size()));
             if (visited_.back() == where) meddle();
+            EXPECT_EQ(removeUserAttributes(entry), std::nullopt) << path;
         };
         const auto complain = [&](const std::string& path, const std::string& reason) {
             complaints_.emplace_back(path.substr(tree_.size()), reason);
         };
-        TreeWalk(visit, complain).run(Descriptor(AT_FDCWD, tree_, O_PATH), tree_);
+        TreeWalk(visit, complain).run(openAt(AT_FDCWD, tree_, O_PATH), tree_);
     }
 
     tests::TemporaryFolder place_;
@@ -62,6 +65,43 @@ TEST_F(AWalk, DoesNotFollowALinkThatReplacesAFolder) {
     });
     EXPECT_THAT(visited_, ElementsAre("", "/above", "/above/folder"));
     EXPECT_THAT(complaints_, IsEmpty());
+}
+
+TEST_F(AWalk, StripsTheFileOfAFolderThatIsMovedAndNotItsReplacement) {
+    const auto file = tests::makeTaggedFile(tree_ + "/above/folder/below/file");
+    walk("/above/folder/below/file", [&] {
+        fs::rename(tree_ + "/above/folder", elsewhere_ + "/folder");
+        fs::create_directories(tree_ + "/above/folder/below");
+        tests::makeTaggedFile(file);
+    });
+    EXPECT_FALSE(tests::isTagged(elsewhere_ + "/folder/below/file"));
+    EXPECT_TRUE(tests::isTagged(file));
+}
+
+TEST_F(AWalk, DoesNotFollowALinkThatReplacesAFile) {
+    const auto file = tests::makeTaggedFile(tree_ + "/above/folder/below/file");
+    const auto other = tests::makeTaggedFile(elsewhere_ + "/file");
+    walk("/above/folder/below/file", [&] {
+        fs::remove(file);
+        fs::create_symlink(other, file);
+    });
+    EXPECT_TRUE(tests::isTagged(other));
+}
+
+TEST_F(AWalk, LeavesFilesOfOtherFileSystemsAlone) {
+    const auto file = tests::makeTaggedFile(tree_ + "/file");
+    struct stat status {};
+    ASSERT_EQ(stat(file.c_str(), &status), 0);
+    EXPECT_EQ(removeUserAttributes(Entry(file, status.st_dev + 1)), std::nullopt);
+    EXPECT_TRUE(tests::isTagged(file));
+    EXPECT_EQ(removeUserAttributes(Entry(file, status.st_dev)), std::nullopt);
+    EXPECT_FALSE(tests::isTagged(file));
+}
+
+TEST_F(AWalk, EndsInTheFolderWhereItBegan) {
+    const auto before = fs::current_path();
+    walk("", [] {});
+    EXPECT_EQ(fs::current_path(), before);
 }
 
 TEST_F(AWalk, LeavesOutAFolderThatIsGone) {

@@ -21,6 +21,7 @@ extern "C" {
 #define RTLD_SELF ((void*)-3)
 #define RTLD_MAIN_ONLY ((void*)-5)
 
+void* dlopen(const char* path, int mode);
 void* dlsym(void* handle, const char* symbol);
 
 #ifdef __cplusplus

@@ -79,6 +79,7 @@ static const NSModalResponse NSModalResponseOK = 1;
 static const NSModalResponse NSModalResponseCancel = 0;
 
 extern NSRunLoopMode const NSModalPanelRunLoopMode;
+extern NSRunLoopMode const NSEventTrackingRunLoopMode;
 
 @class NSApplication;
 CF_EXPORT __kindof NSApplication* _Null_unspecified NSApp;
@@ -123,6 +124,8 @@ static const NSModalResponse NSAlertThirdButtonReturn = 1002;
 @property(copy) NSString* informativeText;
 - (NSButton*)addButtonWithTitle:(NSString*)title;
 @property(readonly, copy) NSArray<NSButton*>* buttons;
+// At once, not before the alert is shown.
+- (void)layout;
 // Turns the run loop in NSModalPanelRunLoopMode.
 - (NSModalResponse)runModal;
 @property(readonly, strong) NSWindow* window;

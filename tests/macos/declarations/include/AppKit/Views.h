@@ -88,6 +88,8 @@ typedef NSString* NSImageName;
 @interface NSWindow : NSResponder <NSAppearanceCustomization>
 @property(copy) NSString* title;
 @property NSInteger level;
+- (void)center;
+- (void)orderFrontRegardless;
 - (void)close;
 @end
 

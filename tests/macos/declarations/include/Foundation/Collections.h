@@ -67,6 +67,7 @@ typedef struct {
 @interface NSArray <ObjectType>(NSArrayCreation)
 + (instancetype)array;
 + (instancetype)arrayWithObject:(ObjectType)object;
++ (instancetype)arrayWithObjects:(ObjectType)object, ... NS_REQUIRES_NIL_TERMINATION;
 + (instancetype)arrayWithArray:(NSArray<ObjectType>*)array;
 @end
 

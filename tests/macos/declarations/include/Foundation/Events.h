@@ -67,6 +67,8 @@ typedef NSString* NSNotificationName;
 @end
 
 @interface NSNotificationCenter : NSObject
+@property(class, readonly, strong) NSNotificationCenter* defaultCenter;
+- (void)postNotificationName:(NSNotificationName)name object:(nullable id)object;
 - (void)addObserver:(id)observer
            selector:(SEL)selector
                name:(nullable NSNotificationName)name
@@ -109,6 +111,15 @@ typedef struct {
 
 // Run loops and their modes.
 extern NSRunLoopMode const NSDefaultRunLoopMode;
+
+// The target is retained until the call.
+@interface NSObject (NSDelayedPerforming)
+- (void)performSelector:(SEL)selector
+             withObject:(nullable id)argument
+             afterDelay:(NSTimeInterval)delay
+                inModes:(NSArray<NSRunLoopMode>*)modes;
++ (void)cancelPreviousPerformRequestsWithTarget:(id)target;
+@end
 
 @interface NSRunLoop : NSObject
 @end

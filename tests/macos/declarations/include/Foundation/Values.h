@@ -42,6 +42,7 @@ typedef NS_ENUM(NSInteger, NSComparisonResult) {
 static const NSInteger NSNotFound = NSIntegerMax;
 
 extern SEL NSSelectorFromString(NSString* name);
+extern Class _Nullable NSClassFromString(NSString* name);
 extern void NSLog(NSString* format, ...) NS_FORMAT_FUNCTION(1, 2);
 
 NS_ASSUME_NONNULL_END
@@ -112,6 +113,7 @@ NS_ENUM(NSStringEncoding){
 - (NSComparisonResult)compare:(NSString*)string;
 - (BOOL)isEqualToString:(NSString*)string;
 - (BOOL)hasSuffix:(NSString*)text;
+@property(nullable, readonly) const char* UTF8String NS_RETURNS_INNER_POINTER;
 - (nullable NSData*)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
 - (nullable NSData*)dataUsingEncoding:(NSStringEncoding)encoding;
 
@@ -180,6 +182,11 @@ NS_ASSUME_NONNULL_BEGIN
 - (instancetype)initWithBytes:(const void*)value
                      objCType:(const char*)type NS_DESIGNATED_INITIALIZER;
 - (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
+@end
+
+@interface NSValue (NSValueExtensionMethods)
++ (NSValue*)valueWithPointer:(nullable const void*)pointer;
+@property(nullable, readonly) void* pointerValue;
 @end
 
 @interface NSNumber : NSValue

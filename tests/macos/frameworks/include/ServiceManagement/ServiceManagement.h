@@ -2,4 +2,5 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#import <ServiceManagement/SMAppService.h>
 #include <ServiceManagement/SMLoginItem.h>

@@ -181,6 +181,26 @@ typedef NS_OPTIONS(NSUInteger, UNNotificationPresentationOptions) {
 static const UNNotificationPresentationOptions UNNotificationPresentationOptionNone
     API_AVAILABLE(macos(10.14)) = 0;
 
+typedef NS_ENUM(NSInteger, UNAuthorizationStatus) {
+    UNAuthorizationStatusNotDetermined,
+    UNAuthorizationStatusDenied,
+    UNAuthorizationStatusAuthorized,
+    UNAuthorizationStatusProvisional,
+} API_AVAILABLE(macos(10.14));
+
+typedef NS_ENUM(NSInteger, UNAlertStyle) {
+    UNAlertStyleNone,
+    UNAlertStyleBanner,
+    UNAlertStyleAlert,
+} API_AVAILABLE(macos(10.14));
+
+// What the user allows the application.
+API_AVAILABLE(macos(10.14))
+@interface UNNotificationSettings : NSObject
+@property(readonly) UNAuthorizationStatus authorizationStatus;
+@property(readonly) UNAlertStyle alertStyle;
+@end
+
 // Handlers may be called on threads of the system's own.
 API_AVAILABLE(macos(10.14))
 @interface UNUserNotificationCenter : NSObject
@@ -193,6 +213,12 @@ API_AVAILABLE(macos(10.14))
 - (void)setNotificationCategories:(NSSet<UNNotificationCategory*>*)categories;
 - (void)addNotificationRequest:(UNNotificationRequest*)request
          withCompletionHandler:(nullable void (^)(NSError* _Nullable error))completionHandler;
+@end
+
+// For scripts/report-on-mac; the stand-in frameworks do not implement it.
+@interface UNUserNotificationCenter (Settings)
+- (void)getNotificationSettingsWithCompletionHandler:
+    (void (^)(UNNotificationSettings* settings))completionHandler;
 @end
 
 API_AVAILABLE(macos(10.14))

@@ -1,0 +1,33 @@
+// Whether a device may be unplugged, by the block devices of its drive.
+// SPDX-License-Identifier: MIT
+#include "platform/headless/DriveUse.h"
+
+#include <algorithm>
+
+namespace brisel::platform::headless {
+
+namespace {
+
+// UDisks2 gives the content of an encrypted device no drive.
+std::string driveOf(const std::vector<BlockUse>& blocks, const BlockUse& block) {
+    const auto backing = std::find_if(blocks.begin(), blocks.end(), [&](const auto& other) {
+        return other.path == block.backing;
+    });
+    return backing == blocks.end() ? block.drive : backing->drive;
+}
+
+}  // namespace
+
+bool mayBeUnplugged(const std::vector<BlockUse>& blocks, const std::string& bsdName) {
+    const auto device = std::find_if(blocks.begin(), blocks.end(), [&bsdName](const auto& block) {
+        return block.bsdName == bsdName;
+    });
+    if (device == blocks.end()) return false;
+    // Loop devices and the like have no drive.
+    if (device->drive == "/") return true;
+    return !device->system && std::none_of(blocks.begin(), blocks.end(), [&](const auto& block) {
+        return &block != &*device && block.mounted && driveOf(blocks, block) == device->drive;
+    });
+}
+
+}  // namespace brisel::platform::headless

@@ -1,0 +1,105 @@
+// The administrator's password prompt, by a program in pkexec's place.
+// SPDX-License-Identifier: MIT
+#include "platform/headless/Authorization.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+#include "tests/linux/TemporaryFolder.h"
+
+namespace brisel::platform::headless {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Drops the effective user to nobody: root needs no pkexec.
+class Nobody {
+  public:
+    Nobody() { EXPECT_TRUE(before_ != 0 || seteuid(NobodysNumber) == 0); }
+    Nobody(const Nobody&) = delete;
+    Nobody& operator=(const Nobody&) = delete;
+    ~Nobody() { EXPECT_EQ(seteuid(before_), 0); }
+
+  private:
+    static constexpr uid_t NobodysNumber = 65534;
+    uid_t before_ = geteuid();
+};
+
+class ThePasswordPrompt : public testing::Test {
+  protected:
+    ThePasswordPrompt() {
+        EXPECT_EQ(pipe2(terminationSignals_.data(), O_CLOEXEC), 0);
+        fs::permissions(folder_.path(), fs::perms(0755));
+    }
+    ~ThePasswordPrompt() override {
+        for (const int end : terminationSignals_)
+            close(end);
+    }
+    /// Starts the tool `/tool a b` by a pkexec that runs `script`.
+    StartedTool start(const std::string& script) {
+        std::ofstream(pkexec_) << "#!/bin/bash\n" << script << '\n';
+        fs::permissions(pkexec_, fs::perms(0755));
+        const std::array<char*, 3> arguments{first_.data(), second_.data(), nullptr};
+        const Nobody nobody;
+        Authorization authorization(terminationSignals_[0], pkexec_);
+        EXPECT_TRUE(authorization.offersExecuteWithPrivileges());
+        EXPECT_EQ(authorization.copyRights(nullptr, {}, 0), errAuthorizationSuccess);
+        return authorization.executeWithPrivileges(nullptr, "/tool", 0, arguments.data());
+    }
+    /// What the running tool prints; waits for its end.
+    static std::string outputOf(const StartedTool& tool) {
+        const pid_t child = fcntl(fileno(tool.communicationsPipe), F_GETOWN, 0);
+        std::array<char, 100> text{};
+        const bool hasLine = std::fgets(text.data(), text.size(), tool.communicationsPipe);
+        std::fclose(tool.communicationsPipe);
+        EXPECT_EQ(waitpid(child, nullptr, 0), child);
+        return hasLine ? text.data() : "";
+    }
+
+    tests::TemporaryFolder folder_;
+    std::string pkexec_ = folder_.path() + "/pkexec";
+    std::string first_ = "a";
+    std::string second_ = "b";
+    std::array<int, 2> terminationSignals_{};
+};
+
+TEST_F(ThePasswordPrompt, IsPkexecsAlone) {
+    const auto tool = start("echo \"$@\"");
+    ASSERT_EQ(tool.status, errAuthorizationSuccess);
+    EXPECT_EQ(outputOf(tool), "--disable-internal-agent /tool a b\n");
+}
+
+TEST_F(ThePasswordPrompt, EndsWhenPkexecStartsTheTool) {
+    // pkexec closes the descriptors that it does not pass on.
+    const auto tool = start(
+        "for file in /proc/$$/fd/*; do n=${file##*/}; [ $n -gt 2 ] && eval \"exec $n>&-\"; done\n"
+        "read -r line; echo \"$line\"");
+    ASSERT_EQ(tool.status, errAuthorizationSuccess);
+    EXPECT_EQ(write(fileno(tool.communicationsPipe), "runs\n", strlen("runs\n")), 5);
+    EXPECT_EQ(outputOf(tool), "runs\n");
+}
+
+TEST_F(ThePasswordPrompt, IsDismissedOrRefused) {
+    EXPECT_EQ(start("exit 126").status, errAuthorizationCanceled);
+    EXPECT_EQ(start("exit 127").status, errAuthorizationDenied);
+    EXPECT_EQ(start("kill $$").status, errAuthorizationDenied);
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+}
+
+TEST_F(ThePasswordPrompt, IsCancelledOnTermination) {
+    EXPECT_EQ(write(terminationSignals_[1], "x", 1), 1);
+    EXPECT_EQ(start("exec sleep 60").status, errAuthorizationDenied);
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+}
+
+}  // namespace
+
+}  // namespace brisel::platform::headless
