@@ -41,7 +41,7 @@ def main():
     version = f"{name} {kind.version()}"
     with open(f"{pictures}.md", "w", encoding="utf-8") as file:
         file.write(f"| {version} | {' | '.join(results.values())} |\n")
-    return 0
+    return 1 if {"no", "nothing"} & set(results.values()) else 0
 
 
 if __name__ == "__main__":

@@ -15,7 +15,7 @@ LOGIN_MANAGER = "org.freedesktop.login1"
 
 
 class Machine:
-    """Services in memory. Touches nothing of the real machine but its list of users."""
+    """Services in memory, on a bus of their own."""
 
     def __init__(self, cleanup):
         self._cleanup = cleanup

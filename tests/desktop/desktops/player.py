@@ -41,6 +41,8 @@ class Player:
     @property
     def rows(self):
         """The rows of the screen without the panel of the icon."""
+        if not self.icon:
+            raise NeverHappened("there is no icon")
         if self.has_panel_above():
             return range(self.icon.rows.stop + PANEL_MARGIN, SIZE[1])
         return range(0, self.icon.top - PANEL_MARGIN)
