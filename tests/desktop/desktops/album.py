@@ -48,4 +48,5 @@ class Album:
     def compose(self, file):
         """Makes the small picture: the first two parts, side by side."""
         parts = [word for part in self._parts[:2] for word in ("(", *part, ")")]
-        run("convert", *parts, "+append", "-resize", str(WIDTH), "-strip", "+dither", "-colors", "64", f"PNG8:{file}")
+        run("convert", *parts, "+append", "-resize", str(WIDTH), "-strip", "+dither",
+            "-colors", "64", f"PNG8:{file}")
