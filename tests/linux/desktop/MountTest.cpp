@@ -20,7 +20,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using tests::FakeDisks;
 using tests::turnUntil;
 

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <future>
 
 #include "tests/linux/desktop/FakeService.h"
