@@ -16,8 +16,6 @@ FIRST_BUTTON = (159, 30)
 
 
 class Desk(Story):
-    """Tests what a user sees and clicks."""
-
     def test_a_click_in_the_panels_menu_makes_a_stick_writable(self):
         stick = self.start_with_stick()
         self.tray.wait_for_entry("re-mount StageData")

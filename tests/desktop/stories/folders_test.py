@@ -10,8 +10,6 @@ from .story import Story
 
 
 class Folders(Story):
-    """Tests which program opens a folder."""
-
     def test_a_folder_opens_in_the_file_manager_on_the_bus(self):
         with closing(FileManager(self.stage.session.bus.address)) as manager:
             _stick, folder = self.start_with_writable_stick()

@@ -12,8 +12,6 @@ UDISKS = "org.freedesktop.UDisks2"
 
 
 class Mishaps(Story):
-    """Checks that the program survives each loss."""
-
     def test_a_stick_pulled_while_writable_leaves_the_menu_and_comes_back(self):
         stick, _folder = self.start_with_writable_stick()
         node = stick.node

@@ -6,8 +6,6 @@ from .story import Story
 
 
 class MountTool(Story):
-    """Tests the password prompt of the mount tool."""
-
     def setUp(self):
         if self.stage.mocked:
             self.skipTest("the mount tool takes a real volume, and root")

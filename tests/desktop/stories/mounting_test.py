@@ -11,8 +11,6 @@ UNMOUNTED_MENU = [
 
 
 class Mounting(Story):
-    """Tests the main job and its variations."""
-
     def test_a_yes_to_the_prompt_makes_a_stick_writable(self):
         self.start_brisel()
         self.tray.wait_for_colour("grey")

@@ -7,8 +7,6 @@ from .story import Story
 
 
 class Prompts(Story):
-    """Tests the prompt on screen."""
-
     def meet_prompt(self, label="StageData"):
         """Attaches a stick; returns it and its prompt."""
         stick = self.attach(label)

@@ -21,8 +21,6 @@ def on_real_disks_only(reason):
 
 
 class Story(unittest.TestCase):
-    """What the stories share."""
-
     # Set by the runner of the stories.
     stage = None
     pictures = None
