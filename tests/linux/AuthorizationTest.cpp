@@ -54,7 +54,6 @@ class ThePasswordPrompt : public testing::Test {
         EXPECT_EQ(authorization.copyRights(nullptr, {}, 0), errAuthorizationSuccess);
         return authorization.executeWithPrivileges(nullptr, "/tool", 0, arguments.data());
     }
-    /// What the running tool prints; waits for its end.
     static std::string outputOf(const StartedTool& tool) {
         const pid_t child = fcntl(fileno(tool.communicationsPipe), F_GETOWN, 0);
         std::array<char, 100> text{};

@@ -111,10 +111,6 @@ std::string ConsoleSession::menu() {
     return output_.substr(start, seen_ - start);
 }
 
-bool ConsoleSession::printed(const std::string& text) const {
-    return output_.find(text) != std::string::npos;
-}
-
 int ConsoleSession::quit() {
     type("quit");
     close(input_);

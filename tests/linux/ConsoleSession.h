@@ -15,7 +15,6 @@ class ConsoleSession {
     ConsoleSession(const std::string& program, const std::string& home);
     ConsoleSession(const ConsoleSession&) = delete;
     ConsoleSession& operator=(const ConsoleSession&) = delete;
-    /// Kills the program if it still runs.
     ~ConsoleSession();
 
     void type(const std::string& line) const;
@@ -28,11 +27,7 @@ class ConsoleSession {
     [[nodiscard]] std::string menu();
     /// The rest of the line after the last match of waitFor().
     [[nodiscard]] std::string restOfLine();
-    /// The whole output so far.
     [[nodiscard]] const std::string& output() const { return output_; }
-    /// True if `text` occurs in the output so far.
-    [[nodiscard]] bool printed(const std::string& text) const;
-    /// Types `quit` and returns the exit status.
     int quit();
 
   private:

@@ -31,7 +31,6 @@ class ALoop : public testing::Test {
             if (end >= 0) close(end);
         }
     }
-    /// Dispatches all ready sources.
     void turn() const {
         while (g_main_context_iteration(loop_->context(), FALSE) != FALSE) {
         }

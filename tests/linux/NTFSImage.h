@@ -8,7 +8,6 @@ namespace brisel::tests {
 
 /// Runs a shell command; returns stdout and stderr without the trailing newline.
 std::string shell(const std::string& command);
-/// True if the shell command exits with status 0.
 bool succeeds(const std::string& command);
 
 /// Shell command that fills the current folder's volume until not even an empty file fits.
@@ -18,7 +17,6 @@ inline constexpr const char* Filling =
 
 class NTFSImage {
   public:
-    /// Creates the image in `folder`, unattached.
     NTFSImage(const std::string& folder, const std::string& label,
               const std::string& file = "volume.img");
     NTFSImage(const NTFSImage&) = delete;
@@ -31,7 +29,6 @@ class NTFSImage {
     std::string mountReadOnly() const;
     /// Detaches the device and unmounts the volume lazily, as when a stick is pulled.
     void pull();
-    /// Detaches the unmounted device.
     void detach();
 
     /// For example /dev/loop0.

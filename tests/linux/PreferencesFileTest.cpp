@@ -40,14 +40,11 @@ class PreferencesFile : public testing::Test {
     SystemLog log_{[this](const std::string& text) { logged_.push_back(text); }};
 };
 
-TEST_F(PreferencesFile, ThatIsMissingMeansDefaultsWithoutALogEntry) {
-    EXPECT_TRUE(open().boolForKey("showDisclaimer"));
-    EXPECT_THAT(logged_, IsEmpty());
-}
-
-TEST_F(PreferencesFile, KeepsWhatWasSetAcrossRuns) {
+TEST_F(PreferencesFile, KeepsWhatWasSetAcrossRunsAndIsMadeWithTheFoldersAboveIt) {
+    path_ = folder_.path() + "/a/b/preferences.conf";
     {
         auto defaults = open();
+        EXPECT_TRUE(defaults.boolForKey("showDisclaimer"));
         defaults.setBool("showDisclaimer", false);
         defaults.setStringArray("volumeList", std::make_shared<const std::vector<std::string>>(
                                                   std::vector<std::string>{"A-1", "B;2"}));
@@ -55,31 +52,26 @@ TEST_F(PreferencesFile, KeepsWhatWasSetAcrossRuns) {
     const auto defaults = open();
     EXPECT_FALSE(defaults.boolForKey("showDisclaimer"));
     EXPECT_THAT(*defaults.stringArrayForKey("volumeList"), ElementsAre("A-1", "B;2"));
+    EXPECT_THAT(logged_, IsEmpty());
 }
 
-TEST_F(PreferencesFile, IsMadeWithTheFoldersAboveIt) {
-    path_ = folder_.path() + "/a/b/preferences.conf";
-    open().setBool("showDisclaimer", false);
-    EXPECT_FALSE(open().boolForKey("showDisclaimer"));
-}
-
-TEST_F(PreferencesFile, ThatIsMalformedIsSetAsideAndLogged) {
-    write("no key file at all\n");
-    auto defaults = open();
-    EXPECT_TRUE(defaults.boolForKey("showDisclaimer"));
-    EXPECT_EQ(read(path_ + ".malformed"), "no key file at all\n");
-    ASSERT_EQ(logged_.size(), 2U);
-    EXPECT_THAT(logged_[0], HasSubstr("cannot be read"));
-    EXPECT_THAT(logged_[1], HasSubstr(path_ + ".malformed"));
-    defaults.setBool("showDisclaimer", false);
-    EXPECT_FALSE(open().boolForKey("showDisclaimer"));
-}
-
-TEST_F(PreferencesFile, OfNullBytesIsSetAsideToo) {
-    write(std::string(60, '\0'));
-    EXPECT_TRUE(open().boolForKey("showDisclaimer"));
-    EXPECT_EQ(read(path_ + ".malformed"), std::string(60, '\0'));
-    EXPECT_EQ(logged_.size(), 2U);
+TEST_F(PreferencesFile, ThatIsMalformedIsLoggedAndSetAsideUnderAnUnusedName) {
+    const std::vector<std::pair<std::string, std::string>> rows{
+        {"no key file at all\n", ".malformed"}, {std::string(60, '\0'), ".malformed-2"}};
+    for (const auto& [text, ending] : rows) {
+        SCOPED_TRACE(ending);
+        logged_.clear();
+        write(text);
+        auto defaults = open();
+        EXPECT_TRUE(defaults.boolForKey("showDisclaimer"));
+        EXPECT_EQ(read(path_ + ending), text);
+        ASSERT_EQ(logged_.size(), 2U);
+        EXPECT_THAT(logged_[0], HasSubstr("cannot be read"));
+        EXPECT_THAT(logged_[1], HasSubstr(path_ + ending));
+        defaults.setBool("showDisclaimer", false);
+        EXPECT_FALSE(open().boolForKey("showDisclaimer"));
+    }
+    EXPECT_EQ(read(path_ + ".malformed"), rows.front().first);
 }
 
 TEST_F(PreferencesFile, ThatIsAPipeDoesNotBlock) {
@@ -115,15 +107,6 @@ TEST_F(PreferencesFile, BehindALinkIsWrittenInPlace) {
     open().setBool("showDisclaimer", false);
     EXPECT_TRUE(std::filesystem::is_symlink(path_));
     EXPECT_THAT(read(target), HasSubstr("showDisclaimer=false"));
-}
-
-TEST_F(PreferencesFile, IsSetAsideUnderAnUnusedName) {
-    write("first\n");
-    static_cast<void>(open());
-    write("second\n");
-    static_cast<void>(open());
-    EXPECT_EQ(read(path_ + ".malformed"), "first\n");
-    EXPECT_EQ(read(path_ + ".malformed-2"), "second\n");
 }
 
 TEST_F(PreferencesFile, WithValuesOfTheWrongTypeReadsAsDefaultsAndAsAnEmptyList) {

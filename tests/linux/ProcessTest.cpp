@@ -35,7 +35,6 @@ int inAnotherProcess(const std::function<int()>& body) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-/// Sets an environment variable while in scope.
 class Variable {
   public:
     Variable(const char* name, const std::optional<std::string>& value) : name_(name) {
@@ -77,21 +76,14 @@ TEST(TheProcess, RestoresSIGCHLD) {
               3);
 }
 
-TEST(TheUsersLanguage, IsNamedAsTheTablesAre) {
+TEST(TheUsersLanguages, AreNamedAsTheTablesAreAndComeInTheirOrder) {
     const Variable locale("LC_ALL", "");
-    const auto languageFor = [](const char* value) {
+    const std::vector<std::pair<const char*, const char*>> rows{
+        {"de_DE.UTF-8", "de"}, {"pt_BR", "pt"}, {"sr_RS@latin", "sr"}, {"zh_CN.UTF-8", "zh-Hans"}};
+    for (const auto& [value, name] : rows) {
         const Variable language("LANGUAGE", value);
-        return userLanguages().front();
-    };
-    EXPECT_EQ(languageFor("de_DE.UTF-8"), "de");
-    EXPECT_EQ(languageFor("pt_BR"), "pt");
-    EXPECT_EQ(languageFor("sr_RS@latin"), "sr");
-    EXPECT_EQ(languageFor("zh_CN.UTF-8"), "zh-Hans");
-    EXPECT_EQ(languageFor("fr:de"), "fr");
-}
-
-TEST(TheUsersLanguages, ComeInTheirOrder) {
-    const Variable locale("LC_ALL", "");
+        EXPECT_EQ(userLanguages().front(), name);
+    }
     const Variable language("LANGUAGE", "nl:de_AT");
     EXPECT_THAT(userLanguages(), testing::ElementsAre("nl", "de", "de", "C"));
 }
@@ -145,9 +137,8 @@ TEST(AVolume, IsNotWritableMerelyByItsMountOptions) {
 }
 
 TEST(AVolume, IsAMountPoint) {
-    const tests::TemporaryFolder folder;
-    EXPECT_FALSE(takesWriting(folder.path()));
-    EXPECT_FALSE(takesWriting(folder.path() + "/missing"));
+    EXPECT_FALSE(takesWriting(tests::TemporaryFolder().path()));
+    EXPECT_FALSE(takesWriting("/missing"));
 }
 
 TEST(AVolume, IsHibernatedIfItsHibernationFileIsActive) {

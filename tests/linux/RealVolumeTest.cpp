@@ -17,8 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string Scripts = BRISEL_SCRIPTS;
-
 class RealVolume : public testing::Test {
   protected:
     void SetUp() override {
@@ -44,7 +42,6 @@ class RealVolume : public testing::Test {
             << transcript();
     }
 
-    /// Waits for the volume's prompt and accepts it; returns the mount point.
     std::string acceptPrompt() {
         waitForPrompt();
         console_->type("y");
@@ -68,42 +65,6 @@ class RealVolume : public testing::Test {
     std::unique_ptr<ConsoleSession> console_;
 };
 
-TEST_F(RealVolume, MountedReadOnlyIsRemountedWrittenToAndUnmounted) {
-    image_->attach();
-    const auto before = image_->mountReadOnly();
-    ASSERT_FALSE(succeeds("touch '" + before + "/refused'"));
-    startConsole();
-
-    const auto folder = acceptPrompt();
-    std::ofstream(folder + "/greeting.txt") << "written through Brisel";
-    ASSERT_TRUE(console_->waitFor("[Brisel: a volume is writable]")) << transcript();
-
-    ASSERT_TRUE(console_->choose("unmount"));
-    ASSERT_TRUE(console_->waitFor("No NTFS Volumes to re-mount")) << transcript();
-    EXPECT_FALSE(image_->isMounted());
-    EXPECT_EQ(console_->quit(), 0);
-    image_->detach();
-    EXPECT_EQ(image_->contentOf("greeting.txt"), "written through Brisel");
-}
-
-TEST_F(RealVolume, OnTheAutomountListIsRemountedWithoutAQuestion) {
-    startConsole();
-    image_->attach();
-    acceptPrompt();
-    ASSERT_TRUE(console_->waitFor("[Brisel: a volume is writable]")) << transcript();
-    ASSERT_TRUE(console_->choose("mount automatically"));
-    ASSERT_TRUE(console_->waitFor("List count: 1")) << transcript();
-    image_->pull();
-    ASSERT_TRUE(console_->waitFor("No NTFS Volumes to re-mount")) << transcript();
-
-    image_->attach();
-    image_->mountReadOnly();
-    const auto folder = folderShown();
-    EXPECT_TRUE(succeeds("touch '" + folder + "/allowed'"));
-    const auto firstPrompt = transcript().find(" detected");
-    EXPECT_EQ(transcript().find(" detected", firstPrompt + 1), std::string::npos) << transcript();
-}
-
 TEST_F(RealVolume, KeptBusyByAnOpenFileStaysReadOnlyAndIsReported) {
     image_->attach();
     const auto mountPoint = image_->mountReadOnly();
@@ -122,21 +83,6 @@ TEST_F(RealVolume, KeptBusyByAnOpenFileStaysReadOnlyAndIsReported) {
     EXPECT_TRUE(image_->isMounted());
 }
 
-TEST_F(RealVolume, PulledWhileMountedLeavesTheMenuAndComesBack) {
-    image_->attach();
-    startConsole();
-    acceptPrompt();
-    ASSERT_TRUE(console_->waitFor("[Brisel: a volume is writable]")) << transcript();
-    const auto name = image_->name();
-
-    image_->pull();
-    ASSERT_TRUE(console_->waitFor("log: disk " + name + " disappeared")) << transcript();
-    ASSERT_TRUE(console_->waitFor("[Brisel: no NTFS volume]")) << transcript();
-    image_->attach();
-    waitForPrompt();
-    EXPECT_EQ(console_->quit(), 0);
-}
-
 TEST_F(RealVolume, ThatIsFullIsStillRemounted) {
     image_->attach();
     const auto aside = folder_ + "/aside";
@@ -148,36 +94,6 @@ TEST_F(RealVolume, ThatIsFullIsStillRemounted) {
     EXPECT_FALSE(succeeds("touch '" + folder + "/one-more'"));
     ASSERT_TRUE(succeeds("rm '" + folder + "'/filling*"));
     EXPECT_TRUE(succeeds("touch '" + folder + "/one-more'"));
-}
-
-TEST_F(RealVolume, OutlivesTheDiskService) {
-    image_->attach();
-    startConsole();
-    waitForPrompt();
-
-    const auto process = shell(Scripts + "/disk-services udisks-process");
-    if (process.empty()) GTEST_SKIP() << "UDisks2 was not started by this test";
-    shell("kill " + process);
-    ASSERT_TRUE(console_->waitFor("UDisks2 has stopped; waiting for it to start.")) << transcript();
-    ASSERT_TRUE(succeeds(Scripts + "/disk-services start"));
-    ASSERT_TRUE(console_->waitFor("Connected to UDisks2 again.")) << transcript();
-    EXPECT_FALSE(console_->printed("disappeared")) << transcript();
-    console_->type("y");
-    EXPECT_TRUE(succeeds("touch '" + folderShown() + "/allowed'"));
-}
-
-TEST_F(RealVolume, HibernatedIsNotLeftMountedReadOnlyAsIfItWereWritable) {
-    image_->attach();
-    const auto folder = shell("udisksctl mount --no-user-interaction -b " + image_->device() +
-                              " >/dev/null; findmnt -no TARGET --source " + image_->device());
-    shell("printf hibr > '" + folder + "/hiberfil.sys'; truncate -s 8192 '" + folder +
-          "/hiberfil.sys'; udisksctl unmount --no-user-interaction -b " + image_->device());
-    startConsole();
-    waitForPrompt();
-    console_->type("y");
-    ASSERT_TRUE(console_->waitFor("kDAReturnNotWritable for volume")) << transcript();
-    ASSERT_TRUE(console_->waitFor("! Volume \"" + label_ + "\" not re-mountable")) << transcript();
-    EXPECT_FALSE(image_->isMounted());
 }
 
 TEST_F(RealVolume, MountedReadWriteByAnotherProgramIsShownAsWritable) {

@@ -10,7 +10,6 @@ namespace brisel::tests {
 
 class TemporaryFolder {
   public:
-    /// Creates the folder in `within`.
     explicit TemporaryFolder(
         const std::filesystem::path& within = std::filesystem::temp_directory_path()) {
         std::string name = within / "brisel-XXXXXX";

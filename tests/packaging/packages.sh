@@ -4,7 +4,8 @@
 #
 # usage: packages.sh RELEASE-TREE FOLDER
 #
-# The lists PACKAGE.contents hold mode and path of everything but folders.
+# The lists PACKAGE.contents hold mode and path of everything but folders. COLOUR-BAR stands for the
+# status images, whose names icon-names.sh checks.
 release=$1
 folder=$2
 lists=$(dirname "$0")
@@ -39,12 +40,16 @@ for package in brisel brisel-mount-tool; do
     dpkg-deb -c "$file" >"$folder/listing" || complain "$package cannot be listed."
     grep -qv ' root/root ' "$folder/listing" && complain "$package has files that are not root's."
     grep '^d' "$folder/listing" | grep -v '^drwxr-xr-x ' && complain "$package has odd folders."
-    awk '!/^d/ { print $1, $6 }' "$folder/listing" | LC_ALL=C sort -k 2 >"$folder/contents"
+    awk '!/^d/ { print $1, $6 }' "$folder/listing" |
+        sed 's/-[a-z]*-\(dark\|light\)[.]svg$/-COLOUR-BAR.svg/' |
+        LC_ALL=C sort -k 2 -u >"$folder/contents"
     diff "$lists/$package.contents" "$folder/contents" ||
         complain "$package does not hold what it should (< should, > does)."
     [ "$(dpkg-deb -f "$file" Version)" = "$version" ] || complain "$package has another version."
 done
 
+[ "$(dpkg-deb -c "$folder"/brisel_*.deb | grep -c 'brisel-status-')" = 20 ] ||
+    complain "brisel does not hold 20 status images."
 dpkg-deb -f "$folder"/brisel_*.deb Depends | grep -q 'brisel-mount-tool\|pkexec' &&
     complain "brisel drags code in that runs as root."
 # The documents install it with this command.

@@ -7,18 +7,13 @@ folder=$1
 checks=$(dirname "$0")
 failures=0
 
-# tree FILE TEXT: creates a tree with this file only.
+# tree FILE TEXT: creates a tree with this file only; scripts can be executed.
 tree() {
     rm -rf "$folder"
     mkdir -p "$folder/$(dirname "$1")"
     printf 'BasedOnStyle: Google\n' >"$folder/.clang-format"
     printf "$2" >"$folder/$1"
-}
-
-# program FILE TEXT: creates a tree with this executable file only.
-program() {
-    tree "$1" "$2"
-    chmod +x "$folder/$1"
+    case $1 in scripts/* | .ci/*) chmod +x "$folder/$1" ;; esac
 }
 
 # lines TEXT NUMBER: repeats the line.
@@ -40,10 +35,15 @@ complains() {
     failures=1
 }
 
+# tree_of FILE TEXT VERDICT CHECK WHAT
+tree_of() {
+    tree "$1" "$2"
+    "$3" "$4" "$5"
+}
+
 # includes FROM TO VERDICT
 includes() {
-    tree "$1" "#include \"$2\"\n"
-    "$3" arrows "$1 includes $2"
+    tree_of "$1" "#include \"$2\"\n" "$3" arrows "$1 includes $2"
 }
 
 includes src/app/A.cpp mounting/B.h passes
@@ -76,48 +76,33 @@ includes simulator/A.cpp tests/B.h complains
 includes tools/A.cpp app/B.h complains
 includes tools/A.cpp platform/headless/B.h complains
 
-tree src/app/A.cpp '#ifdef __linux__\n#endif\n'
-complains arrows 'an operating system in the core'
-tree src/platform/headless/A.cpp '#ifdef __linux__\n#endif\n'
-passes arrows 'an operating system in its platform'
+tree_of src/app/A.cpp '#ifdef __linux__\n#endif\n' complains arrows 'an operating system in the core'
+tree_of src/platform/headless/A.cpp '#ifdef __linux__\n#endif\n' \
+    passes arrows 'an operating system in its platform'
 
 good='// A good file.\n// SPDX-License-Identifier: MIT\n#pragma once\n'
-tree src/app/A.h "$good"
-passes files 'a good header'
+tree_of src/app/A.h "$good" passes files 'a good header'
 passes format 'a good header'
-tree src/app/A.h '#pragma once\n// SPDX-License-Identifier: MIT\n'
-complains files 'no sentence'
-tree src/app/A.h '// No licence.\n#pragma once\n'
-complains files 'no licence'
-tree src/app/A.h '// No guard.\n// SPDX-License-Identifier: MIT\n'
-complains files 'no guard'
-tree src/app/A.h "$good$(lines '//' 257)"
-passes files 'a file of 260 lines'
-tree src/app/A.h "$good$(lines '//' 258)"
-complains files 'a file of 261 lines'
+tree_of src/app/A.h '#pragma once\n// SPDX-License-Identifier: MIT\n' complains files 'no sentence'
+tree_of src/app/A.h '// No licence.\n#pragma once\n' complains files 'no licence'
+tree_of src/app/A.h '// No guard.\n// SPDX-License-Identifier: MIT\n' complains files 'no guard'
+tree_of src/app/A.h "$good$(lines '//' 257)" passes files 'a file of 260 lines'
+tree_of src/app/A.h "$good$(lines '//' 258)" complains files 'a file of 261 lines'
 
 licence='# SPDX-License-Identifier: MIT\n'
-program scripts/run "#!/bin/sh\n# Runs it all.\n$licence"
-passes files 'a good script'
-program scripts/run "#!/bin/sh\n# Runs it all: run FOLDER\n$licence"
-passes files 'a script that says how it is called'
-tree tests/run.py "# Runs it all.\n$licence"
-passes files 'a good module'
-program scripts/run "# Runs it all.\n$licence"
-complains files 'nothing to execute a script by'
-program scripts/run "#!/bin/sh\n$licence"
-complains files 'no sentence on a script'
-program .ci/run "#!/bin/sh\n# Runs it all.\nset -eu\n"
-complains files 'no licence of a script'
-tree tests/run.sh "#!/bin/sh\n# Runs it all: but\n$licence# not today.\n"
-complains files 'half a sentence on a script'
-tree tests/run.py '# Runs it all.\nimport os\n'
-complains files 'no licence of a module'
-tree benchmarks/run.py "# Runs it all.\n$licence$(lines '#' 259)"
-complains files 'a long module'
+tree_of scripts/run "#!/bin/sh\n# Runs it all.\n$licence" passes files 'a good script'
+tree_of scripts/run "#!/bin/sh\n# Runs it all: run FOLDER\n$licence" \
+    passes files 'a script that says how it is called'
+tree_of tests/run.py "# Runs it all.\n$licence" passes files 'a good module'
+tree_of scripts/run "# Runs it all.\n$licence" complains files 'nothing to execute a script by'
+tree_of scripts/run "#!/bin/sh\n$licence" complains files 'no sentence on a script'
+tree_of .ci/run "#!/bin/sh\n# Runs it all.\nset -eu\n" complains files 'no licence of a script'
+tree_of tests/run.sh "#!/bin/sh\n# Runs it all: but\n$licence# not today.\n" \
+    complains files 'half a sentence on a script'
+tree_of tests/run.py '# Runs it all.\nimport os\n' complains files 'no licence of a module'
+tree_of benchmarks/run.py "# Runs it all.\n$licence$(lines '#' 259)" complains files 'a long module'
 
-tree src/app/A.cpp 'int  a ;\n'
-complains format 'bad format'
+tree_of src/app/A.cpp 'int  a ;\n' complains format 'bad format'
 
 rm -rf "$folder"
 exit $failures

@@ -16,10 +16,8 @@ class Host(bus.Service):
 
     XML = """<node><interface name="org.kde.StatusNotifierWatcher">
       <method name="RegisterStatusNotifierItem"><arg type="s" direction="in"/></method>
-      <method name="RegisterStatusNotifierHost"><arg type="s" direction="in"/></method>
       <property name="RegisteredStatusNotifierItems" type="as" access="read"/>
       <property name="IsStatusNotifierHostRegistered" type="b" access="read"/>
-      <property name="ProtocolVersion" type="i" access="read"/>
     </interface></node>"""
 
     def __init__(self, address):
@@ -36,13 +34,9 @@ class Host(bus.Service):
             self.items.append(item)
         return ()
 
-    def RegisterStatusNotifierHost(self, _host):
-        return ()
-
     def read_property(self, interface, name):
         return {"RegisteredStatusNotifierItems": GLib.Variant("as", self.items),
-                "IsStatusNotifierHostRegistered": GLib.Variant("b", True),
-                "ProtocolVersion": GLib.Variant("i", 0)}[name]
+                "IsStatusNotifierHostRegistered": GLib.Variant("b", True)}[name]
 
     def activate(self):
         """Calls Activate of the first item; returns whether the item took it."""

@@ -1,13 +1,12 @@
 # Notifications: a fake server, and access to the desktop's own.
 # SPDX-License-Identifier: MIT
-import time
-from dataclasses import dataclass, field
+from dataclasses import dataclass
 
 from gi.repository import GLib
 
 from . import bus
 from .session import NOTIFICATIONS
-from .waiting import NeverHappened, wait_for
+from .waiting import wait_for
 
 PATH = "/org/freedesktop/Notifications"
 EXPIRED = 1
@@ -26,7 +25,6 @@ class Notification:
     replaced: int
     hints: dict
     timeout: int
-    moment: float = field(default_factory=time.monotonic)
 
 
 class NotificationServer(bus.Service):
@@ -95,10 +93,8 @@ class NotificationServer(bus.Service):
         """Waits for a notification with this summary, skipping the first `after` ones."""
         def find():
             return next((one for one in self.posted[after:] if one.summary == summary), None)
-        try:
-            return wait_for(find, f'"{summary}" is posted')
-        except NeverHappened as problem:
-            raise NeverHappened(f"{problem}; posted were {self.posted}") from None
+        return wait_for(find, f'"{summary}" is posted',
+                        instead=lambda: f"posted were {self.posted}")
 
     def wait_until_open(self, summary):
         """Waits until a notification with this summary is on screen; returns it."""

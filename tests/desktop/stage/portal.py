@@ -16,12 +16,7 @@ class SettingsPortal(bus.Service):
     XML = """<node><interface name="org.freedesktop.portal.Settings">
       <method name="Read"><arg type="s" direction="in"/><arg type="s" direction="in"/>
         <arg type="v" direction="out"/></method>
-      <method name="ReadOne"><arg type="s" direction="in"/><arg type="s" direction="in"/>
-        <arg type="v" direction="out"/></method>
-      <method name="ReadAll"><arg type="as" direction="in"/>
-        <arg type="a{sa{sv}}" direction="out"/></method>
       <signal name="SettingChanged"><arg type="s"/><arg type="s"/><arg type="v"/></signal>
-      <property name="version" type="u" access="read"/>
     </interface></node>"""
 
     def __init__(self, connection):
@@ -35,20 +30,8 @@ class SettingsPortal(bus.Service):
         self.emit(SETTINGS, "SettingChanged", "(ssv)", NAMESPACE, KEY,
                   GLib.Variant("u", scheme))
 
-    def read_property(self, interface, name):
-        return GLib.Variant("u", 2)
-
-    # The names are those of the D-Bus methods. pylint: disable=invalid-name
-    def ReadOne(self, namespace, key):
+    # The name is that of the D-Bus method. pylint: disable=invalid-name
+    def Read(self, namespace, key):
         if (namespace, key) != (NAMESPACE, KEY):
             raise bus.BusError("org.freedesktop.portal.Error.NotFound", "no such setting")
-        return (GLib.Variant("u", self._scheme),)
-
-    def Read(self, namespace, key):
-        # The older call wraps its answer in a second variant.
-        return (GLib.Variant("v", self.ReadOne(namespace, key)[0]),)
-
-    def ReadAll(self, namespaces):
-        if namespaces and NAMESPACE not in namespaces:
-            return ({},)
-        return ({NAMESPACE: {KEY: GLib.Variant("u", self._scheme)}},)
+        return (GLib.Variant("v", GLib.Variant("u", self._scheme)),)

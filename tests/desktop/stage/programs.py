@@ -4,7 +4,7 @@ import os
 import signal
 import subprocess
 
-from .waiting import PATIENCE, NeverHappened, wait_for
+from .waiting import PATIENCE, wait_for
 
 
 class Program:
@@ -34,10 +34,7 @@ class Program:
         def end():
             found = self.text().find(wanted, start)
             return found + len(wanted) if found >= 0 else None
-        try:
-            return wait_for(end, f'"{wanted}" is printed')
-        except NeverHappened as problem:
-            raise NeverHappened(f"{problem}; this was:\n{self.text()}") from None
+        return wait_for(end, f'"{wanted}" is printed', instead=lambda: f"this was:\n{self.text()}")
 
     def wait_for_end(self, seconds=PATIENCE):
         """Waits for the program's end; returns the exit status."""

@@ -6,7 +6,7 @@ from gi.repository import GLib
 
 from . import bus
 from .session import WATCHER
-from .waiting import NeverHappened, wait_for
+from .waiting import wait_for
 
 ITEM = "org.kde.StatusNotifierItem"
 ITEM_PATH = "/StatusNotifierItem"
@@ -71,10 +71,8 @@ class Tray:
         return self.property("IconName")
 
     def wait_for_icon(self, name):
-        try:
-            wait_for(lambda: self.icon() == name, f"the icon is {name}")
-        except NeverHappened as problem:
-            raise NeverHappened(f"{problem}; it is {self.icon()}") from None
+        wait_for(lambda: self.icon() == name, f"the icon is {name}",
+                 instead=lambda: f"it is {self.icon()}")
 
     def wait_for_colour(self, colour):
         self.wait_for_icon(f"brisel-status-{colour}-light")
@@ -94,16 +92,11 @@ class Tray:
         """Waits for an entry with this label; returns it."""
         def find():
             return next((entry for entry in self.menu() if entry.label == label), None)
-        try:
-            return wait_for(find, f'the menu has "{label}"')
-        except NeverHappened as problem:
-            raise NeverHappened(f"{problem}; it has {self.labels()}") from None
+        return wait_for(find, f'the menu has "{label}"', instead=lambda: f"it has {self.labels()}")
 
     def wait_until_gone(self, label):
-        try:
-            wait_for(lambda: label not in self.labels(), f'"{label}" leaves the menu')
-        except NeverHappened as problem:
-            raise NeverHappened(f"{problem}; it has {self.labels()}") from None
+        wait_for(lambda: label not in self.labels(), f'"{label}" leaves the menu',
+                 instead=lambda: f"it has {self.labels()}")
 
     def choose(self, label, below=None):
         """Chooses an entry; `below` is the label of an earlier one."""

@@ -10,15 +10,17 @@ class NeverHappened(AssertionError):
     """A condition did not become true in time."""
 
 
-def wait_for(condition, what, seconds=PATIENCE):
-    """Waits for a true value of `condition()` and returns it; `what` describes it."""
+def wait_for(condition, what, seconds=PATIENCE, instead=None):
+    """Waits for a true value of `condition()` and returns it; `what` describes it, and `instead()`
+    what there is at the end of the time."""
     deadline = time.monotonic() + seconds
     while True:
         value = condition()
         if value:
             return value
         if time.monotonic() > deadline:
-            raise NeverHappened(f"in {seconds} s this did not happen: {what}")
+            found = f"; {instead()}" if instead else ""
+            raise NeverHappened(f"in {seconds} s this did not happen: {what}{found}")
         time.sleep(PAUSE)
 
 

@@ -16,11 +16,8 @@ FIRST_BUTTON = (159, 30)
 
 
 class Desk(Story):
-    """Tests what a user sees and clicks."""
-
     def test_a_click_in_the_panels_menu_makes_a_stick_writable(self):
-        self.start_brisel()
-        stick = self.attach("StageData")
+        stick = self.start_with_stick()
         self.tray.wait_for_entry("re-mount StageData")
         self.tray.wait_for_icon(READ_ONLY)
         wait_for(self.choose_first_entry, "a click in the menu does something")
@@ -42,15 +39,13 @@ class Desk(Story):
 
     def test_a_click_on_the_notification_makes_a_stick_writable(self):
         self.use_real_notifications()
-        self.start_brisel()
-        stick = self.attach("StageData")
+        stick = self.start_with_stick()
         self.click_yes()
         self.wait_for_writable(stick)
 
     def test_the_desktops_notification_server_may_end_and_come_back(self):
         self.use_real_notifications()
-        self.start_brisel()
-        first = self.attach("StageFirst")
+        first = self.start_with_stick("StageFirst")
         self.window.wait_until_shown()
         self.stage.session.stop_notification_server()
         self.window.wait_until_gone()

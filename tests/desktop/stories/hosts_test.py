@@ -11,8 +11,6 @@ def labels_of(entries):
 
 
 class Hosts(Story):
-    """Tests what a user sees on each host."""
-
     def start_on(self, kind):
         """Replaces the panel by a host of this kind and starts the program; returns the host."""
         host = self.stage.start_host(kind)

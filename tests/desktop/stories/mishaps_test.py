@@ -12,12 +12,8 @@ UDISKS = "org.freedesktop.UDisks2"
 
 
 class Mishaps(Story):
-    """Checks that the program survives each loss."""
-
     def test_a_stick_pulled_while_writable_leaves_the_menu_and_comes_back(self):
-        self.start_brisel()
-        stick = self.attach("StageData")
-        self.make_writable(stick)
+        stick, _folder = self.start_with_writable_stick()
         node = stick.node
         posted = len(self.notifications.posted)
         stick.pull()
@@ -29,8 +25,7 @@ class Mishaps(Story):
         self.wait_for_writable(stick)
 
     def test_the_disk_service_may_end_and_come_back(self):
-        self.start_brisel()
-        stick = self.attach("StageData")
+        stick = self.start_with_stick()
         self.notifications.wait_for("StageData detected")
         self.end_disk_service()
         self.brisel.wait_for_log("UDisks2 has stopped; waiting for it to start.")
@@ -55,8 +50,7 @@ class Mishaps(Story):
             bus.driver(bus.system_bus(), "StartServiceByName", "(su)", UDISKS, 0)
 
     def test_the_panel_may_end_and_come_back(self):
-        self.start_brisel()
-        self.attach("StageData")
+        self.start_with_stick()
         self.notifications.wait_for("StageData detected")
         self.stage.session.stop_panel()
         self.stage.session.start_panel()
@@ -73,15 +67,3 @@ class Mishaps(Story):
 
     def wait_for_name(self, name):
         wait_for(lambda: bus.has_owner(self.stage.session.connection, name), f"{name} is there")
-
-    def test_the_notification_server_may_end_and_come_back(self):
-        self.start_brisel()
-        first = self.attach("StageFirst")
-        self.notifications.wait_for("StageFirst detected")
-        self.stage.start_notification_mock()
-        second = self.attach("StageSecond")
-        self.accept_prompt(second)
-        second.wait_until_writable()
-        self.tray.wait_for_entry("show the folder of StageSecond")
-        self.assertEqual(first.mounts(), [])
-        self.assertTrue(self.brisel.program.runs())

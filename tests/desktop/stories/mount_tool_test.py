@@ -2,18 +2,17 @@
 # SPDX-License-Identifier: MIT
 import os
 
-from .story import Story, on_real_disks_only
-
-REASON = "the mount tool takes a real volume, and root"
+from .story import Story
 
 
 class MountTool(Story):
-    """Tests the password prompt of the mount tool."""
-
-    def start_with_stick(self):
-        self.use_mount_tool()
-        self.start_brisel()
-        return self.attach("StageData")
+    def setUp(self):
+        if self.stage.mocked:
+            self.skipTest("the mount tool takes a real volume, and root")
+        super().setUp()
+        obstacle = self.stage.install_mount_tool()
+        if obstacle:
+            self.skipTest(obstacle)
 
     def assert_nothing_mounted(self, stick):
         self.assertEqual(stick.mounts(), [])
@@ -22,7 +21,6 @@ class MountTool(Story):
     def mount_point(self):
         return f"{self.stage.account.home}/.brisel/StageData"
 
-    @on_real_disks_only(REASON)
     def test_the_right_password_makes_a_stick_writable(self):
         stick = self.start_with_stick()
         prompt = self.stage.password_prompt(self.brisel.pid)
@@ -39,7 +37,6 @@ class MountTool(Story):
         self.notifications.wait_for("StageData unmounted")
         self.assert_greeting_arrived(stick)
 
-    @on_real_disks_only(REASON)
     def test_a_wrong_password_mounts_nothing(self):
         stick = self.start_with_stick()
         prompt = self.stage.password_prompt(self.brisel.pid)
@@ -48,7 +45,6 @@ class MountTool(Story):
         self.brisel.wait_for_log("something went wrong with mount command launch")
         self.assert_nothing_mounted(stick)
 
-    @on_real_disks_only(REASON)
     def test_closing_the_password_dialog_mounts_nothing(self):
         stick = self.start_with_stick()
         dialog = self.stage.silent_dialog(self.brisel.pid)
@@ -59,7 +55,6 @@ class MountTool(Story):
         self.tray.wait_for_entry("No NTFS Volumes to re-mount")
         self.assert_nothing_mounted(stick)
 
-    @on_real_disks_only(REASON)
     def test_without_an_authentication_agent_nothing_is_mounted(self):
         stick = self.start_with_stick()
         self.accept_prompt(stick)
@@ -67,23 +62,6 @@ class MountTool(Story):
         self.tray.wait_for_entry("No NTFS Volumes to re-mount")
         self.assert_nothing_mounted(stick)
 
-    @on_real_disks_only(REASON)
-    def test_a_hibernated_stick_is_reported_and_left_unmounted(self):
-        self.use_mount_tool()
-        self.start_brisel()
-        stick = self.stage.new_stick("StageData")
-        stick.hibernate()
-        stick.attach()
-        prompt = self.stage.password_prompt(self.brisel.pid)
-        self.accept_prompt(stick)
-        prompt.type(self.stage.account.password)
-        self.brisel.wait_for_log("mount will fail, there is a termination status report:")
-        alert = self.stage.alerts.wait_for('Volume "StageData" not re-mountable')
-        self.assertEqual(stick.mounts(), [])
-        self.stage.alerts.answer(alert, "Return")
-        self.tray.wait_for_entry("No NTFS Volumes to re-mount")
-
-    @on_real_disks_only(REASON)
     def test_a_stick_pulled_before_the_password_is_typed_mounts_nothing(self):
         stick = self.start_with_stick()
         prompt = self.stage.password_prompt(self.brisel.pid)

@@ -11,8 +11,6 @@ UNMOUNTED_MENU = [
 
 
 class Mounting(Story):
-    """Tests the main job and its variations."""
-
     def test_a_yes_to_the_prompt_makes_a_stick_writable(self):
         self.start_brisel()
         self.tray.wait_for_colour("grey")
@@ -22,6 +20,7 @@ class Mounting(Story):
         self.assertEqual(prompt.body, "Re-mount it read-write?")
         self.assertEqual(prompt.actions, {
             "default": "Brisel", "DO_MOUNT": "Yes, sure!", "NOTHING": "No, thanks."})
+        self.assertIn("sound-name", prompt.hints)
         self.tray.wait_for_colour("green")
         self.assertEqual(self.tray.labels()[0], "re-mount StageData")
         self.take_picture("prompt")
@@ -48,9 +47,7 @@ class Mounting(Story):
         return self.stage.session.folders_shown()
 
     def test_the_menu_shows_the_folder_again(self):
-        self.start_brisel()
-        stick = self.attach("StageData")
-        folder = self.make_writable(stick)
+        _stick, folder = self.start_with_writable_stick()
         self.wait_until_shown(folder)
         before = len(self.folders_shown())
         self.tray.choose("show the folder of StageData")
@@ -70,9 +67,7 @@ class Mounting(Story):
         self.assert_greeting_arrived(stick)
 
     def test_after_unmount_a_notification_lets_the_stick_be_unplugged(self):
-        self.start_brisel()
-        stick = self.attach("StageData")
-        self.make_writable(stick)
+        stick, _folder = self.start_with_writable_stick()
         self.unmount(stick)
         notice = self.notifications.wait_for("StageData unmounted")
         self.assertEqual(notice.body, "You may unplug the device now.")
@@ -80,17 +75,14 @@ class Mounting(Story):
         self.assertGreater(notice.timeout, 0)
 
     def test_a_no_to_the_prompt_leaves_the_stick_alone(self):
-        self.start_brisel()
-        stick = self.attach("StageData")
+        stick = self.start_with_stick()
         prompt = self.notifications.wait_for("StageData detected")
         self.notifications.press(prompt, "NOTHING")
         stays(lambda: self.tray.labels()[0] == "re-mount StageData", "the stick is read-only")
         self.assertEqual(stick.mounts(), [])
 
     def test_a_stick_on_the_automount_list_is_mounted_without_a_prompt(self):
-        self.start_brisel()
-        stick = self.attach("StageData")
-        self.make_writable(stick)
+        stick, _folder = self.start_with_writable_stick()
         self.tray.choose("mount automatically")
         self.tray.wait_for_entry("mount manually")
         self.unmount(stick)
@@ -105,9 +97,7 @@ class Mounting(Story):
         self.assertIn(self.stage.preferences.read("volumeList"), ("", None))
 
     def test_a_stick_in_use_stays_mounted_and_is_reported(self):
-        self.start_brisel()
-        stick = self.attach("StageData")
-        folder = self.make_writable(stick)
+        stick, folder = self.start_with_writable_stick()
         with self.in_use(stick, folder):
             self.tray.choose("unmount")
             self.brisel.wait_for_log(f"kDAReturnBusy for volume {stick.node}")
@@ -133,8 +123,7 @@ class Mounting(Story):
         self.assertEqual(self.tray.labels(), UNMOUNTED_MENU)
 
     def test_two_sticks_of_one_label_are_told_apart(self):
-        self.start_brisel()
-        first = self.attach("StageData")
+        first = self.start_with_stick()
         self.tray.wait_for_entry("re-mount StageData")
         second = self.attach("StageData")
         self.tray.wait_for_entry(f"re-mount StageData-{second.node}")
@@ -147,13 +136,13 @@ class Mounting(Story):
 
     @on_real_disks_only("alternate streams need a real volume")
     def test_extended_attributes_are_removed(self):
-        self.start_brisel()
-        stick = self.attach("StageData")
-        folder = self.make_writable(stick)
+        stick, folder = self.start_with_writable_stick()
         self.write_greeting(folder)
         file = f"{folder}/greeting.txt"
         self.stage.session.run("setfattr", "-n", "user.note", "-v", "noted", file)
         self.assertIn("user.note", self.stage.session.run("getfattr", file))
+        self.stage.session.run("mkdir", f"{folder}/deep")
+        self.stage.session.run("setfattr", "-n", "user.tag", "-v", "tagged", f"{folder}/deep")
         self.tray.choose("remove all extended attributes")
         self.tray.wait_for_colour("blue")
         self.assertFalse(self.brisel.has_logged("Error executing Apple Script"),
@@ -161,3 +150,4 @@ class Mounting(Story):
         self.unmount(stick)
         self.assert_greeting_arrived(stick)
         self.assertIsNone(stick.content("greeting.txt", stream="note"))
+        self.assertIsNone(stick.content("deep", stream="tag"))

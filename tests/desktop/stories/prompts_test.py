@@ -7,28 +7,27 @@ from .story import Story
 
 
 class Prompts(Story):
-    """Tests the prompt on screen."""
-
     def meet_prompt(self, label="StageData"):
         """Attaches a stick; returns it and its prompt."""
         stick = self.attach(label)
         return stick, self.notifications.wait_until_open(f"{label} detected")
 
-    def test_a_prompt_waits_for_its_answer(self):
+    def start_and_meet_prompt(self):
         self.start_brisel()
-        _stick, prompt = self.meet_prompt()
+        return self.meet_prompt()
+
+    def test_a_prompt_waits_for_its_answer(self):
+        _stick, prompt = self.start_and_meet_prompt()
         self.assertEqual(prompt.timeout, 0)
         stays(lambda: prompt.id in self.notifications.open, "the prompt is shown")
 
     def test_a_prompt_goes_with_its_stick(self):
-        self.start_brisel()
-        stick, prompt = self.meet_prompt()
+        stick, prompt = self.start_and_meet_prompt()
         stick.pull()
         self.notifications.wait_until_withdrawn(prompt)
 
     def test_a_prompt_goes_when_its_stick_is_remounted_from_the_menu(self):
-        self.start_brisel()
-        stick, prompt = self.meet_prompt()
+        stick, prompt = self.start_and_meet_prompt()
         self.tray.choose("re-mount StageData")
         self.wait_for_writable(stick)
         self.notifications.wait_until_withdrawn(prompt)
@@ -42,24 +41,16 @@ class Prompts(Story):
         stays(lambda: prompt.id in self.notifications.open, "the prompt is shown")
 
     def test_a_prompt_goes_with_the_program(self):
-        self.start_brisel()
-        _stick, prompt = self.meet_prompt()
+        _stick, prompt = self.start_and_meet_prompt()
         self.assertEqual(self.brisel.quit(), 0)
         self.notifications.wait_until_withdrawn(prompt)
 
-    def test_a_prompt_goes_with_its_answer(self):
+    def test_without_buttons_a_click_opens_the_menu_and_withdraws_the_prompt(self):
         self.stage.start_notification_mock(NotificationsWithoutButtons)
-        self.start_brisel()
-        _stick, prompt = self.meet_prompt()
-        self.notifications.click(prompt)
-        self.notifications.wait_until_withdrawn(prompt)
-
-    def test_without_buttons_a_click_opens_the_menu_and_mounts_nothing(self):
-        self.stage.start_notification_mock(NotificationsWithoutButtons)
-        self.start_brisel()
-        stick, prompt = self.meet_prompt()
+        stick, prompt = self.start_and_meet_prompt()
         self.notifications.click(prompt)
         wait_for(self.stage.alerts.windows, "the menu is shown in a window")
+        self.notifications.wait_until_withdrawn(prompt)
         self.take_picture("menu")
         self.assertEqual(stick.mounts(), [])
 

@@ -11,8 +11,6 @@ NOTICE = "A Warning Notice - Please Read Carefully"
 
 
 class Start(Story):
-    """Tests launch and exit."""
-
     def meet_notice(self):
         """Starts the program without preferences; waits for the notice."""
         self.stage.preferences.forget()

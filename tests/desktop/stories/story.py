@@ -21,8 +21,6 @@ def on_real_disks_only(reason):
 
 
 class Story(unittest.TestCase):
-    """What the stories share."""
-
     # Set by the runner of the stories.
     stage = None
     pictures = None
@@ -71,6 +69,16 @@ class Story(unittest.TestCase):
         stick.attach()
         return stick
 
+    def start_with_stick(self, label="StageData"):
+        """Starts the program, then attaches a new stick."""
+        self.start_brisel()
+        return self.attach(label)
+
+    def start_with_writable_stick(self):
+        """Starts the program and makes a new stick writable; returns the stick and its folder."""
+        stick = self.start_with_stick()
+        return stick, self.make_writable(stick)
+
     def accept_prompt(self, stick, posted_before=0):
         """Accepts the prompt for the stick."""
         prompt = self.notifications.wait_for(f"{stick.label} detected", posted_before)
@@ -110,9 +118,3 @@ class Story(unittest.TestCase):
         stick.pull()
         if not self.stage.mocked:
             self.assertEqual(stick.content(GREETING_FILE), GREETING)
-
-    def use_mount_tool(self):
-        """Installs the mount tool for this story, or skips it."""
-        obstacle = self.stage.install_mount_tool()
-        if obstacle:
-            self.skipTest(obstacle)

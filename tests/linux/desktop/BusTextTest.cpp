@@ -47,42 +47,15 @@ TEST(BusText, BreaksNoLine) {
 
 class NumberedItems : public testing::Test {
   protected:
-    static MenuItem item(const std::string& title, std::string_view action = "do:") {
-        MenuItem item;
-        item.title = title;
-        item.action = action;
-        return item;
-    }
+    static MenuItem item(const std::string& title) { return {.title = title, .action = "do:"}; }
 
     NumberedMenu menu_;
 };
-
-TEST_F(NumberedItems, HaveTheirKind) {
-    MenuItem separator;
-    separator.separator = true;
-    auto checked = item("Login");
-    checked.checked = true;
-    const auto entries = menu_.update({item("Status", ""), separator, checked});
-    EXPECT_EQ(entries.at(0).kind, MenuEntry::Kind::Text);
-    EXPECT_EQ(entries.at(1).kind, MenuEntry::Kind::Separator);
-    EXPECT_EQ(entries.at(2).kind, MenuEntry::Kind::Choosable);
-    EXPECT_TRUE(entries.at(2).checked);
-}
 
 TEST_F(NumberedItems, ThatAreEqualHaveDifferentNumbers) {
     const auto entries = menu_.update({item("Same"), item("Same"), item("Same")});
     EXPECT_NE(entries.at(0).number, entries.at(1).number);
     EXPECT_EQ(menu_.update({item("Same"), item("Same"), item("Same")}), entries);
-}
-
-TEST_F(NumberedItems, OfOtherObjectsHaveOtherNumbers) {
-    auto one = item("Data");
-    one.representedObject = std::make_shared<RepresentedObject>();
-    auto other = one;
-    other.representedObject = std::make_shared<RepresentedObject>();
-    const auto before = menu_.update({one}).front().number;
-    EXPECT_NE(menu_.update({other}).front().number, before);
-    EXPECT_NE(menu_.update({one}).front().number, before);
 }
 
 TEST_F(NumberedItems, KeepTheirNumberWhenTheirCheckMarkChanges) {
@@ -91,14 +64,6 @@ TEST_F(NumberedItems, KeepTheirNumberWhenTheirCheckMarkChanges) {
     login.checked = true;
     EXPECT_EQ(menu_.update({login}).front().number, before);
     EXPECT_TRUE(menu_.itemWithNumber(before)->checked);
-}
-
-TEST_F(NumberedItems, ThatWereRemovedAreNotFound) {
-    const auto number = menu_.update({item("Data")}).front().number;
-    menu_.update({});
-    EXPECT_EQ(menu_.itemWithNumber(number), nullptr);
-    EXPECT_EQ(menu_.itemWithNumber(0), nullptr);
-    EXPECT_EQ(menu_.itemWithNumber(-1), nullptr);
 }
 
 }  // namespace

@@ -31,7 +31,6 @@ class DialogScript {
     [[nodiscard]] std::string file(const std::string& name) const {
         return folder_.path() + "/" + name;
     }
-    /// Content of the file `name` written by the script.
     [[nodiscard]] std::string textIn(const std::string& name) const {
         std::ifstream stream(file(name));
         std::ostringstream text;
@@ -51,7 +50,6 @@ class DialogScript {
     TemporaryFolder folder_;
 };
 
-/// Number of open descriptors of this process.
 inline std::ptrdiff_t openDescriptors() {
     return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
                          std::filesystem::directory_iterator());

@@ -21,7 +21,6 @@ class FakeTray {
 
     explicit FakeTray(Host host);
 
-    /// Registers a host, as a starting panel does.
     void registerHost();
     /// The argument of each RegisterStatusNotifierItem call, in order.
     [[nodiscard]] const std::vector<std::string>& registered() const { return registered_; }
@@ -32,7 +31,6 @@ class FakeTray {
     std::vector<std::string> registered_;
 };
 
-/// The arguments of one Notify call.
 struct NotifyCall {
     std::string program;
     std::uint32_t replaces = 0;
@@ -69,7 +67,6 @@ class FakeNotifications {
     std::vector<std::uint32_t> withdrawn_;
 };
 
-/// FakeNotifications on its own thread.
 class BusyNotifications {
   public:
     explicit BusyNotifications(std::vector<std::string> capabilities);

@@ -44,10 +44,7 @@ FakeDisks::FakeDisks() {
     udisks_object_skeleton_set_block(otherObject_.get(), otherBlock_.get());
     g_dbus_object_manager_server_export(objects_.get(), G_DBUS_OBJECT_SKELETON(otherObject_.get()));
     g_dbus_object_manager_server_set_connection(objects_.get(), bus_.get());
-    const OwnedVariant answer(g_dbus_connection_call_sync(
-        bus_.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-        "RequestName", g_variant_new("(su)", "org.freedesktop.UDisks2", 0), nullptr,
-        G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr));
+    requestName(bus_.get(), "org.freedesktop.UDisks2");
 }
 
 FakeDisks::~FakeDisks() {

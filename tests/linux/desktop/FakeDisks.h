@@ -30,7 +30,6 @@ class FakeDisks {
     /// Results of the next mounts, regardless of release and drivers: a mount point, or the name of
     /// a D-Bus error. Forgets the calls.
     void script(const std::vector<std::string>& results);
-    /// Sets the mount point of unscripted mounts.
     void mountAt(const std::string& mountPoint) { mountPoint_ = mountPoint; }
 
     /// `mount OPTIONS DRIVER` or `unmount`, in call order.

@@ -57,19 +57,12 @@ FakeService::~FakeService() {
     g_dbus_connection_close_sync(bus_.get(), nullptr, nullptr);
 }
 
-bool FakeService::askBus(const char* method, GVariant* arguments) const {
-    const OwnedVariant answer(g_dbus_connection_call_sync(
-        bus_.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", method,
-        arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr));
-    return answer != nullptr;
-}
-
-void FakeService::appear() {
-    EXPECT_TRUE(askBus("RequestName", g_variant_new("(su)", interface_.busName.c_str(), 0)));
-}
-
 void FakeService::vanish() {
-    EXPECT_TRUE(askBus("ReleaseName", g_variant_new("(s)", interface_.busName.c_str())));
+    const OwnedVariant answer(g_dbus_connection_call_sync(
+        bus_.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+        "ReleaseName", g_variant_new("(s)", interface_.busName.c_str()), nullptr,
+        G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr));
+    EXPECT_TRUE(answer);
 }
 
 void FakeService::setProperty(const std::string& name, GVariant* value) {

@@ -28,7 +28,6 @@ class BusCall {
     /// introspection.
     void answer(GVariant* tuple) const;
     void refuse(const std::string& errorName) const;
-    /// Releases the call without an answer.
     void drop() const { g_object_unref(invocation_); }
 
   private:
@@ -53,7 +52,7 @@ class FakeService {
     FakeService& operator=(const FakeService&) = delete;
     ~FakeService();
 
-    void appear();
+    void appear() { requestName(bus_.get(), interface_.busName); }
     void vanish();
     [[nodiscard]] GDBusConnection* bus() const { return bus_.get(); }
 
@@ -69,7 +68,6 @@ class FakeService {
     static GVariant* answerProperty(GDBusConnection* bus, const gchar* sender, const gchar* path,
                                     const gchar* interface, const gchar* name, GError** error,
                                     gpointer service);
-    [[nodiscard]] bool askBus(const char* method, GVariant* arguments) const;
 
     Interface interface_;
     OwnedObject<GDBusConnection> bus_ = SessionBus::shared().connect();

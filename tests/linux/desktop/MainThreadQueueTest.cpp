@@ -43,13 +43,6 @@ TEST_F(TheQueue, IsReadableWhileThereIsWork) {
     EXPECT_THAT(events_, ElementsAre("one", "two"));
 }
 
-TEST_F(TheQueue, IsProcessedByTheMainLoop) {
-    post("one");
-    turnUntil([this] { return !events_.empty(); });
-    queue_->work();
-    EXPECT_THAT(events_, ElementsAre("one"));
-}
-
 TEST_F(TheQueue, DefersWorkPostedByWork) {
     queue_->post([this] {
         events_.emplace_back("first");

@@ -32,7 +32,6 @@ struct ShownMenu {
 
 class MenuHost {
   public:
-    /// Waits until the menu is exported.
     void waitUntilThere();
     /// Reads the current menu; blocks the calling thread.
     [[nodiscard]] ShownMenu read();

@@ -13,13 +13,6 @@ using testing::IsEmpty;
 using tests::FakeNotifications;
 using tests::turnUntil;
 
-TEST_F(ShownPrompts, GiveTheChosenActionToTheDelegate) {
-    prompt("mount", "Data");
-    desktop_.invoke(1, "NOT");
-    turnUntil([this] { return !responses_.empty(); });
-    EXPECT_THAT(responses_, ElementsAre("mount NOT Data"));
-}
-
 TEST_F(ShownPrompts, GiveOneResponseEvenIfTheServerAlsoClosesThem) {
     prompt("mount", "Data");
     desktop_.invoke(1, "DO");
@@ -38,12 +31,14 @@ TEST_F(ShownPrompts, IgnoreTheNumbersOfOthers) {
     EXPECT_THAT(responses_, IsEmpty());
 }
 
-TEST_F(ShownPrompts, ReportADismissal) {
+TEST_F(ShownPrompts, ReportADismissalAndAreNotReplacedAfterIt) {
     prompt("mount", "Data");
     desktop_.close(1, Dismissed);
     turnUntil([this] { return !responses_.empty(); });
     EXPECT_THAT(responses_,
                 ElementsAre(std::string("mount ") + NotificationDismissActionIdentifier + " Data"));
+    prompt("mount", "More");
+    EXPECT_THAT(replaced(), ElementsAre(0, 0));
 }
 
 // A closed notification's number is invalid: Plasma would change its history without a pop-up.
@@ -60,19 +55,16 @@ TEST_F(ShownPrompts, AreForgottenOnceClosedForAnyReason) {
 }
 
 // mako leaves a notification on screen after its action.
-TEST_F(ShownPrompts, AreWithdrawnAfterTheAnswer) {
+TEST_F(ShownPrompts, GiveTheChosenActionToTheDelegateAndAreWithdrawn) {
     prompt("mount", "Data");
     desktop_.invoke(1, "NOT");
-    turnUntil([this] { return !desktop_.withdrawn().empty(); });
-    EXPECT_THAT(desktop_.withdrawn(), ElementsAre(1));
-}
-
-TEST_F(ShownPrompts, TakeAClickForTheDefaultAction) {
-    prompt("mount", "Data");
-    desktop_.invoke(1, "default");
-    turnUntil([this] { return !responses_.empty(); });
+    prompt("other", "More");
+    desktop_.invoke(2, "default");
+    turnUntil([this] { return desktop_.withdrawn().size() == 2; });
+    EXPECT_THAT(desktop_.withdrawn(), ElementsAre(1, 2));
     EXPECT_THAT(responses_,
-                ElementsAre(std::string("mount ") + NotificationDefaultActionIdentifier + " Data"));
+                ElementsAre("mount NOT Data",
+                            std::string("other ") + NotificationDefaultActionIdentifier + " More"));
 }
 
 // Plasma sends every program the tokens of all.
@@ -87,7 +79,11 @@ TEST_F(ShownPrompts, BringTheTokenOfTheirOwnClick) {
 TEST_F(ShownPrompts, AreForgottenWithTheirServer) {
     prompt("mount", "Data");
     FakeNotifications other({});
-    restartServer(other);
+    bool gone = false;
+    const auto leaving = server_.onVanished([&gone] { gone = true; });
+    desktop_.service.vanish();
+    turnUntil([&gone] { return gone; });
+    other.service.appear();
     // The new server's first notification belongs to another program.
     other.invoke(1, "DO");
     catchUp();

@@ -67,13 +67,12 @@ class ShownPrompts : public Prompts {
   protected:
     ShownPrompts() { desktop_.service.appear(); }
 
-    /// Replaces the server; the new one numbers notifications from 1 again.
-    void restartServer(tests::FakeNotifications& other) {
-        bool gone = false;
-        const auto leaving = server_.onVanished([&gone] { gone = true; });
-        desktop_.service.vanish();
-        tests::turnUntil([&gone] { return gone; });
-        other.service.appear();
+    /// The number that each notification replaces; 0 for none.
+    [[nodiscard]] std::vector<std::uint32_t> replaced() const {
+        std::vector<std::uint32_t> numbers;
+        for (const auto& call : desktop_.calls())
+            numbers.push_back(call.replaces);
+        return numbers;
     }
 
     tests::FakeNotifications desktop_{{"sound"}};

@@ -99,6 +99,14 @@ OwnedObject<GDBusConnection> SessionBus::connect() const {
         g_dbus_connection_new_for_address_sync(address_.c_str(), flags, nullptr, nullptr, nullptr));
 }
 
+void requestName(GDBusConnection* bus, const std::string& name) {
+    const OwnedVariant answer(g_dbus_connection_call_sync(
+        bus, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
+        g_variant_new("(su)", name.c_str(), 0), nullptr, G_DBUS_CALL_FLAGS_NONE, -1, nullptr,
+        nullptr));
+    EXPECT_TRUE(answer) << name;
+}
+
 bool turnUntil(const std::function<bool()>& reached) {
     // Wakes the loop to check `reached`, which another thread may change.
     const auto tick = platform::headless::RunLoop().scheduledTimer(milliseconds(2), [] {});
@@ -180,7 +188,7 @@ BusCaller::~BusCaller() {
     g_dbus_connection_close_sync(bus_.get(), nullptr, nullptr);
 }
 
-BusCaller::Answer BusCaller::ask(const Question& question) {
+BusCaller::Answer BusCaller::ask(const Callee& callee, const char* method, GVariant* arguments) {
     std::optional<Answer> answer;
     const auto finish = [](GObject* bus, GAsyncResult* result, gpointer data) {
         CallError error;
@@ -191,27 +199,11 @@ BusCaller::Answer BusCaller::ask(const Question& question) {
         static_cast<std::optional<Answer>*>(data)->emplace(
             Answer{.value = std::move(value), .errorName = name ? name.get() : ""});
     };
-    g_dbus_connection_call(bus_.get(), question.name, path_.c_str(), question.interface,
-                           question.method, question.arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
-                           nullptr, finish, &answer);
+    g_dbus_connection_call(bus_.get(), callee.name.c_str(), path_.c_str(), callee.interface.c_str(),
+                           method, arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, nullptr, finish,
+                           &answer);
     if (!turnUntil([&answer] { return answer.has_value(); })) std::abort();
     return std::move(*answer);
-}
-
-OwnedVariant BusCaller::call(const char* method, GVariant* arguments) {
-    return ask({.name = name_.c_str(),
-                .interface = interface_.c_str(),
-                .method = method,
-                .arguments = arguments})
-        .value;
-}
-
-std::string BusCaller::errorOf(const char* method, GVariant* arguments) {
-    return ask({.name = name_.c_str(),
-                .interface = interface_.c_str(),
-                .method = method,
-                .arguments = arguments})
-        .errorName;
 }
 
 OwnedVariant BusCaller::callBlocking(const char* method, GVariant* arguments) {
@@ -224,10 +216,8 @@ OwnedVariant BusCaller::callBlocking(const char* method, GVariant* arguments) {
 }
 
 OwnedVariant BusCaller::property(const char* name) {
-    const auto answer = ask({.name = name_.c_str(),
-                             .interface = "org.freedesktop.DBus.Properties",
-                             .method = "Get",
-                             .arguments = g_variant_new("(ss)", interface_.c_str(), name)})
+    const auto answer = ask({name_, "org.freedesktop.DBus.Properties"}, "Get",
+                            g_variant_new("(ss)", interface_.c_str(), name))
                             .value;
     GVariant* value = nullptr;
     if (answer) g_variant_get(answer.get(), "(v)", &value);
@@ -243,11 +233,7 @@ std::string BusCaller::text(const char* property) {
 std::vector<std::string> BusCaller::newSignals() {
     // The reply to a ping arrives after all earlier signals.
     const auto* const program = g_dbus_connection_get_unique_name(SessionBus::shared().program());
-    EXPECT_TRUE(ask({.name = program,
-                     .interface = "org.freedesktop.DBus.Peer",
-                     .method = "Ping",
-                     .arguments = nullptr})
-                    .value);
+    EXPECT_TRUE(ask({program, "org.freedesktop.DBus.Peer"}, "Ping", nullptr).value);
     return std::exchange(signals_, {});
 }
 

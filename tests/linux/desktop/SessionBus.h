@@ -30,7 +30,6 @@ class SessionBus {
 
     /// The connection of the program under test and its libraries.
     [[nodiscard]] GDBusConnection* program() const { return program_.get(); }
-    /// A new connection, as of another program.
     [[nodiscard]] OwnedObject<GDBusConnection> connect() const;
 
   private:
@@ -45,6 +44,9 @@ class SessionBus {
     OwnedObject<GDBusConnection> system_;
 };
 
+/// Requests a well-known name for the connection; fails the test on error.
+void requestName(GDBusConnection* bus, const std::string& name);
+
 /// Turns the calling thread's main loop until `reached`; on timeout, fails the test and returns
 /// false.
 bool turnUntil(const std::function<bool()>& reached);
@@ -58,7 +60,6 @@ class TestLoop {
     TestLoop& operator=(const TestLoop&) = delete;
     ~TestLoop();
 
-    /// Dispatches all ready sources.
     void turn() const;
     [[nodiscard]] GMainContext* context() const { return loop_.context(); }
 
@@ -77,7 +78,6 @@ class OtherProgram {
     OtherProgram& operator=(const OtherProgram&) = delete;
     ~OtherProgram();
 
-    /// Runs `work` on the thread and waits for it.
     void run(const std::function<void()>& work) const;
 
   private:
@@ -86,7 +86,6 @@ class OtherProgram {
     std::thread thread_;
 };
 
-/// A D-Bus client with its own connection.
 class BusCaller {
   public:
     BusCaller(std::string name, std::string path, std::string interface);
@@ -95,12 +94,15 @@ class BusCaller {
     ~BusCaller();
 
     /// Calls a method and returns its answer; null on error. Turns the calling thread's loop.
-    [[nodiscard]] OwnedVariant call(const char* method, GVariant* arguments);
+    [[nodiscard]] OwnedVariant call(const char* method, GVariant* arguments) {
+        return ask({name_, interface_}, method, arguments).value;
+    }
     /// Calls a method and returns the name of its D-Bus error; empty on success.
-    [[nodiscard]] std::string errorOf(const char* method, GVariant* arguments);
+    [[nodiscard]] std::string errorOf(const char* method, GVariant* arguments) {
+        return ask({name_, interface_}, method, arguments).errorName;
+    }
     /// Calls a method and blocks the calling thread; fails the test on error.
     [[nodiscard]] OwnedVariant callBlocking(const char* method, GVariant* arguments);
-    /// Value of a property; null if it is absent.
     [[nodiscard]] OwnedVariant property(const char* name);
     [[nodiscard]] std::string text(const char* property);
 
@@ -108,11 +110,9 @@ class BusCaller {
     [[nodiscard]] std::vector<std::string> newSignals();
 
   private:
-    struct Question {
-        const char* name;
-        const char* interface;
-        const char* method;
-        GVariant* arguments;
+    struct Callee {
+        std::string name;
+        std::string interface;
     };
 
     struct Answer {
@@ -120,7 +120,7 @@ class BusCaller {
         std::string errorName;
     };
 
-    [[nodiscard]] Answer ask(const Question& question);
+    [[nodiscard]] Answer ask(const Callee& callee, const char* method, GVariant* arguments);
 
     OwnedObject<GDBusConnection> bus_ = SessionBus::shared().connect();
     std::string name_;

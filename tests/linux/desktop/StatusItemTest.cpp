@@ -10,7 +10,6 @@ namespace brisel::platform::desktop {
 
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 using tests::FakePortal;
 using tests::turnUntil;
@@ -24,11 +23,15 @@ class TheStatusItem : public tests::StatusItemOnBus {
                            "org.kde.StatusNotifierItem"};
 };
 
-TEST_F(TheStatusItem, ShowsTheImageAndWhatItMeans) {
+TEST_F(TheStatusItem, ShowsTheImageIfThereIsOneAndWhatItMeans) {
     item_->setImage("brisel-status-blue-light");
     tests::waitForDesk();
     EXPECT_EQ(icon_.text("IconName"), "brisel-status-blue-light");
     EXPECT_EQ(icon_.text("Title"), "Brisel: a volume is writable");
+    item_->setImage(std::nullopt);
+    tests::waitForDesk();
+    EXPECT_EQ(icon_.text("IconName"), "");
+    EXPECT_EQ(icon_.text("Title"), "Brisel");
 }
 
 TEST_F(TheStatusItem, IsDescribedInTheUsersLanguage) {
@@ -38,14 +41,6 @@ TEST_F(TheStatusItem, IsDescribedInTheUsersLanguage) {
     const auto words = icon_.text("IconAccessibleDesc");
     EXPECT_EQ(words, bundle_.localizedString("no NTFS volume"));
     EXPECT_NE(words, "no NTFS volume");
-}
-
-TEST_F(TheStatusItem, ShowsNoImageWhenThereIsNone) {
-    item_->setImage("brisel-status-blue-light");
-    item_->setImage(std::nullopt);
-    tests::waitForDesk();
-    EXPECT_EQ(icon_.text("IconName"), "");
-    EXPECT_EQ(icon_.text("Title"), "Brisel");
 }
 
 TEST_F(TheStatusItem, ShowsAnImageWhileTheMainThreadIsBusy) {
@@ -60,64 +55,15 @@ TEST_F(TheStatusItem, ShowsAnImageWhileTheMainThreadIsBusy) {
     EXPECT_STREQ(text.get(), "(<'brisel-status-orange-dark'>,)");
 }
 
-TEST_F(TheStatusItem, RegistersWithTheTray) {
-    tests::FakeTray tray(tests::FakeTray::Host::There);
-    tray.service.appear();
+TEST_F(TheStatusItem, TakesTheActivationTokenOfAClick) {
     item_->setImage("brisel-status-blue-light");
-    turnUntil([&tray] { return !tray.registered().empty(); });
-    // The bus name belongs to the program's connection, which also exports the menu.
-    tests::BusCaller named(tray.registered().front(), "/StatusNotifierItem",
-                           "org.kde.StatusNotifierItem");
-    EXPECT_EQ(named.text("Id"), "brisel");
-}
-
-class AClickOnTheIcon : public TheStatusItem {
-  protected:
-    AClickOnTheIcon() {
-        MenuItem quit;
-        quit.title = "Quit";
-        menu_.load({quit});
-        item_->setMenuWindow([this] { ++windows_; });
-        item_->setImage("brisel-status-blue-light");
-        tests::waitForDesk();
-    }
-    void click() {
-        EXPECT_EQ(icon_.errorOf("Activate", g_variant_new("(ii)", 0, 0)),
-                  "org.freedesktop.DBus.Error.UnknownMethod");
-    }
-
-    int windows_ = 0;
-};
-
-TEST_F(AClickOnTheIcon, OpensTheMenuInAWindowIfTheHostOpensNone) {
-    click();
-    EXPECT_EQ(windows_, 0);
-    turnUntil([this] { return windows_ == 1; });
-}
-
-TEST_F(AClickOnTheIcon, OpensNoWindowIfTheHostOpensTheMenu) {
-    click();
-    tests::BusCaller menu(g_dbus_connection_get_unique_name(bus_), "/MenuBar",
-                          "com.canonical.dbusmenu");
-    EXPECT_TRUE(menu.call("AboutToShow", g_variant_new("(i)", 0)));
-    bool later = false;
-    const auto waiting =
-        headless::RunLoop().scheduledTimer(std::chrono::seconds(1), [&later] { later = true; });
-    turnUntil([&later] { return later; });
-    EXPECT_EQ(windows_, 0);
-}
-
-TEST_F(AClickOnTheIcon, BringsAnActivationToken) {
+    tests::waitForDesk();
     EXPECT_TRUE(icon_.call("ProvideXdgActivationToken", g_variant_new("(s)", "of-the-click")));
     EXPECT_EQ(activationToken_.take(), "of-the-click");
 }
 
 class TheAppearance : public tests::StatusItemOnBus {
   protected:
-    void waitForChanges(std::size_t count) {
-        turnUntil([&] { return seen_.size() >= count; });
-    }
-
     FakePortal portal_{NoPreference};
     std::vector<std::string> seen_;
     Subscription observation_ = item_->observeEffectiveAppearance(
@@ -126,16 +72,6 @@ class TheAppearance : public tests::StatusItemOnBus {
 
 TEST_F(TheAppearance, IsLightUntilTheDesktopSaysOtherwise) {
     EXPECT_EQ(item_->effectiveAppearanceName(), "NSAppearanceNameAqua");
-}
-
-TEST_F(TheAppearance, FollowsTheDesktopFromTheStart) {
-    portal_.change(PreferDark);
-    portal_.service.appear();
-    item_->setImage("brisel-status-blue-light");
-    waitForChanges(1);
-    portal_.change(NoPreference);
-    waitForChanges(2);
-    EXPECT_THAT(seen_, ElementsAre("NSAppearanceNameDarkAqua", "NSAppearanceNameAqua"));
 }
 
 TEST_F(TheAppearance, IsNotReportedAfterTheSubscription) {

@@ -47,15 +47,6 @@ TEST_F(AWindow, ReportsThePressedItem) {
     waitForEnd(dialog);
 }
 
-TEST_F(AWindow, ReportsNothingWhenItIsClosed) {
-    const DialogScript dialog("echo shown");
-    ModelessWindow window(log_, dialog.program());
-    window.show({"menu"}, {}, note());
-    waitForEnd(dialog);
-    EXPECT_THAT(pressed_, IsEmpty());
-    EXPECT_THAT(log_.entries(), IsEmpty());
-}
-
 TEST_F(AWindow, IsReplacedByANewerOne) {
     const DialogScript dialog(
         "echo shown; echo $$ >>pids; [ -e second ] && echo pressed 2; exec sleep 100");
@@ -114,33 +105,33 @@ TEST_F(AWindow, MayBeShownAgainByWhatIsPressedInIt) {
     waitForEnd(dialog);
 }
 
-TEST_F(AWindow, ShowsTheAboutPanel) {
+TEST_F(AWindow, ShowsTheAboutPanelAndReportsNothingWhenItIsClosed) {
     const DialogScript dialog("echo \"$@\" >given; echo shown");
     Application application(log_, dialog.program());
     application.orderFrontStandardAboutPanel();
-    turnUntil([&] { return dialog.textIn("given") == "about\n"; });
     waitForEnd(dialog);
+    EXPECT_EQ(dialog.textIn("given"), "about\n");
+    ModelessWindow window(log_, dialog.program());
+    window.show({"menu"}, {}, note());
+    turnUntil([&] { return dialog.textIn("given") == "menu\n"; });
+    waitForEnd(dialog);
+    EXPECT_THAT(pressed_, IsEmpty());
     EXPECT_THAT(log_.entries(), IsEmpty());
 }
 
 class TheMenuWindow : public tests::StatusItemOnBus {
   protected:
     MenuItem item(const std::string& title, std::string_view action) {
-        MenuItem item;
-        item.title = title;
-        item.action = action;
-        item.target = [this](const MenuItem& sender) { chosen_.push_back(sender.title); };
-        return item;
+        const auto target = [this](const MenuItem& sender) { chosen_.push_back(sender.title); };
+        return {.title = title, .action = action, .target = target};
     }
 
     std::vector<std::string> chosen_;
 };
 
 TEST_F(TheMenuWindow, ShowsTheMenuAndChoosesInIt) {
-    MenuItem separator;
-    separator.separator = true;
-    MenuItem title;
-    title.title = "Status\tand\nmore";
+    const MenuItem separator{.separator = true};
+    const MenuItem title{.title = "Status\tand\nmore"};
     auto login = item("Start at Login", "toggle:");
     login.checked = true;
     menu_.load({title, separator, login, item("My_Data", "mount:")});

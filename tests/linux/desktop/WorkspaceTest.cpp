@@ -172,13 +172,6 @@ TEST_F(TheWorkspace, AsksThePortalIfThereIsNoFileManager) {
     EXPECT_EQ(application_.given(), "");
 }
 
-TEST_F(TheWorkspace, StartsTheDefaultApplicationIfThereIsNoPortal) {
-    open();
-    turnUntil([this] { return !application_.given().empty(); });
-    EXPECT_EQ(application_.given(), folder_.path() + " token\n");
-    EXPECT_THAT(log_.entries(), IsEmpty());
-}
-
 TEST_F(TheWorkspace, StartsTheDefaultApplicationIfThePortalFails) {
     portal_.appear();
     open();

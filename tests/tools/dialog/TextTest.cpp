@@ -38,11 +38,8 @@ TEST(AText, HasNoBidirectionalControls) {
               "\xe2\x80\xa7\xe2\x80\xaf\xe2\x81\xa5\xe2\x81\xaa");
 }
 
-TEST(ALine, HasNoLineEnds) {
+TEST(ALine, HasNoLineEndsAndEndsWithAnEllipsisIfSomethingIsMissing) {
     EXPECT_EQ(sanitizedLine("one\ntwo\n"), "one two ");
-}
-
-TEST(AShortenedText, EndsWithAnEllipsisIfSomethingIsMissing) {
     EXPECT_EQ(shortened("\xc3\xa4\xc3\xb6\xc3\xbc", 3), "\xc3\xa4\xc3\xb6\xc3\xbc");
     EXPECT_EQ(shortened("\xc3\xa4\xc3\xb6\xc3\xbc.", 3), "\xc3\xa4\xc3\xb6\xe2\x80\xa6");
     EXPECT_EQ(shortened("", 3), "");

@@ -34,37 +34,27 @@ class Windows(unittest.TestCase):
 
 
 class Alert(Windows):
-    def test_first_button_is_pressed_by_enter(self):
-        dialog = self.shown("alert", "Message", "More\n\nabout it", "Yes", "No", "Perhaps")
-        dialog.press("Return")
-        self.assert_answers(dialog, "pressed 0")
+    def test_buttons_are_reached_by_keyboard(self):
+        for keys, answer in ((["Return"], "pressed 0"), (["Tab", "Return"], "pressed 1"),
+                             (["Escape"], "closed")):
+            with self.subTest(keys=keys):
+                dialog = self.shown("alert", "Message", "More\n\nabout it", "Yes", "No")
+                dialog.press(*keys)
+                self.assert_answers(dialog, answer)
 
-    def test_other_buttons_are_reached_by_keyboard(self):
-        dialog = self.shown("alert", "Message", "", "Yes", "No")
-        dialog.press("Tab", "Return")
-        self.assert_answers(dialog, "pressed 1")
-
-    def test_first_button_is_rightmost(self):
-        dialog = self.shown("alert", "Message", "", "Yes", "No")
-        dialog.click(from_right=40, from_bottom=40)
-        self.assert_answers(dialog, "pressed 0")
-
-    def test_second_button_is_left_of_the_first(self):
+    def test_first_button_is_right_of_the_second(self):
         # Within the wide button, in every font.
-        dialog = self.shown("alert", "Message", "", "A", "B" * 40)
-        dialog.click(from_right=180, from_bottom=40)
-        self.assert_answers(dialog, "pressed 1")
+        for from_right, answer in ((40, "pressed 0"), (180, "pressed 1")):
+            with self.subTest(from_right=from_right):
+                dialog = self.shown("alert", "Message", "", "A", "B" * 40)
+                dialog.click(from_right, from_bottom=40)
+                self.assert_answers(dialog, answer)
 
     def test_buttons_too_wide_for_the_screen_stand_below_one_another(self):
         dialog = self.shown("alert", "Message", "", *("W" * 45 + str(n) for n in range(3)))
         self.assert_fits(dialog)
         dialog.click(from_right=200, from_bottom=40)
         self.assert_answers(dialog, "pressed 2")
-
-    def test_escape_closes(self):
-        dialog = self.shown("alert", "Message", "", "Yes")
-        dialog.press("Escape")
-        self.assert_answers(dialog, "closed")
 
     def test_asks_for_attention(self):
         dialog = self.shown("alert", "Message", "", "Yes")
@@ -100,26 +90,19 @@ class Alert(Windows):
 
 
 class Menu(Windows):
-    def test_first_item_has_the_keyboard(self):
-        dialog = self.shown("menu", "Title", entries=MENU)
-        self.assertIn('_NET_WM_NAME(UTF8_STRING) = "Title"', dialog.xprop())
-        dialog.press("Return")
-        self.assert_answers(dialog, "pressed 1")
-
     def test_items_are_reached_by_keyboard_and_texts_passed_over(self):
-        dialog = self.shown("menu", "Title", entries=MENU)
-        dialog.press("Down", "Return")
-        self.assert_answers(dialog, "pressed 2")
+        for keys, answer in ((["Return"], "pressed 1"), (["Down", "Return"], "pressed 2"),
+                             (["Escape"], "closed")):
+            with self.subTest(keys=keys):
+                dialog = self.shown("menu", "Title", entries=MENU)
+                self.assertIn('_NET_WM_NAME(UTF8_STRING) = "Title"', dialog.xprop())
+                dialog.press(*keys)
+                self.assert_answers(dialog, answer)
 
     def test_item_is_clicked(self):
         dialog = self.shown("menu", "Title", entries=MENU)
         dialog.click(from_right=60, from_bottom=25)
         self.assert_answers(dialog, "pressed last")
-
-    def test_escape_closes(self):
-        dialog = self.shown("menu", "Title", entries=MENU)
-        dialog.press("Escape")
-        self.assert_answers(dialog, "closed")
 
     def test_long_menu_scrolls_to_what_is_reached(self):
         entries = b"".join(b"%d\titem\tEntry %d\n" % (n, n) for n in range(100))
@@ -173,15 +156,11 @@ class AssistiveTechnology(unittest.TestCase):
 
 
 class About(Windows):
-    def test_is_closed_by_its_button(self):
-        dialog = self.shown("about")
-        dialog.press("Return")
-        self.assert_answers(dialog, "closed")
-
-    def test_escape_closes(self):
-        dialog = self.shown("about")
-        dialog.press("Escape")
-        self.assert_answers(dialog, "closed")
+    def test_is_closed_by_its_button_or_escape(self):
+        for key in ("Return", "Escape"):
+            dialog = self.shown("about")
+            dialog.press(key)
+            self.assert_answers(dialog, "closed")
 
 
 class Process(Windows):

@@ -25,53 +25,44 @@ class UntrustedDriver : public MountToolStage {
 
     [[nodiscard]] std::string realDriver() const { return folder() + "/real-driver"; }
 
+    void expectMounted(const Outcome& run) const {
+        EXPECT_EQ(run.status, 0) << run.output;
+        EXPECT_NE(run.output.find(mountPoint()), std::string::npos) << run.output;
+    }
     /// Runs the tool with `script` as driver; $3 is the device, $4 the folder.
     [[nodiscard]] Outcome runWithDriver(const std::string& script) const {
         return runToolAfter(replace("/usr/bin/ntfs-3g", script));
     }
 };
 
-TEST_F(UntrustedDriver, StartsInTheRootWithFilesOfItsOwn) {
-    expectNothingMounted(runWithDriver("pwd; umask; exit 21"), 21, "/\n0077\nFUSE");
-}
-
-TEST_F(UntrustedDriver, ThatMountsNothingIsNotBelieved) {
-    expectNothingMounted(runWithDriver("exit 0"), 18, "has not mounted the volume");
-}
-
-TEST_F(UntrustedDriver, ThatMountsReadOnlyIsNotBelieved) {
-    expectNothingMounted(runWithDriver("exec " + realDriver() + " -o ro,nosuid,nodev $3 $4"), 18,
-                         "mounted the volume read-only");
-}
-
-TEST_F(UntrustedDriver, ThatMountsSomethingElseIsNotBelieved) {
-    expectNothingMounted(runWithDriver("exec mount -t tmpfs none $4"), 18, "has not mounted");
+TEST_F(UntrustedDriver, IsNotBelievedAndPassesOnItsStatusOrUnknown) {
+    expectNothingMounted(runToolAfter("mount --bind /etc/passwd /usr/bin/ntfs-3g"), 1,
+                         "cannot be started");
     const TemporaryFolder otherFolder;
     NTFSImage other(otherFolder.path(), "Other");
     other.attach();
-    expectNothingMounted(runWithDriver("exec " + realDriver() + " " + other.device() + " $4"), 18,
-                         "has not mounted");
-}
-
-TEST_F(UntrustedDriver, ThatMountsAnotherFileSystemIsNotBelieved) {
-    expectNothingMounted(runWithDriver("mke2fs -q $3 && exec mount -t ext4 -o nosuid,nodev $3 $4"),
-                         18, "has not mounted");
-}
-
-TEST_F(UntrustedDriver, ThatLeavesOutTheProtectionIsNotBelieved) {
-    expectNothingMounted(runWithDriver("exec " + realDriver() + " -o rw,nodev $3 $4"), 18,
-                         "without nosuid or nodev");
-    expectNothingMounted(runWithDriver("exec " + realDriver() + " -o rw,nosuid $3 $4"), 18,
-                         "without nosuid or nodev");
-}
-
-TEST_F(UntrustedDriver, ThatFailsPassesOnItsStatusOrUnknown) {
-    expectNothingMounted(runWithDriver("exit 16"), 16, "in use");
-    expectNothingMounted(runWithDriver("exit 21"), 21, "FUSE");
-    expectNothingMounted(runWithDriver("exit 99"), 18, "for an unknown reason");
-    expectNothingMounted(runWithDriver("kill -9 $$"), 18, "for an unknown reason");
-    expectNothingMounted(runToolAfter("mount --bind /etc/passwd /usr/bin/ntfs-3g"), 1,
-                         "cannot be started");
+    struct Row {
+        std::string script;
+        int status;
+        std::string sentence;
+    };
+    const std::vector<Row> rows{
+        {"exit 0", 18, "has not mounted the volume"},
+        {"exec mount -t tmpfs none $4", 18, "has not mounted"},
+        {"exec " + realDriver() + " " + other.device() + " $4", 18, "has not mounted"},
+        {"exec " + realDriver() + " -o ro,nosuid,nodev $3 $4", 18, "mounted the volume read-only"},
+        {"exec " + realDriver() + " -o rw,nodev $3 $4", 18, "without nosuid or nodev"},
+        {"exec " + realDriver() + " -o rw,nosuid $3 $4", 18, "without nosuid or nodev"},
+        {"exit 16", 16, "in use"},
+        {"exit 21", 21, "FUSE"},
+        {"exit 99", 18, "for an unknown reason"},
+        {"kill -9 $$", 18, "for an unknown reason"},
+        {"pwd; umask; exit 21", 21, "/\n0077\nFUSE"},
+        {"mke2fs -q $3 && exec mount -t ext4 -o nosuid,nodev $3 $4", 18, "has not mounted"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.script);
+        expectNothingMounted(runWithDriver(row.script), row.status, row.sentence);
+    }
 }
 
 TEST_F(UntrustedDriver, ThatTalksTooMuchIsCutOffAndCleaned) {
@@ -98,9 +89,7 @@ TEST_F(UntrustedDriver, IsUnmountedAgainWhereTheKernelCannotMoveMounts) {
 }
 
 TEST_F(UntrustedDriver, WorksWithoutItsProbe) {
-    const auto run = runToolAfter("mount --bind /etc/passwd /usr/bin/ntfs-3g.probe");
-    EXPECT_EQ(run.status, 0) << run.output;
-    EXPECT_NE(run.output.find(mountPoint()), std::string::npos) << run.output;
+    expectMounted(runToolAfter("mount --bind /etc/passwd /usr/bin/ntfs-3g.probe"));
 }
 
 TEST_F(UntrustedDriver, IsUnmountedAgainWhereTheFolderWasMovedMeanwhile) {
@@ -115,8 +104,7 @@ TEST_F(UntrustedDriver, IsWaitedForDespiteSignals) {
     const auto run =
         runWithDriver("for s in INT TERM HUP QUIT ALRM PIPE XCPU; do kill -$s $PPID; done; exec " +
                       realDriver() + " \"$@\"");
-    EXPECT_EQ(run.status, 0) << run.output;
-    EXPECT_NE(run.output.find(mountPoint()), std::string::npos) << run.output;
+    expectMounted(run);
 }
 
 TEST_F(UntrustedDriver, IsOutOfTheUsersReachUntilItsMountIsVerified) {
@@ -131,8 +119,7 @@ TEST_F(UntrustedDriver, OfAKilledToolIsUnmountedByTheNextRun) {
     for (const auto& mount : {std::string("true"), realDriver() + " \"$@\""}) {
         const auto run = runToolAfter(replace("/usr/bin/ntfs-3g", mount + "; kill -9 $PPID") +
                                       "; \"$@\"; umount --lazy /usr/bin/ntfs-3g");
-        EXPECT_EQ(run.status, 0) << run.output;
-        EXPECT_NE(run.output.find(mountPoint()), std::string::npos) << run.output;
+        expectMounted(run);
         EXPECT_EQ(run.output.find(" /run/brisel-"), std::string::npos) << run.output;
         EXPECT_TRUE(stagingIsGone());
     }

@@ -39,16 +39,13 @@ TEST(CommandLine, PrintsItsUsageOnRequest) {
     EXPECT_EQ(argumentsFrom(Words{"-c", "--help", "a"}).action, Action::ShowUsage);
 }
 
-class OtherCommandLines : public testing::TestWithParam<Words> {};
-
-TEST_P(OtherCommandLines, AreNotUnderstood) {
-    EXPECT_EQ(argumentsFrom(GetParam()).action, Action::NotUnderstood);
+TEST(CommandLine, IsNotUnderstoodInAnyOtherForm) {
+    for (const auto& words :
+         {Words{}, Words{"-c"}, Words{"-cr", "--"}, Words{"a"}, Words{"-r", "a"}, Words{"-cx", "a"},
+          Words{"-l", "a"}, Words{"--clear", "a"}})
+        EXPECT_EQ(argumentsFrom(words).action, Action::NotUnderstood)
+            << testing::PrintToString(words);
 }
-
-INSTANTIATE_TEST_SUITE_P(Of, OtherCommandLines,
-                         testing::Values(Words{}, Words{"-c"}, Words{"-cr", "--"}, Words{"a"},
-                                         Words{"-r", "a"}, Words{"-cx", "a"}, Words{"-l", "a"},
-                                         Words{"--clear", "a"}));
 
 }  // namespace
 

@@ -119,16 +119,6 @@ TEST_P(Stripping, HasNothingToDoForALinkOrAPipe) {
     EXPECT_EQ(complaints_.str(), "");
 }
 
-TEST_P(Stripping, ComplainsOfAPathThatIsNotThereAndGoesOn) {
-    const auto file = makeTaggedFile(at("file"));
-    stripper_.strip(at("no\nsuch\x1b[1m"), Depth::EverythingBelow);
-    stripper_.strip(file, Depth::ItselfOnly);
-    EXPECT_EQ(complaints_.str(),
-              "xattr: " + at("no\\x0asuch\\x1b[1m") + ": No such file or directory\n");
-    EXPECT_TRUE(stripper_.hasFailed());
-    EXPECT_FALSE(isTagged(file));
-}
-
 /// Sets attributes with long names until one fails or `limit` is reached; returns their number.
 int setManyAttributes(const std::string& path, int limit) {
     int count = 0;

@@ -52,10 +52,12 @@ class AWalk : public testing::Test {
     std::vector<std::pair<std::string, std::string>> complaints_;
 };
 
-TEST_F(AWalk, VisitsATreeFromItsTop) {
+TEST_F(AWalk, VisitsATreeFromItsTopAndEndsInTheFolderWhereItBegan) {
+    const auto before = fs::current_path();
     walk("", [] {});
     EXPECT_THAT(visited_, ElementsAre("", "/above", "/above/folder", "/above/folder/below",
                                       "/above/folder/below/file"));
+    EXPECT_EQ(fs::current_path(), before);
 }
 
 TEST_F(AWalk, DoesNotFollowALinkThatReplacesAFolder) {
@@ -96,12 +98,6 @@ TEST_F(AWalk, LeavesFilesOfOtherFileSystemsAlone) {
     EXPECT_TRUE(tests::isTagged(file));
     EXPECT_EQ(removeUserAttributes(Entry(file, status.st_dev)), std::nullopt);
     EXPECT_FALSE(tests::isTagged(file));
-}
-
-TEST_F(AWalk, EndsInTheFolderWhereItBegan) {
-    const auto before = fs::current_path();
-    walk("", [] {});
-    EXPECT_EQ(fs::current_path(), before);
 }
 
 TEST_F(AWalk, LeavesOutAFolderThatIsGone) {
