@@ -7,8 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-
 constexpr const char* Attached = "attach d kind=ntfs\n";
 constexpr const char* UnderAnAlert = "start\n";
 const std::string UnderThePasswordPrompt =
@@ -172,7 +170,7 @@ TEST_F(Response, CarriesWhatThePromptCarries) {
                     "respond DO_MOUNT id=other\nrespond NOTHING\nrespond dismiss\nrespond default\n"
                     "show progress\n"));
     EXPECT_THAT(lines, Contains("unmount: d"));
-    EXPECT_THAT(lines, testing::Not(Contains("unmount: e")));
+    EXPECT_THAT(lines, Not(Contains("unmount: e")));
     EXPECT_EQ(lines.back(), "progress: no");
 }
 
@@ -183,7 +181,7 @@ TEST_F(Choice, CountsItemsOfOneTitleFromTheTop) {
                     "attach d kind=ntfs name=A path=/A writable=yes\n"
                     "attach e kind=ntfs name=B path=/B writable=yes\nchoose unmount 2\n"));
     EXPECT_THAT(lines, Contains("unmount: d"));
-    EXPECT_THAT(lines, testing::Not(Contains("unmount: e")));
+    EXPECT_THAT(lines, Not(Contains("unmount: e")));
 }
 
 }  // namespace

@@ -7,12 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::Not;
-using testing::StartsWith;
-
 class Scenario : public ScriptedScenario {};
 
 TEST_F(Scenario, PlaysTheExample) {

@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
+#include "tests/support/Matchers.h"
 #include "tests/support/SimulatedProgram.h"
 
 namespace brisel::tests {

@@ -10,8 +10,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
 using Center = platform::simulated::UserNotificationCenter;
 
 class RemountPrompt : public RunningProgram {
@@ -87,7 +85,7 @@ TEST_F(RemountPrompt, IsRetriedOnEachRebuildUntilItIsAccepted) {
     EXPECT_TRUE(volume()->notificationSent());
     forgetLines();
     manager().refreshVolumes();
-    EXPECT_THAT(newLines(), testing::Not(Contains("permission: alert sound")));
+    EXPECT_THAT(newLines(), Not(Contains("permission: alert sound")));
 }
 
 TEST_F(RemountPrompt, IsReplacedByThatOfALaterVolume) {
@@ -219,7 +217,7 @@ TEST_F(Response, DoesNothingForAnyOtherAction) {
 TEST_F(Response, IsNotFollowedByAnotherPrompt) {
     respond("NOTHING", "disk4s1");
     manager().refreshVolumes();
-    EXPECT_THAT(newLines(), testing::Not(Contains("permission: alert sound")));
+    EXPECT_THAT(newLines(), Not(Contains("permission: alert sound")));
 }
 
 TEST_F(Response, ToAnotherRequestIsIgnored) {

@@ -7,9 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-using testing::EndsWith;
-
 class StartAtLogin : public RunningProgram {
   protected:
     bool checked() const { return mac.statusMenu.items().at(2).checked; }
@@ -50,8 +47,7 @@ TEST_F(StartAtLogin, KeepsTheCheckMarkWhereItsRemovalIsRefused) {
     refuse();
     forgetLines();
     choose("Start at Login");
-    EXPECT_THAT(newLines(),
-                testing::Contains("text: Couldn't %@ Helper App to launch at login item list."));
+    EXPECT_THAT(newLines(), Contains("text: Couldn't %@ Helper App to launch at login item list."));
     EXPECT_TRUE(checked());
     EXPECT_THAT(mac.userDefaults.stored(),
                 ElementsAre("shouldStartAtLogin = YES", "showDisclaimer = NO"));

@@ -11,8 +11,6 @@ namespace brisel::tests {
 namespace {
 
 using platform::simulated::ProgramEnded;
-using testing::ElementsAre;
-using testing::StartsWith;
 
 constexpr const char* NoticeText =
     "Brisel reveals the already exsisting write function of the macOS NTFS kernel driver. The "

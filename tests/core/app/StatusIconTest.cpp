@@ -8,8 +8,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 class StatusIcon : public RunningProgram {
   protected:
     /// Name of the image shown for a status code.

@@ -8,11 +8,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
-using testing::StartsWith;
-
 /// Tag, title, action and alignment in one line.
 std::string look(const platform::MenuItem& item) {
     auto line = std::to_string(item.tag) + ' ' + (item.separator ? "---" : item.title);
@@ -196,8 +191,8 @@ TEST_F(StatusMenu, IsLocalisedExceptForItsFixedItems) {
     mac.bundle.setLanguage("de");
     const auto shown = mac.bundle.localizedString("show %@ in Finder");
     EXPECT_NE(shown, "show %@ in Finder");
-    EXPECT_THAT(titles(), testing::AllOf(StartsWith(platform::stringWithFormat(shown, "Data")),
-                                         testing::EndsWith(FixedItems)));
+    EXPECT_THAT(titles(),
+                AllOf(StartsWith(platform::stringWithFormat(shown, "Data")), EndsWith(FixedItems)));
 }
 
 class Prompting : public StatusMenu {

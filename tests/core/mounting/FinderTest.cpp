@@ -7,10 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::StartsWith;
-
 class Finder : public RunningProgram {
   protected:
     static std::shared_ptr<NTFSVolume> record(const std::string& label) {

@@ -7,11 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
-using testing::StartsWith;
-
 constexpr const char* MountPoint = "/Users/user/.brisel/Data";
 
 class MountToolFailure : public RunningProgram {

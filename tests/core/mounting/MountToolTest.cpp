@@ -7,11 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
-using testing::StartsWith;
-
 constexpr const char* RunData =
     "run: /sbin/mount_ntfs -o rw,auto,nobrowse,noowners,noatime /dev/disk4s1 "
     "/Users/user/.brisel/Data";

@@ -5,11 +5,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
-using testing::StartsWith;
-
 class OlderSystem : public RunningProgram {
   protected:
     void SetUp() override {

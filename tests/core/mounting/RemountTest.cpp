@@ -10,11 +10,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
-using testing::StartsWith;
-
 constexpr const char* NotMountedText =
     "text: The volume Data is not mounted currently at the specified path. Please remove and "
     "re-attach the device.";

@@ -7,8 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 struct Row {
     std::uint32_t status;
     const char* format;

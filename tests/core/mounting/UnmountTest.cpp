@@ -11,9 +11,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-
 class Unmount : public RunningProgram {
   protected:
     void attachWritable(const std::string& device, const std::string& name) {

@@ -5,10 +5,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-using testing::EndsWith;
-using testing::StartsWith;
-
 class Launch : public PrivilegedTask {
   protected:
     static void expectUntouched(const Task& made) {

@@ -5,11 +5,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::EndsWith;
-using testing::StartsWith;
-
 TEST_F(WatchedTask, PostsItsNotificationBeforeItCallsItsHandlerOnce) {
     const auto made = shell("exit 1");
     watch(made);

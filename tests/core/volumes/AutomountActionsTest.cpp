@@ -6,8 +6,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 const std::string GroupStart = "show Data in Finder | unmount | remove all extended attributes | ";
 
 class AutomountAction : public RunningProgram {
@@ -44,11 +42,11 @@ TEST_F(AutomountAction, UnsavesTheVolumeAndRebuildsTheMenu) {
 TEST_F(AutomountAction, TakesEffectAtTheNextAppearance) {
     attachWritable(SomeUUID);
     choose("mount automatically");
-    EXPECT_THAT(newLines(), testing::Not(testing::Contains("unmount: disk4s1")));
+    EXPECT_THAT(newLines(), Not(Contains("unmount: disk4s1")));
     mac.diskArbitration.detach("disk4s1");
     attachNTFS("disk7s1", "Elsewhere", SomeUUID);
     turn();
-    EXPECT_THAT(newLines(), testing::Contains("unmount: disk7s1"));
+    EXPECT_THAT(newLines(), Contains("unmount: disk7s1"));
 }
 
 TEST_F(AutomountAction, OnlyLogsAVolumeWithoutUUID) {

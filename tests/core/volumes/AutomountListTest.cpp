@@ -7,8 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 class AutomountList : public RunningProgram {
   protected:
     void add(const std::string& uuid) {

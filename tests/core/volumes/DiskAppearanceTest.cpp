@@ -6,11 +6,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
-using testing::StartsWith;
-
 class DiskAppearance : public RunningProgram {
   protected:
     void appear(DiskProperties properties) {

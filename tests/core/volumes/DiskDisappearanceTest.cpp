@@ -6,8 +6,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 constexpr const char* MountPoint = "/Users/user/.brisel/Data";
 
 class DiskDisappearance : public RunningProgram {

@@ -8,8 +8,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 /// Records the calls of the manager's initialiser.
 class NotingServices final : public platform::DiskArbitration,
                              public platform::UserNotificationCenter {
@@ -110,7 +108,7 @@ TEST_F(Manager, DoesNothingForADelegateThatIsGone) {
     orphan.remountVolumeNamed("disk4s1");
     turn();
     EXPECT_FALSE(orphan.inProgress());
-    EXPECT_THAT(newLines(), testing::Not(testing::Contains(testing::StartsWith("icon:"))));
+    EXPECT_THAT(newLines(), Not(Contains(StartsWith("icon:"))));
 }
 
 TEST_F(Manager, DoesNotKeepItsDelegateAlive) {

@@ -5,8 +5,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 class UniqueLabel : public RunningProgram {};
 
 TEST_F(UniqueLabel, AppendsTheDeviceNode) {
@@ -77,7 +75,7 @@ TEST_F(StaleRecord, IsReplacedAtTheEndOfTheList) {
     turn();
     EXPECT_THAT(devices(), ElementsAre("disk3s1", "disk4s1"));
     EXPECT_NE(volume(1), stale);
-    EXPECT_THAT(newLines(), testing::Contains(testing::StartsWith("menu:")));
+    EXPECT_THAT(newLines(), Contains(StartsWith("menu:")));
 }
 
 TEST_F(StaleRecord, StopsTheHandlingIfItIsNotLast) {

@@ -5,8 +5,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 TEST_F(Disks, AreReportedInTheOrderOfAttaching) {
     attachNTFS("disk9", "A");
     attachNTFS("disk1", "B");

@@ -6,7 +6,6 @@ namespace brisel::tests {
 namespace {
 
 using platform::Disk;
-using testing::ElementsAre;
 
 class Requests : public Disks {
   protected:

@@ -1,14 +1,11 @@
 // Simulated folders, and the file manager on top of them.
 // SPDX-License-Identifier: MIT
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
+#include "tests/support/Matchers.h"
 #include "tests/support/SimulatedProgram.h"
 
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
 using Call = platform::simulated::FileManager::Call;
 
 class Folders : public testing::Test {

@@ -1,18 +1,15 @@
 // The simulated services other than disks and folders.
 // SPDX-License-Identifier: MIT
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include <array>
 
 #include "platform/simulated/ProgramEnded.h"
+#include "tests/support/Matchers.h"
 #include "tests/support/SimulatedProgram.h"
 
 namespace brisel::tests {
 namespace {
-
-using testing::ElementsAre;
 
 class Simulated : public testing::Test, public SimulatedProgram {};
 
@@ -81,7 +78,7 @@ TEST_F(Services, FailTheNextScriptAlone) {
     mac.scriptRunner.failNext({{"b", "2"}, {"a", "1"}});
     const auto failed = mac.scriptRunner.execute("source");
     ASSERT_TRUE(failed.error);
-    EXPECT_THAT(*failed.error, ElementsAre(testing::Pair("b", "2"), testing::Pair("a", "1")));
+    EXPECT_THAT(*failed.error, ElementsAre(Pair("b", "2"), Pair("a", "1")));
     EXPECT_FALSE(mac.scriptRunner.execute("source").error);
     EXPECT_THAT(newLines(), ElementsAre("script: source", "script: source"));
 }
