@@ -8,7 +8,6 @@ namespace brisel::tests::macos {
 namespace {
 
 using platform::AlertContent;
-using testing::ElementsAre;
 
 class AlertAdapter : public AdapterTest {
   protected:

@@ -22,8 +22,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-
 class ApplicationAdapter : public AdapterTest {
   protected:
     ApplicationAdapter() {

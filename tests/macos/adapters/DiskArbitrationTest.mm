@@ -6,8 +6,6 @@ namespace brisel::tests::macos {
 namespace {
 
 using platform::Disk;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class DiskReports : public DiskArbitrationAdapter {};
 

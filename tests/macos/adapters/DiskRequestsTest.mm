@@ -15,8 +15,6 @@ namespace {
 
 using platform::DAReturn;
 using platform::FileURL;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class DiskRequests : public DiskArbitrationAdapter {
   protected:

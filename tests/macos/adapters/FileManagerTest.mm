@@ -14,7 +14,6 @@ namespace {
 namespace fs = std::filesystem;
 using platform::Error;
 using platform::FileURL;
-using testing::ElementsAre;
 using Call = platform::simulated::FileManager::Call;
 
 class FileManagerAdapter : public AdapterTest {

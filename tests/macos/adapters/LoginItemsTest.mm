@@ -7,8 +7,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-
 class LoginItemsAdapter : public AdapterTest {
   protected:
     platform::macos::LoginItems adapter;

@@ -12,7 +12,6 @@ namespace {
 
 using platform::MenuItem;
 using platform::macos::stdString;
-using testing::ElementsAre;
 
 class MenuAdapter : public AdapterTest {
   protected:
@@ -139,7 +138,7 @@ TEST_F(MenuAdapter, RemovesByTagsAndKeepsTheOthersInOrder) {
 TEST_F(MenuAdapter, LogsAnInvalidIndexAndContinues) {
     adapter->insertItem(item("too far"), 3);
     EXPECT_THAT(titles(), ElementsAre("Start at Login", "Quit"));
-    EXPECT_THAT(logLines(), ElementsAre(testing::StartsWith("The system refused to insert")));
+    EXPECT_THAT(logLines(), ElementsAre(StartsWith("The system refused to insert")));
     adapter->insertItem(item("fine"), 2);
     EXPECT_THAT(titles(), ElementsAre("Start at Login", "Quit", "fine"));
 }

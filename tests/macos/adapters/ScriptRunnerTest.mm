@@ -7,11 +7,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::Optional;
-using testing::Pair;
-
 class ScriptRunnerAdapter : public AdapterTest {
   protected:
     platform::macos::ScriptRunner adapter;

@@ -7,9 +7,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::Pointee;
 using List = std::vector<std::string>;
 
 class UserDefaultsAdapter : public AdapterTest {

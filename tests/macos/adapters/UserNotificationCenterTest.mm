@@ -5,9 +5,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 TEST_F(Notifications, AreHandedOverWithAllTheySay) {
     add();
     EXPECT_EQ(answers, 1);

@@ -7,8 +7,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-
 class WorkspaceAdapter : public AdapterTest {
   protected:
     platform::macos::Workspace adapter;
