@@ -24,6 +24,24 @@ class RunningProgram : public ::testing::Test, public SimulatedProgram {
                                std::make_shared<const std::vector<std::string>>(std::move(uuids)));
     }
 
+    void attachWritable(const std::string& device, const std::string& name,
+                        const std::string& volumeUUID = "") {
+        auto disk = ntfsDisk(name, volumeUUID);
+        disk.writable = true;
+        mac.diskArbitration.attach(device, disk);
+        turn();
+        forgetLines();
+    }
+
+    /// Appends a record to the manager's list.
+    std::shared_ptr<NTFSVolume> addRecord(const std::string& device,
+                                          const std::string& label = "") {
+        const auto record = NTFSVolume::initWithVolume({});
+        record->setDeviceNode(device);
+        record->setLabel(label);
+        return manager().volumes().emplace_back(record);
+    }
+
     /// The transcript line of a menu with these generated items.
     static std::string menuLine(const std::string& generated) {
         return "menu: " + generated + " | " + FixedItems;

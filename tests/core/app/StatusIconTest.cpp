@@ -53,22 +53,6 @@ TEST_F(StatusIcon, TreatsAnyAppearanceNamedDarkAsDark) {
     }
 }
 
-TEST_F(StatusIcon, FollowsTheAppearanceAndKeepsItsColour) {
-    program.delegate()->errorIcon();
-    forgetLines();
-    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
-    mac.statusItem.setAppearance("NSAppearanceNameAqua");
-    EXPECT_THAT(newLines(),
-                ElementsAre("icon: brisel-status-red-dark", "icon: brisel-status-red-light"));
-}
-
-TEST_F(StatusIcon, LosesTheErrorWithTheNextRebuild) {
-    program.delegate()->errorIcon();
-    EXPECT_EQ(newLines().back(), "icon: brisel-status-red-light");
-    manager().refreshVolumes();
-    EXPECT_EQ(newLines().back(), "icon: brisel-status-grey-light");
-}
-
 TEST_F(StatusIcon, IgnoresOtherKeyPaths) {
     program.delegate()->observeValueForKeyPath("appearance");
     program.delegate()->observeValueForKeyPath("");
