@@ -16,11 +16,6 @@ class AlertAdapter : public AdapterTest {
     platform::macos::Alert adapter;
 };
 
-TEST_F(AlertAdapter, ShowsItsTextsAndButtons) {
-    adapter.runModal({.messageText = "Größe 💾?", .informativeText = "%@", .buttons = {"a", "b"}});
-    EXPECT_THAT(lines(), ElementsAre("alert: Größe 💾?", "text: %@", "buttons: a | b"));
-}
-
 TEST_F(AlertAdapter, NumbersItsButtonsFromTheFirstOn) {
     const AlertContent content{
         .messageText = "?", .informativeText = "", .buttons = {"a", "b", "c"}};

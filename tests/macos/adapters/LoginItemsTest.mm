@@ -18,20 +18,6 @@ class LoginItemsAdapter : public AdapterTest {
     }
 };
 
-TEST_F(LoginItemsAdapter, RegistersAndRemovesAHelper) {
-    EXPECT_TRUE(adapter.setEnabled("org.brisel.Helper", true));
-    EXPECT_TRUE(adapter.setEnabled("org.brisel.Helper", false));
-    EXPECT_THAT(lines(), ElementsAre("login-item: org.brisel.Helper on",
-                                     "login-item: org.brisel.Helper off"));
-}
-
-TEST_F(LoginItemsAdapter, ReportsARefusal) {
-    mac.loginItems.setAnswer(platform::simulated::LoginItems::Answer::Refuse);
-    EXPECT_FALSE(adapter.setEnabled("org.brisel.Helper", true));
-    EXPECT_FALSE(adapter.setEnabled("org.brisel.Helper", false));
-    EXPECT_THAT(logLines(), ElementsAre());
-}
-
 TEST_F(LoginItemsAdapter, AsksTheServiceOfNewerSystemsAfterARefusal) {
     upgrade(true);
     EXPECT_TRUE(adapter.setEnabled("org.brisel.Helper", true));

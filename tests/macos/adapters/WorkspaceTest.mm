@@ -12,16 +12,6 @@ class WorkspaceAdapter : public AdapterTest {
     platform::macos::Workspace adapter;
 };
 
-TEST_F(WorkspaceAdapter, OpensAFolder) {
-    adapter.openURL(platform::FileURL("/Volumes/Größe 100%"));
-    EXPECT_THAT(lines(), ElementsAre("open: file:///Volumes/Gr%C3%B6%C3%9Fe%20100%25/"));
-}
-
-TEST_F(WorkspaceAdapter, PassesNilOn) {
-    adapter.openURL(std::nullopt);
-    EXPECT_THAT(lines(), ElementsAre("open: (null)"));
-}
-
 TEST_F(WorkspaceAdapter, SurvivesAnExceptionForNone) {
     orders().nextCallRaises = true;
     adapter.openURL(std::nullopt);
