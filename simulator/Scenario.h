@@ -54,7 +54,7 @@ class Scenario final : private platform::simulated::Person {
     /// Reads and executes one line, for a program whose main loop reads the commands. False at the
     /// end of the commands.
     bool step();
-    /// Whether a bad command has stopped the scenario.
+    /// True if a bad command has stopped the scenario.
     [[nodiscard]] bool stopped() const { return stopped_; }
 
     [[nodiscard]] platform::simulated::Mac& mac() { return mac_; }

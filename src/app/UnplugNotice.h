@@ -9,7 +9,7 @@
 
 namespace brisel {
 
-/// For platforms whose system says nothing of the kind.
+/// For platforms whose system has no such notification.
 struct UnplugNotice {
     UnplugNotice(const platform::Bundle& bundle, const NTFSVolume& volume);
 

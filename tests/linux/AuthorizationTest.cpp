@@ -77,11 +77,12 @@ TEST_F(ThePasswordPrompt, IsPkexecsAlone) {
     EXPECT_EQ(outputOf(tool), "--disable-internal-agent /tool a b\n");
 }
 
+// pkexec closes the descriptors that it does not pass on.
+constexpr const char* CloseFiles =
+    "for file in /proc/$$/fd/*; do n=${file##*/}; [ $n -gt 2 ] && eval \"exec $n>&-\"; done\n";
+
 TEST_F(ThePasswordPrompt, EndsWhenPkexecStartsTheTool) {
-    // pkexec closes the descriptors that it does not pass on.
-    const auto tool = start(
-        "for file in /proc/$$/fd/*; do n=${file##*/}; [ $n -gt 2 ] && eval \"exec $n>&-\"; done\n"
-        "read -r line; echo \"$line\"");
+    const auto tool = start(CloseFiles + std::string("read -r line; echo \"$line\""));
     ASSERT_EQ(tool.status, errAuthorizationSuccess);
     EXPECT_EQ(write(fileno(tool.communicationsPipe), "runs\n", strlen("runs\n")), 5);
     EXPECT_EQ(outputOf(tool), "runs\n");
@@ -92,6 +93,11 @@ TEST_F(ThePasswordPrompt, IsDismissedOrRefused) {
     EXPECT_EQ(start("exit 127").status, errAuthorizationDenied);
     EXPECT_EQ(start("kill $$").status, errAuthorizationDenied);
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+}
+
+TEST_F(ThePasswordPrompt, IsDismissedOnASlowMachine) {
+    EXPECT_EQ(start(CloseFiles + std::string("sleep 0.2; exit 126")).status,
+              errAuthorizationCanceled);
 }
 
 TEST_F(ThePasswordPrompt, IsCancelledOnTermination) {

@@ -160,6 +160,10 @@ TEST(ADevice, MayBeUnpluggedOnceNothingOnItsDriveIsMounted) {
     internal.system = true;
     EXPECT_FALSE(mayBeUnplugged({internal}, "sdb1"));
     EXPECT_TRUE(mayBeUnplugged({{.path = "/loop0", .bsdName = "loop0", .system = true}}, "loop0"));
+    const BlockUse unlocked{.path = "/dm1", .bsdName = "dm-1", .backing = "/sdb1"};
+    EXPECT_TRUE(mayBeUnplugged({volume, idle, unlocked}, "dm-1"));
+    EXPECT_FALSE(mayBeUnplugged({volume, sibling, unlocked}, "dm-1"));
+    EXPECT_FALSE(mayBeUnplugged({internal, unlocked}, "dm-1"));
 }
 
 }  // namespace

@@ -89,21 +89,22 @@ TEST_F(PreferencesFile, ThatIsAPipeDoesNotBlock) {
 }
 
 TEST_F(PreferencesFile, LosesWhatAKilledWriteLeftAndNothingElse) {
-    const std::vector<std::string> left{".aB3dE9", ".ABCDEF", ".00000a"};
-    const std::vector<std::string> kept{".backup", ".202611", ".aB3dE9.c", ".aB-dE9", "-aB3dE9"};
+    const std::vector<std::string> left{".aB3dE9", ".ABCDEf", ".00000a"};
+    const std::vector<std::string> kept{".backup", ".Backup",   ".BACKUP", ".202611",
+                                        ".Copy02", ".aB3dE9.c", ".aB-dE9", "-aB3dE9"};
     for (const auto& endings : {left, kept}) {
         for (const auto& ending : endings)
             std::ofstream(path_ + ending) << "[Brisel]";
     }
-    std::filesystem::create_symlink(path_, path_ + ".Link00");
-    std::filesystem::create_directory(path_ + ".Folder");
+    std::filesystem::create_symlink(path_, path_ + ".LinK00");
+    std::filesystem::create_directory(path_ + ".FoldeR");
     static_cast<void>(open());
     for (const auto& ending : left)
         EXPECT_FALSE(std::filesystem::exists(path_ + ending)) << ending;
     for (const auto& ending : kept)
         EXPECT_TRUE(std::filesystem::exists(path_ + ending)) << ending;
-    EXPECT_TRUE(std::filesystem::is_symlink(path_ + ".Link00"));
-    EXPECT_TRUE(std::filesystem::exists(path_ + ".Folder"));
+    EXPECT_TRUE(std::filesystem::is_symlink(path_ + ".LinK00"));
+    EXPECT_TRUE(std::filesystem::exists(path_ + ".FoldeR"));
     EXPECT_THAT(logged_, IsEmpty());
 }
 

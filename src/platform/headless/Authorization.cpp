@@ -59,9 +59,10 @@ std::optional<int> exitStatusOf(pid_t child) {
     return info.si_code == CLD_EXITED ? info.si_status : NotAuthorized;
 }
 
-// A process closes its descriptors some moments before it can be waited for.
+// A process closes its descriptors some moments before it can be waited for. Generous even for slow
+// machines: the caller waits for a tool that runs anyway.
 std::optional<int> exitStatusSoon(pid_t child) {
-    constexpr int Tries = 50;
+    constexpr int Tries = 500;
     constexpr std::chrono::milliseconds Pause{1};
     for (int tries = 0; tries < Tries; ++tries) {
         if (const auto status = exitStatusOf(child)) return status;

@@ -25,15 +25,15 @@ bool isSameVolume(const DiskDescription& one, const DiskDescription& other) {
            one.mediaUUID == other.mediaUUID;
 }
 
-// What is mounted there was mounted for the program, by the mount tool behind UDisks2's back. The
-// kernel tells of mounts by the paths without links.
+// The mount tool mounts there, for the program and without UDisks2. The kernel reports mount points
+// without symbolic links.
 bool isInMountFolder(const std::optional<FileURL>& path) {
     std::error_code code;
     const auto home = std::filesystem::weakly_canonical(g_get_home_dir(), code);
     return path && isBelow(path->path(), mountFolderIn(home.string()));
 }
 
-// Where the mount tool has a volume for a moment, until it is in order: its StagingFolder.
+// The mount tool mounts a volume there until it has verified it.
 bool isUnderWay(const std::optional<FileURL>& path) {
     return path && path->path().starts_with(shared::StagingPrefix);
 }
@@ -61,7 +61,7 @@ void DiskArbitration::scheduleWithRunLoop() {
 }
 
 void DiskArbitration::compare() {
-    // While the service is away nothing is known; its disks are still there.
+    // Without the service the state of the disks is unknown; they are not gone.
     if (!scheduled_ || !service_->isThere()) return;
     const auto present = service_->disks();
     for (const auto& [name, description] : Disks(reported_)) {

@@ -45,7 +45,7 @@ class DiskArbitration final : public platform::DiskArbitration {
   private:
     using Disks = std::map<std::string, DiskDescription>;
 
-    /// Reports what has come and gone since the last time.
+    /// Reports the disks that appeared and disappeared since the last call.
     void compare();
     void compareMounts(const std::string& name, const DiskDescription& before,
                        const DiskDescription& now);
@@ -59,9 +59,9 @@ class DiskArbitration final : public platform::DiskArbitration {
     std::unique_ptr<ReadWriteMount> readWriteMount_;
     Subscription nextComparison_;
     bool scheduled_ = false;
-    /// How many of the program's own requests are under way, by BSD name.
+    /// Number of the program's own unfinished requests, by BSD name.
     std::map<std::string, int> requests_;
-    /// What was reported as appeared, with the newest description of each.
+    /// The disks reported as appeared, with their newest descriptions.
     Disks reported_;
     common::Signal<const Disk&, const DiskDescription&> appeared_;
     common::Signal<const Disk&, const DiskDescription&> disappeared_;

@@ -8,12 +8,13 @@ namespace brisel::platform::headless {
 
 namespace {
 
-// UDisks2 gives the content of an encrypted device no drive.
-std::string driveOf(const std::vector<BlockUse>& blocks, const BlockUse& block) {
+// UDisks2 gives the content of an encrypted device no drive. Returns the encrypted device for that,
+// and `block` itself otherwise.
+const BlockUse& physical(const std::vector<BlockUse>& blocks, const BlockUse& block) {
     const auto backing = std::find_if(blocks.begin(), blocks.end(), [&](const auto& other) {
         return other.path == block.backing;
     });
-    return backing == blocks.end() ? block.drive : backing->drive;
+    return backing == blocks.end() ? block : *backing;
 }
 
 }  // namespace
@@ -23,10 +24,12 @@ bool mayBeUnplugged(const std::vector<BlockUse>& blocks, const std::string& bsdN
         return block.bsdName == bsdName;
     });
     if (device == blocks.end()) return false;
+    const auto& plugged = physical(blocks, *device);
     // Loop devices and the like have no drive.
-    if (device->drive == "/") return true;
-    return !device->system && std::none_of(blocks.begin(), blocks.end(), [&](const auto& block) {
-        return &block != &*device && block.mounted && driveOf(blocks, block) == device->drive;
+    if (plugged.drive == "/") return true;
+    return !plugged.system && std::none_of(blocks.begin(), blocks.end(), [&](const auto& block) {
+        return &block != &*device && block.mounted &&
+               physical(blocks, block).drive == plugged.drive;
     });
 }
 

@@ -64,51 +64,51 @@ void ReadWriteMount::mount(const std::string& device, const std::string& options
 // Names the driver: without a name UDisks2 2.10 checks the options against ntfs3's list first, and
 // 2.9 against none. Tries the mount to find out which driver exists, because the kernel lists ntfs3
 // only once it is loaded.
-void ReadWriteMount::tryFuseDriver(const Request& request) {
-    service_.mount(request.device,
-                   {.options = withNoRecovery(request.options), .driver = FuseDriver},
-                   [this, request](const auto& failure, const auto& mountPoint) {
+void ReadWriteMount::tryFuseDriver(const Attempt& attempt) {
+    service_.mount(attempt.device,
+                   {.options = withNoRecovery(attempt.options), .driver = FuseDriver},
+                   [this, attempt](const auto& failure, const auto& mountPoint) {
                        if (failure && isOfDriver(*failure)) {
-                           log_.log(UDisksFailure, request.device, failure->message);
-                           tryKernelDriver(request, *failure);
+                           log_.log(UDisksFailure, attempt.device, failure->message);
+                           tryKernelDriver(attempt, *failure);
                        } else {
-                           finish(request, failure, mountPoint);
+                           finish(attempt, failure, mountPoint);
                        }
                    });
 }
 
 // If both drivers fail, reports the first failure; the second may only mean that ntfs3 is missing.
-void ReadWriteMount::tryKernelDriver(const Request& request, const Failure& first) {
-    service_.mount(request.device, {.options = request.options, .driver = KernelDriver},
-                   [this, request, first](const auto& failure, const auto& mountPoint) {
+void ReadWriteMount::tryKernelDriver(const Attempt& attempt, const Failure& first) {
+    service_.mount(attempt.device, {.options = attempt.options, .driver = KernelDriver},
+                   [this, attempt, first](const auto& failure, const auto& mountPoint) {
                        if (failure && isOfDriver(*failure)) {
-                           log_.log(UDisksFailure, request.device, failure->message);
-                           request.done(dissenterFor(first.errorName), {});
+                           log_.log(UDisksFailure, attempt.device, failure->message);
+                           attempt.done(dissenterFor(first.errorName), {});
                        } else {
-                           finish(request, failure, mountPoint);
+                           finish(attempt, failure, mountPoint);
                        }
                    });
 }
 
-void ReadWriteMount::finish(const Request& request, const std::optional<Failure>& failure,
+void ReadWriteMount::finish(const Attempt& attempt, const std::optional<Failure>& failure,
                             const std::string& mountPoint) {
     if (failure) {
-        log_.log(UDisksFailure, request.device, failure->message);
-        request.done(dissenterFor(failure->errorName), {});
+        log_.log(UDisksFailure, attempt.device, failure->message);
+        attempt.done(dissenterFor(failure->errorName), {});
     } else if (!isHibernated(mountPoint) && takesWriting(mountPoint)) {
-        request.done(std::nullopt, mountPoint);
+        attempt.done(std::nullopt, mountPoint);
     } else {
-        takeBack(request, mountPoint);
+        takeBack(attempt, mountPoint);
     }
 }
 
 // ntfs-3g silently mounts a hibernated or unsafe volume read-only. ntfs3 does not check for
 // hibernation.
-void ReadWriteMount::takeBack(const Request& request, const std::string& mountPoint) {
-    log_.log("%@ is unmounted again: %@.", request.device, reasonToTakeBack(mountPoint));
-    service_.unmount(request.device, [this, request](const auto& failure, const auto& /*result*/) {
-        if (failure) log_.log(UDisksFailure, request.device, failure->message);
-        request.done(Dissenter{.status = DAReturn::NotWritable}, {});
+void ReadWriteMount::takeBack(const Attempt& attempt, const std::string& mountPoint) {
+    log_.log("%@ is unmounted again: %@.", attempt.device, reasonToTakeBack(mountPoint));
+    service_.unmount(attempt.device, [this, attempt](const auto& failure, const auto& /*result*/) {
+        if (failure) log_.log(UDisksFailure, attempt.device, failure->message);
+        attempt.done(Dissenter{.status = DAReturn::NotWritable}, {});
     });
 }
 

@@ -30,18 +30,18 @@ class ReadWriteMount {
 
   private:
     using Failure = DiskService::CallFailure;
-    struct Request {
+    struct Attempt {
         std::string device;
         std::string options;
         Done done;
     };
 
-    void tryFuseDriver(const Request& request);
+    void tryFuseDriver(const Attempt& attempt);
     /// `first` is ntfs-3g's failure.
-    void tryKernelDriver(const Request& request, const Failure& first);
-    void finish(const Request& request, const std::optional<Failure>& failure,
+    void tryKernelDriver(const Attempt& attempt, const Failure& first);
+    void finish(const Attempt& attempt, const std::optional<Failure>& failure,
                 const std::string& mountPoint);
-    void takeBack(const Request& request, const std::string& mountPoint);
+    void takeBack(const Attempt& attempt, const std::string& mountPoint);
 
     DiskService& service_;
     platform::SystemLog& log_;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/headless/UserDefaults.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -28,20 +27,17 @@ std::string freeNameBeside(const std::string& path) {
     return name;
 }
 
-// True for FILE.XXXXXX, which GLib writes and renames to FILE. A suffix of only small letters or
-// only digits may be a copy made by the user, such as `backup`; GLib picks one in 200 times.
+bool matches(const std::string& text, const char* pattern) {
+    return g_regex_match_simple(pattern, text.c_str(), {}, {}) != FALSE;
+}
+
+// True for FILE.XXXXXX, which GLib writes and renames to FILE. Spares a word with a number, such as
+// `Backup`, `copy02` or `202611`: it may be a copy made by the user. GLib picks one in 40 times.
 bool isTemporary(const std::string& name, const std::string& file) {
-    constexpr std::string_view SmallLetters = "abcdefghijklmnopqrstuvwxyz";
-    constexpr std::string_view Digits = "0123456789";
-    constexpr std::size_t SuffixLength = 6;
-    if (!name.starts_with(file + ".") || name.size() != file.size() + 1 + SuffixLength) {
-        return false;
-    }
-    const auto suffix = std::string_view(name).substr(file.size() + 1);
-    return std::all_of(suffix.begin(), suffix.end(),
-                       [](char character) { return g_ascii_isalnum(character); }) &&
-           suffix.find_first_not_of(SmallLetters) != std::string_view::npos &&
-           suffix.find_first_not_of(Digits) != std::string_view::npos;
+    if (!name.starts_with(file + ".")) return false;
+    const auto suffix = name.substr(file.size() + 1);
+    return matches(suffix, R"(^[A-Za-z0-9]{6}\z)") &&
+           !matches(suffix, R"(^([A-Z]?[a-z]*|[A-Z]+)[0-9]*\z)");
 }
 
 // A killed write leaves its temporary file.

@@ -25,10 +25,11 @@ void StatusItem::setImage(const std::optional<std::string>& name) {
     if (button == nil) return;
     if (name != image_) {
         *settingImage_ = true;
-        guarded("show the icon",
-                [&] { [button setImage:name ? [NSImage imageNamed:nsString(*name)] : nil]; });
+        const bool set = guarded("show the icon", [&] {
+            [button setImage:name ? [NSImage imageNamed:nsString(*name)] : nil];
+        });
         *settingImage_ = false;
-        image_ = name;
+        if (set) image_ = name;
     }
     const auto words = common::statusWords(name.value_or(std::string()));
     const auto label = "Brisel" + (words.empty() ? "" : ": " + bundle_.localizedString(words));

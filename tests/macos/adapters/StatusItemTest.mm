@@ -114,6 +114,19 @@ TEST_F(StatusItemAdapter, SetsOnlyTheImageThatDiffers) {
     EXPECT_EQ(assignments(), 3U);
 }
 
+TEST_F(StatusItemAdapter, SetsAnImageAgainThatTheSystemRefused) {
+    create();
+    const auto observation = observe();
+    for (const bool raises : {true, false}) {
+        orders().nextCallRaises = raises;
+        adapter.setImage("brisel-status-blue-dark");
+    }
+    EXPECT_EQ(assignments(), 1U);
+    EXPECT_THAT(logLines(), ElementsAre("The system refused to show the icon: raised as told"));
+    change("NSAppearanceNameDarkAqua");
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(StatusItemAdapter, TellsOfAChangeOnceUntilTheObservationEnds) {
     create();
     auto observation = observe();

@@ -5,6 +5,7 @@
 
 #include "platform/macos/Text.h"
 #import "tests/macos/frameworks/AppKit.h"
+#import "tests/macos/frameworks/Raising.h"
 #include "tests/macos/frameworks/World.h"
 
 using brisel::platform::macos::nsString;
@@ -12,6 +13,7 @@ using brisel::platform::macos::optionalString;
 using brisel::tests::macos::complain;
 using brisel::tests::macos::itemsOf;
 using brisel::tests::macos::orders;
+using brisel::tests::macos::raiseIfTold;
 using brisel::tests::macos::world;
 
 namespace {
@@ -73,6 +75,7 @@ StageStatusItem* statusItem() {
 }
 
 - (void)setImage:(NSImage*)image {
+    raiseIfTold();
     if (image != nil && image == image_) complain("the image that is up was assigned again");
     ++imageAssignments_;
     ASSIGN(image_, image);
