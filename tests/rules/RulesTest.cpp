@@ -12,10 +12,6 @@ namespace brisel::tests {
 
 namespace {
 
-using testing::Contains;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
 /// A program at rest with two volumes; a test makes it say or be what must not be.
 class ARule : public RunningProgram {
   protected:

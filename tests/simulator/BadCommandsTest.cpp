@@ -7,8 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-
 constexpr const char* Attached = "attach d kind=ntfs\n";
 constexpr const char* UnderAnAlert = "start\n";
 const std::string UnderThePasswordPrompt =
@@ -134,10 +132,6 @@ TEST_F(BadCommand, StopsTheScenarioInItsLineWithAComplaint) {
     }
 }
 
-TEST_F(BadCommand, IsCountedWithBlankLinesAndRemarks) {
-    EXPECT_EQ(stoppedIn("# one\n\nsystem 12\nnonsense x\nsystem 11\n"), 4U);
-}
-
 /// Lines that are good although they look odd.
 class OddCommand : public BadCommand, public testing::WithParamInterface<const char*> {};
 
@@ -157,34 +151,6 @@ INSTANTIATE_TEST_SUITE_P(Commands, OddCommand,
                                          "rmdir /nothing", "fail delete x", "fail delete x y",
                                          "script fail", "script fail a=b c=d", "show volumes",
                                          "show menu\nshow progress\nshow defaults\nshow folders"));
-
-class Response : public ScriptedScenario {};
-
-TEST_F(Response, MayNameAnyDeviceWithoutAPrompt) {
-    EXPECT_TRUE(run(std::string(Started) + "respond DO_MOUNT volume=disk9\npress OK\n"));
-    EXPECT_THAT(lines, Contains("alert: Volume not mounted"));
-}
-
-TEST_F(Response, CarriesWhatThePromptCarries) {
-    EXPECT_TRUE(run(std::string(Started) +
-                    "attach d kind=ntfs name=Data path=/Volumes/Data\nrespond DO_MOUNT\n"
-                    "password cancel\nattach e kind=ntfs name=Other path=/Volumes/Other\n"
-                    "respond DO_MOUNT id=other\nrespond NOTHING\nrespond dismiss\nrespond default\n"
-                    "show progress\n"));
-    EXPECT_THAT(lines, Contains("unmount: d"));
-    EXPECT_THAT(lines, testing::Not(Contains("unmount: e")));
-    EXPECT_EQ(lines.back(), "progress: no");
-}
-
-class Choice : public ScriptedScenario {};
-
-TEST_F(Choice, CountsItemsOfOneTitleFromTheTop) {
-    EXPECT_TRUE(run(std::string(Started) +
-                    "attach d kind=ntfs name=A path=/A writable=yes\n"
-                    "attach e kind=ntfs name=B path=/B writable=yes\nchoose unmount 2\n"));
-    EXPECT_THAT(lines, Contains("unmount: d"));
-    EXPECT_THAT(lines, testing::Not(Contains("unmount: e")));
-}
 
 }  // namespace
 }  // namespace brisel::tests

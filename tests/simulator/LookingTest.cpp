@@ -7,8 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 class Looking : public ScriptedScenario {
   protected:
     /// What the last of these commands prints.

@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "simulator/Scenario.h"
+#include "tests/support/Matchers.h"
 
 namespace brisel::tests {
 

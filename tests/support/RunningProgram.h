@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
+#include "tests/support/Matchers.h"
 #include "tests/support/SimulatedProgram.h"
 
 namespace brisel::tests {
@@ -24,6 +22,24 @@ class RunningProgram : public ::testing::Test, public SimulatedProgram {
     void storeAutomountList(std::vector<std::string> uuids) {
         mac.userDefaults.store("volumeList",
                                std::make_shared<const std::vector<std::string>>(std::move(uuids)));
+    }
+
+    void attachWritable(const std::string& device, const std::string& name,
+                        const std::string& volumeUUID = "") {
+        auto disk = ntfsDisk(name, volumeUUID);
+        disk.writable = true;
+        mac.diskArbitration.attach(device, disk);
+        turn();
+        forgetLines();
+    }
+
+    /// Appends a record to the manager's list.
+    std::shared_ptr<NTFSVolume> addRecord(const std::string& device,
+                                          const std::string& label = "") {
+        const auto record = NTFSVolume::initWithVolume({});
+        record->setDeviceNode(device);
+        record->setLabel(label);
+        return manager().volumes().emplace_back(record);
     }
 
     /// The transcript line of a menu with these generated items.

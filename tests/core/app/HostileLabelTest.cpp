@@ -5,9 +5,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::HasSubstr;
-
 std::string characters(std::size_t count) {
     std::string text;
     while (count-- > 0)

@@ -10,20 +10,7 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using Center = platform::simulated::UserNotificationCenter;
-
-class RemountPrompt : public RunningProgram {
-  protected:
-    std::shared_ptr<NTFSVolume> post() {
-        const auto volume = NTFSVolume::initWithVolume({});
-        volume->setLabel("Data");
-        volume->setDeviceNode("disk4s1");
-        postRemountPrompt(mac.platform, volume);
-        return volume;
-    }
-};
+class RemountPrompt : public RunningProgram {};
 
 TEST_F(RemountPrompt, HasOneCategoryOfTwoActions) {
     const auto& categories = mac.userNotificationCenter.categories();
@@ -42,64 +29,6 @@ TEST_F(RemountPrompt, OffersItsActionsInTheUsersLanguage) {
     const auto& actions = mac.userNotificationCenter.categories().at(0).actions;
     EXPECT_EQ(actions.at(0).title, "Ja, gern!");
     EXPECT_EQ(actions.at(1).title, "Nein, danke.");
-}
-
-TEST_F(RemountPrompt, CarriesItsContent) {
-    EXPECT_TRUE(post()->notificationSent());
-    const auto& prompt = mac.userNotificationCenter.lastPrompt();
-    ASSERT_TRUE(prompt);
-    EXPECT_EQ(prompt->identifier, "mount");
-    EXPECT_EQ(prompt->title, "Data detected");
-    EXPECT_EQ(prompt->body, "Re-mount it read-write?");
-    EXPECT_EQ(prompt->soundName, "Hero");
-    EXPECT_EQ(prompt->categoryIdentifier, "MOUNT");
-    EXPECT_EQ(prompt->userInfo, (platform::UserInfo{{"volume", "disk4s1"}}));
-    EXPECT_EQ(prompt->delay, std::chrono::milliseconds(200));
-}
-
-TEST_F(RemountPrompt, IsOnlyLoggedIfThePermissionRequestFails) {
-    mac.userNotificationCenter.setPermission(Center::Permission::Error);
-    EXPECT_FALSE(post()->notificationSent());
-    EXPECT_THAT(newLines(), ElementsAre("permission: alert sound",
-                                        "log: Requesting auth for Local Notification failed!"));
-}
-
-TEST_F(RemountPrompt, IsSilentlyDroppedWithoutPermission) {
-    mac.userNotificationCenter.setPermission(Center::Permission::Deny);
-    EXPECT_FALSE(post()->notificationSent());
-    EXPECT_THAT(newLines(), ElementsAre("permission: alert sound"));
-}
-
-TEST_F(RemountPrompt, IsNotMarkedAsSentIfItIsRejected) {
-    mac.userNotificationCenter.refuseNextRequest();
-    EXPECT_FALSE(post()->notificationSent());
-    EXPECT_THAT(newLines(),
-                ElementsAre("permission: alert sound", "log: Adding Local Notification failed!"));
-}
-
-TEST_F(RemountPrompt, IsRetriedOnEachRebuildUntilItIsAccepted) {
-    mac.userNotificationCenter.setPermission(Center::Permission::Deny);
-    attachQuietly("disk4s1", "Data");
-    manager().refreshVolumes();
-    EXPECT_THAT(newLines(), Contains("permission: alert sound"));
-    mac.userNotificationCenter.setPermission(Center::Permission::Allow);
-    manager().refreshVolumes();
-    EXPECT_TRUE(volume()->notificationSent());
-    forgetLines();
-    manager().refreshVolumes();
-    EXPECT_THAT(newLines(), testing::Not(Contains("permission: alert sound")));
-}
-
-TEST_F(RemountPrompt, IsReplacedByThatOfALaterVolume) {
-    mac.userNotificationCenter.setPermission(Center::Permission::Deny);
-    attachQuietly("disk4s1", "Data");
-    attachQuietly("disk5s1", "Other");
-    mac.userNotificationCenter.setPermission(Center::Permission::Allow);
-    manager().refreshVolumes();
-    EXPECT_EQ(mac.userNotificationCenter.lastPrompt()->userInfo.at("volume"), "disk5s1");
-    EXPECT_EQ(mac.userNotificationCenter.lastPrompt()->identifier, "mount");
-    EXPECT_TRUE(volume(0)->notificationSent());
-    EXPECT_TRUE(volume(1)->notificationSent());
 }
 
 /// A notification center whose completion handlers wait until the test calls them.
@@ -216,12 +145,6 @@ TEST_F(Response, DoesNothingForAnyOtherAction) {
     EXPECT_FALSE(manager().inProgress());
 }
 
-TEST_F(Response, IsNotFollowedByAnotherPrompt) {
-    respond("NOTHING", "disk4s1");
-    manager().refreshVolumes();
-    EXPECT_THAT(newLines(), testing::Not(Contains("permission: alert sound")));
-}
-
 TEST_F(Response, ToAnotherRequestIsIgnored) {
     for (const auto* const identifier : {"other", "Mount", "MOUNT", ""}) {
         mac.userNotificationCenter.respond({.requestIdentifier = identifier,
@@ -229,12 +152,6 @@ TEST_F(Response, ToAnotherRequestIsIgnored) {
                                             .userInfo = {{"volume", "disk4s1"}}});
     }
     EXPECT_THAT(newLines(), ElementsAre());
-}
-
-TEST_F(Response, ForAnUnknownVolumeEndsInTheAlert) {
-    respond("DO_MOUNT", "disk9");
-    EXPECT_THAT(newLines(), Contains("alert: Volume not mounted"));
-    EXPECT_FALSE(manager().inProgress());
 }
 
 TEST_F(Response, WithoutAVolumeEndsInTheAlert) {

@@ -8,8 +8,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 class StatusIcon : public RunningProgram {
   protected:
     /// Name of the image shown for a status code.
@@ -53,22 +51,6 @@ TEST_F(StatusIcon, TreatsAnyAppearanceNamedDarkAsDark) {
         mac.statusItem.setAppearance(name);
         EXPECT_EQ(newLines().back(), "icon: brisel-status-grey-light") << name;
     }
-}
-
-TEST_F(StatusIcon, FollowsTheAppearanceAndKeepsItsColour) {
-    program.delegate()->errorIcon();
-    forgetLines();
-    mac.statusItem.setAppearance("NSAppearanceNameDarkAqua");
-    mac.statusItem.setAppearance("NSAppearanceNameAqua");
-    EXPECT_THAT(newLines(),
-                ElementsAre("icon: brisel-status-red-dark", "icon: brisel-status-red-light"));
-}
-
-TEST_F(StatusIcon, LosesTheErrorWithTheNextRebuild) {
-    program.delegate()->errorIcon();
-    EXPECT_EQ(newLines().back(), "icon: brisel-status-red-light");
-    manager().refreshVolumes();
-    EXPECT_EQ(newLines().back(), "icon: brisel-status-grey-light");
 }
 
 TEST_F(StatusIcon, IgnoresOtherKeyPaths) {

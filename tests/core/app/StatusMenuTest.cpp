@@ -1,17 +1,9 @@
 // The volume part of the status menu.
 // SPDX-License-Identifier: MIT
-#include <algorithm>
-
-#include "platform/Format.h"
 #include "tests/support/RunningProgram.h"
 
 namespace brisel::tests {
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
-using testing::StartsWith;
 
 /// Tag, title, action and alignment in one line.
 std::string look(const platform::MenuItem& item) {
@@ -32,12 +24,9 @@ class StatusMenu : public RunningProgram {
     }
     std::shared_ptr<NTFSVolume> add(const std::string& label, const std::string& uuid,
                                     bool writable) {
-        const auto volume = NTFSVolume::initWithVolume({});
-        volume->setLabel(label);
-        volume->setDeviceNode("disk-of-" + label);
+        const auto volume = addRecord("disk-of-" + label, label);
         if (!uuid.empty()) volume->setUuid(uuid);
         volume->setWritable(writable);
-        manager().volumes().push_back(volume);
         return volume;
     }
     auto addReadOnly(const std::string& label, const std::string& uuid = "") {
@@ -62,81 +51,11 @@ TEST_F(StatusMenu, HidesAllVolumesWhileAnOperationRuns) {
     EXPECT_THAT(newLines(), Not(Contains(StartsWith("permission:"))));
 }
 
-TEST_F(StatusMenu, ShowsThatThereAreNoVolumes) {
-    EXPECT_EQ(titles(), std::string("No NTFS Volumes to re-mount | --- | ") + FixedItems);
-    EXPECT_THAT(generated(), ElementsAre("101 No NTFS Volumes to re-mount", "101 ---"));
-    EXPECT_FALSE(mac.statusMenu.items()[0].target);
-    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 0);
-}
-
-TEST_F(StatusMenu, OffersAReadOnlyVolumeWithTheSeparatorAtTwo) {
-    addReadOnly("Data", SomeUUID);
-    EXPECT_EQ(titles(), "re-mount Data | Start at Login | --- | About Brisel | --- | Quit Brisel");
-    EXPECT_THAT(generated(), ElementsAre("101 re-mount Data remountVolume:", "101 ---"));
-    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 1);
-}
-
-TEST_F(StatusMenu, OffersAllThatAWritableVolumeAllows) {
-    addWritable("Data", SomeUUID);
-    manager().refreshVolumes();
-    EXPECT_THAT(
-        generated(),
-        ElementsAre("101 show Data in Finder showInFinder:", "102 unmount unmountVolume: align 1",
-                    "102 remove all extended attributes cleanupFinderInfo: align 1",
-                    "102 mount automatically saveVolumeForAutomount: align 1", "101 ---"));
-    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 2);
-}
-
 TEST_F(StatusMenu, OffersToMountAListedVolumeManually) {
     storeAutomountList({SomeUUID});
     addWritable("Data", SomeUUID);
     manager().refreshVolumes();
     EXPECT_EQ(generated().at(3), "102 mount manually unsaveVolumeForAutomount: align 1");
-}
-
-TEST_F(StatusMenu, OffersNoAutomountWithoutAUUID) {
-    addWritable("Data");
-    EXPECT_EQ(
-        titles(),
-        std::string("show Data in Finder | unmount | remove all extended attributes | --- | ") +
-            FixedItems);
-    EXPECT_EQ(generated().size(), 4U);
-}
-
-TEST_F(StatusMenu, ShowsTheVolumeFoundLastFirst) {
-    addWritable("One", SomeUUID);
-    addWritable("Two");
-    EXPECT_EQ(titles(), std::string("show Two in Finder | unmount | remove all extended attributes "
-                                    "| --- | show One in Finder | unmount | remove all extended "
-                                    "attributes | mount automatically | --- | ") +
-                            FixedItems);
-}
-
-TEST_F(StatusMenu, PutsTheSeparatorOfAReadOnlyVolumeBelowTheNextGroupsFirstItem) {
-    addWritable("One");
-    addReadOnly("Two");
-    EXPECT_EQ(titles(), std::string("re-mount Two | show One in Finder | --- | unmount | remove "
-                                    "all extended attributes | --- | ") +
-                            FixedItems);
-    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 1);
-}
-
-TEST_F(StatusMenu, TakesTheIconOfTheVolumeFoundLast) {
-    addReadOnly("One");
-    addWritable("Two");
-    EXPECT_EQ(titles(),
-              "show Two in Finder | unmount | remove all extended attributes | --- | "
-              "re-mount One | Start at Login | --- | About Brisel | --- | Quit Brisel");
-    EXPECT_EQ(static_cast<int>(program.delegate()->statusIcon()), 2);
-}
-
-TEST_F(StatusMenu, SeparatesReadOnlyVolumesAsTheyCome) {
-    addReadOnly("One");
-    addReadOnly("Two");
-    addReadOnly("Three");
-    EXPECT_EQ(titles(),
-              "re-mount Three | re-mount Two | --- | re-mount One | --- | Start at Login "
-              "| --- | About Brisel | --- | Quit Brisel");
 }
 
 TEST_F(StatusMenu, IsTheSameWhenItIsBuiltTwice) {
@@ -189,42 +108,6 @@ TEST_F(StatusMenu, ReadsTheAutomountListOncePerVolume) {
 TEST_F(StatusMenu, ShowsAMissingLabelAsNull) {
     addWritable("x")->setLabel(std::nullopt);
     EXPECT_THAT(titles(), StartsWith("show (null) in Finder | "));
-}
-
-TEST_F(StatusMenu, IsLocalisedExceptForItsFixedItems) {
-    addWritable("Data", SomeUUID);
-    mac.bundle.setLanguage("de");
-    const auto shown = mac.bundle.localizedString("show %@ in Finder");
-    EXPECT_NE(shown, "show %@ in Finder");
-    EXPECT_THAT(titles(), testing::AllOf(StartsWith(platform::stringWithFormat(shown, "Data")),
-                                         testing::EndsWith(FixedItems)));
-}
-
-class Prompting : public StatusMenu {
-  protected:
-    long promptsOfARebuild() {
-        forgetLines();
-        manager().refreshVolumes();
-        return std::ranges::count(newLines(), "permission: alert sound");
-    }
-};
-
-TEST_F(Prompting, AsksForAReadOnlyVolumeOnce) {
-    const auto volume = addReadOnly("Data", SomeUUID);
-    EXPECT_EQ(promptsOfARebuild(), 1);
-    EXPECT_TRUE(volume->notificationSent());
-    EXPECT_EQ(promptsOfARebuild(), 0);
-}
-
-TEST_F(Prompting, LeavesListedVolumesAlone) {
-    storeAutomountList({SomeUUID});
-    addReadOnly("Data", SomeUUID);
-    EXPECT_EQ(promptsOfARebuild(), 0);
-}
-
-TEST_F(Prompting, LeavesWritableVolumesAlone) {
-    addWritable("Data", SomeUUID);
-    EXPECT_EQ(promptsOfARebuild(), 0);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
-// The start of a read-write remount: its triggers, and its ends without a disk.
+// A read-write remount: its triggers, its records, and its ends without a disk.
 // SPDX-License-Identifier: MIT
 #include "mounting/Remount.h"
-
-#include <algorithm>
 
 #include "tests/support/PlatformWith.h"
 #include "tests/support/RunningProgram.h"
@@ -10,53 +8,31 @@
 namespace brisel::tests {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
-using testing::StartsWith;
-
 constexpr const char* NotMountedText =
     "text: The volume Data is not mounted currently at the specified path. Please remove and "
     "re-attach the device.";
 
-class Remount : public RunningProgram {};
-
-TEST_F(Remount, UnmountsTheVolumeWithTheBusyStateShown) {
-    attachQuietly("disk4s1", "Data");
-    manager().remountVolume(senderFor(volume()));
-    EXPECT_THAT(newLines(), ElementsAre(busyMenuLine(), "icon: brisel-status-orange-light",
-                                        "unmount: disk4s1"));
-    EXPECT_TRUE(manager().inProgress());
-}
-
-TEST_F(Remount, TakesTheFirstVolumeOfAName) {
-    attachQuietly("disk4s1", "Data");
-    attachQuietly("disk5s1", "Other");
-    manager().remountVolumeNamed("disk5s1");
-    EXPECT_THAT(newLines(), Contains("unmount: disk5s1"));
-}
+class Remount : public RunningProgram {
+  protected:
+    /// Remounts disk4s1, whose description changes before its unmount completes.
+    template <typename Change>
+    void remountWhile(const Change& change) {
+        mac.diskArbitration.hold();
+        manager().remountVolumeNamed("disk4s1");
+        auto changed = mac.diskArbitration.properties("disk4s1");
+        change(changed.description);
+        mac.diskArbitration.change("disk4s1", changed);
+        forgetLines();
+        mac.diskArbitration.release();
+        turn();
+    }
+};
 
 TEST_F(Remount, AsksForTheDiskOfTheRecordsDescription) {
     attachQuietly("disk4s1", "Data");
     changeDiskData(*volume(), [](auto& data) { data.mediaBSDName = "disk9s9"; });
     manager().remountVolumeNamed("disk4s1");
     EXPECT_THAT(newLines(), Contains("unmount: disk9s9"));
-}
-
-TEST_F(Remount, EndsInAnAlertForANameThatNoRecordHas) {
-    bool busyWhileTheAlertWasUp = false;
-    person.whenAlertShows = [&](const auto&) {
-        busyWhileTheAlertWasUp = manager().inProgress();
-        return 0;
-    };
-    manager().remountVolumeNamed("disk9s9");
-    EXPECT_THAT(newLines(),
-                ElementsAre("icon: brisel-status-red-light", "alert: Volume not mounted",
-                            "text: The volume (null) is not mounted currently at the "
-                            "specified path. Please remove and re-attach the device.",
-                            "buttons: OK"));
-    EXPECT_TRUE(busyWhileTheAlertWasUp);
-    EXPECT_FALSE(manager().inProgress());
 }
 
 TEST_F(Remount, EndsInAnAlertForNoNameAtAll) {
@@ -91,59 +67,10 @@ TEST_F(Remount, EndsInAnAlertWithoutARebuildWhereThereIsNoDisk) {
     EXPECT_THAT(devices(), ElementsAre("disk4s1"));
 }
 
-TEST_F(Remount, ReportsARefusedUnmountAndKeepsTheRecord) {
-    attachQuietly("disk4s1", "Data");
-    mac.diskArbitration.refuseUnmount("disk4s1", 0xF8DA0002);
-    choose("re-mount Data");
-    EXPECT_THAT(newLines(),
-                ElementsAre(busyMenuLine(), "icon: brisel-status-orange-light", "unmount: disk4s1",
-                            "log: disk unmounted...", "icon: brisel-status-red-light",
-                            "log: kDAReturnBusy for volume disk4s1",
-                            "alert: Volume \"Data\" not unmountable",
-                            "text: The volume is not unmountable. Probably it is still used by "
-                            "another application.",
-                            "buttons: OK",
-                            "menu: re-mount Data | Start at Login | --- | About Brisel | --- | "
-                            "Quit Brisel",
-                            "icon: brisel-status-green-light"));
-    EXPECT_FALSE(manager().inProgress());
-    EXPECT_FALSE(volume()->writable());
-}
-
-TEST_F(Remount, StopsSilentlyWhereTheVolumeIsNoLongerMountable) {
-    attachQuietly("disk4s1", "Data");
-    person.whenAlertShows = [](const auto&) { return 0; };
-    mac.diskArbitration.hold();
-    choose("re-mount Data");
-    auto changed = mac.diskArbitration.properties("disk4s1");
-    changed.description.volumeMountable = false;
-    mac.diskArbitration.change("disk4s1", changed);
-    forgetLines();
-    mac.diskArbitration.release();
-    turn();
-    EXPECT_THAT(newLines(), ElementsAre("log: disk unmounted...", "log: Disk not mountable!"));
-    EXPECT_TRUE(manager().inProgress());
-    EXPECT_THAT(devices(), ElementsAre("disk4s1"));
-}
-
 TEST_F(Remount, StopsSilentlyWhereNothingSaysThatTheVolumeIsMountable) {
     attachQuietly("disk4s1", "Data");
-    mac.diskArbitration.hold();
-    choose("re-mount Data");
-    auto changed = mac.diskArbitration.properties("disk4s1");
-    changed.description.volumeMountable.reset();
-    mac.diskArbitration.change("disk4s1", changed);
-    forgetLines();
-    mac.diskArbitration.release();
-    turn();
+    remountWhile([](auto& description) { description.volumeMountable.reset(); });
     EXPECT_THAT(newLines(), ElementsAre("log: disk unmounted...", "log: Disk not mountable!"));
-}
-
-TEST_F(Remount, IsNotRefusedWhileAnotherRuns) {
-    attachQuietly("disk4s1", "Data");
-    manager().remountVolumeNamed("disk4s1");
-    manager().remountVolumeNamed("disk4s1");
-    EXPECT_EQ(std::ranges::count(newLines(), "unmount: disk4s1"), 2);
 }
 
 TEST_F(Remount, IsStillPossibleForARecordThatIsGone) {
@@ -154,6 +81,47 @@ TEST_F(Remount, IsStillPossibleForARecordThatIsGone) {
     turn();
     EXPECT_THAT(labels(), ElementsAre("Data"));
     EXPECT_TRUE(volume()->writable());
+}
+
+TEST_F(Remount, RecordsTheDescriptionOfTheUnmountedDisk) {
+    attachQuietly("disk4s1", "Data");
+    choose("re-mount Data");
+    EXPECT_EQ(volume()->diskData().volumePath, std::nullopt);
+    EXPECT_EQ(volume()->diskData().mediaBSDName, "disk4s1");
+}
+
+TEST_F(Remount, FallsBackToTheTextOfAMissingNameWhereTheRecordIsGone) {
+    attachQuietly("disk4s1", "Data");
+    remountWhile([this](auto& description) {
+        manager().volumes().clear();
+        description.volumeName.reset();
+    });
+    EXPECT_THAT(newLines(), Contains("mkdir: /Users/user/.brisel/(null)"));
+}
+
+TEST_F(Remount, RecordsTheTextOfAMissingDeviceNode) {
+    attachQuietly("disk4s1", "Data");
+    remountWhile([](auto& description) { description.mediaBSDName.reset(); });
+    EXPECT_THAT(devices(), ElementsAre("disk4s1", "(null)"));
+}
+
+TEST_F(Remount, LeavesOtherVolumesAloneWhenItIsCancelled) {
+    attachQuietly("disk4s1", "Data");
+    attachQuietly("disk5s1", "Other");
+    person.whenPasswordIsAsked = [] { return platform::errAuthorizationCanceled; };
+    choose("re-mount Data");
+    EXPECT_THAT(devices(), ElementsAre("disk5s1"));
+}
+
+// Records that share a device are removed one by one, each time the first that is left.
+TEST_F(Remount, RemovesTwoRecordsOfTheDeviceWhenTheToolFails) {
+    attachQuietly("disk4s1", "Data");
+    addRecord("disk4s1");
+    const auto third = addRecord("disk4s1");
+    mac.authorization.setToolEnd({.exitStatus = 1, .signal = 0, .output = ""});
+    manager().remountVolumeNamed("disk4s1");
+    turn();
+    EXPECT_THAT(manager().volumes(), ElementsAre(third));
 }
 
 /// Disk Arbitration that completes each unmount and mount before the request returns.

@@ -7,8 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 struct Row {
     std::uint32_t status;
     const char* format;
@@ -51,53 +49,11 @@ class FailureReport : public RunningProgram {
         manager().setInProgress(true);
         description_ = mac.diskArbitration.properties("disk4s1").description;
     }
-    void reportUnmount(std::uint32_t status) {
-        reportUnmountFailure(manager(), platform::Dissenter{status}, description_);
-    }
     platform::DiskDescription description_;
 };
 
-constexpr const char* OtherAlone =
-    "menu: re-mount Other | Start at Login | --- | About Brisel | --- | Quit Brisel";
-
-TEST_F(FailureReport, OfAnUnmountKeepsTheRecord) {
-    reportUnmount(0xF8DA0001);
-    EXPECT_THAT(newLines(), ElementsAre("icon: brisel-status-red-light",
-                                        "log: kDAReturnError for volume disk4s1",
-                                        "alert: Volume \"Data\" not unmountable",
-                                        "text: The volume is not unmountable. Probably it is still "
-                                        "used by another application.",
-                                        "buttons: OK",
-                                        "menu: re-mount Other | re-mount Data | --- | Start at "
-                                        "Login | --- | About Brisel | --- | Quit Brisel",
-                                        "icon: brisel-status-green-light"));
-    EXPECT_THAT(devices(), ElementsAre("disk4s1", "disk5s1"));
-    EXPECT_FALSE(manager().inProgress());
-}
-
-TEST_F(FailureReport, OfARemountRemovesTheRecordBeforeTheAlert) {
-    std::size_t recordsWhileTheAlertWasUp = 0;
-    person.whenAlertShows = [&](const auto&) {
-        recordsWhileTheAlertWasUp = manager().volumes().size();
-        return 0;
-    };
-    reportRemountFailure(manager(), platform::Dissenter{0xF8DA0006}, description_);
-    EXPECT_THAT(
-        newLines(),
-        ElementsAre("icon: brisel-status-red-light", "log: kDAReturnNotFound for volume disk4s1",
-                    "alert: Volume \"Data\" not re-mountable",
-                    "text: The volume is not re-mountable in read/write mode. Probably it "
-                    "was not clean unmounted before.",
-                    "buttons: OK", OtherAlone, "icon: brisel-status-green-light"));
-    EXPECT_EQ(recordsWhileTheAlertWasUp, 1U);
-    EXPECT_THAT(devices(), ElementsAre("disk5s1"));
-    EXPECT_FALSE(manager().inProgress());
-}
-
 TEST_F(FailureReport, OfARemountRemovesTheFirstMatchOnly) {
-    const auto twin = NTFSVolume::initWithVolume({});
-    twin->setDeviceNode("disk4s1");
-    manager().volumes().push_back(twin);
+    addRecord("disk4s1");
     reportRemountFailure(manager(), std::nullopt, description_);
     EXPECT_THAT(devices(), ElementsAre("disk5s1", "disk4s1"));
 }
@@ -117,25 +73,13 @@ TEST_F(FailureReport, LogsNoStatusWithoutADissenter) {
     EXPECT_THAT(newLogLines(), ElementsAre());
 }
 
-TEST_F(FailureReport, ShowsItsAlertForASuccessToo) {
-    reportUnmount(0);
-    EXPECT_THAT(newLogLines(), ElementsAre("kDAReturnSuccess for volume disk4s1"));
-    EXPECT_EQ(person.alertsSeen.size(), 1U);
-}
-
 TEST_F(FailureReport, ShowsAMissingNameAsNull) {
     description_.volumeName.reset();
     description_.mediaBSDName.reset();
-    reportUnmount(0xF8DA000D);
+    reportUnmountFailure(manager(), platform::Dissenter{0xF8DA000D}, description_);
     EXPECT_THAT(newLogLines(), ElementsAre("no error specified by DADissenter for volume (null)"));
     ASSERT_EQ(person.alertsSeen.size(), 1U);
     EXPECT_EQ(person.alertsSeen[0].messageText, "Volume \"(null)\" not unmountable");
-}
-
-TEST_F(FailureReport, NamesTheDiskInTheLogAndTheVolumeInTheAlert) {
-    reportUnmount(0xF8DA0003);
-    EXPECT_THAT(newLogLines(), ElementsAre("kDAReturnBadArgument for volume disk4s1"));
-    EXPECT_EQ(person.alertsSeen.at(0).messageText, "Volume \"Data\" not unmountable");
 }
 
 }  // namespace

@@ -5,10 +5,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-using testing::EndsWith;
-using testing::StartsWith;
-
 class Launch : public PrivilegedTask {
   protected:
     static void expectUntouched(const Task& made) {
@@ -21,8 +17,7 @@ class Launch : public PrivilegedTask {
 
 TEST_F(Launch, AsksForTheRightThenStartsTheToolThenFrees) {
     const auto made = task("/usr/bin/true");
-    EXPECT_EQ(made->launch(), 0);
-    made->waitUntilExit();
+    run(made);
     EXPECT_THAT(tools.calls, ElementsAre("create", "copyRights", "execute", "free"));
     EXPECT_EQ(tools.createFlags, 0U);
     EXPECT_EQ(tools.rightName, "system.privilege.admin");
@@ -35,8 +30,7 @@ TEST_F(Launch, AsksForTheRightThenStartsTheToolThenFrees) {
 
 TEST_F(Launch, DescribesThePathByItsPointerAndItsLength) {
     const auto made = task("/usr/bin/../bin/true");
-    EXPECT_EQ(made->launch(), 0);
-    made->waitUntilExit();
+    run(made);
     const char* const pointer = made->launchPath().c_str();
     EXPECT_EQ(tools.toolPointer, pointer);
     EXPECT_EQ(tools.valueLength, std::strlen("/usr/bin/../bin/true"));
@@ -91,8 +85,7 @@ TEST_F(Launch, IgnoresAWorkingDirectoryThatIsNotThere) {
     const auto before = std::filesystem::current_path();
     const auto made = task("/usr/bin/true");
     made->setCurrentDirectoryPath("/no/such/folder");
-    EXPECT_EQ(made->launch(), 0);
-    made->waitUntilExit();
+    run(made);
     EXPECT_EQ(tools.workingDirectory, before);
     EXPECT_EQ(std::filesystem::current_path(), before);
 }
@@ -106,37 +99,31 @@ TEST_F(Launch, RestoresTheWorkingDirectoryAfterAFailure) {
     EXPECT_EQ(std::filesystem::current_path(), before);
 }
 
-TEST_F(Launch, ReturnsTheStatusOfAFailedStartAndChangesNothing) {
-    const auto made = task("/usr/bin/true");
-    tools.executeStatus = -60031;
-    EXPECT_EQ(made->launch(), -60031);
-    expectUntouched(made);
-    EXPECT_THAT(tools.calls, ElementsAre("create", "copyRights", "execute", "free"));
-    EXPECT_THAT(newLogLines(), ElementsAre());
-}
-
-TEST_F(Launch, ReturnsTheStatusOfAFailedAuthorization) {
-    const auto made = task("/usr/bin/true");
-    tools.createStatus = -60008;
-    EXPECT_EQ(made->launch(), -60008);
-    expectUntouched(made);
-    EXPECT_THAT(tools.calls, ElementsAre("create"));
-    EXPECT_THAT(newLogLines(), ElementsAre());
-}
-
-TEST_F(Launch, ReturnsTheStatusOfARefusalAndFreesNothing) {
-    const auto made = task("/usr/bin/true");
-    tools.copyStatus = -60006;
-    EXPECT_EQ(made->launch(), -60006);
-    expectUntouched(made);
-    EXPECT_THAT(tools.calls, ElementsAre("create", "copyRights"));
+TEST_F(Launch, ReturnsTheStatusOfEachFailedStepAndChangesNothing) {
+    struct Step {
+        platform::OSStatus RealTools::*status;
+        std::vector<std::string> calls;
+    };
+    // A refusal leaves the reference unfreed.
+    const Step steps[] = {{&RealTools::createStatus, {"create"}},
+                          {&RealTools::copyStatus, {"create", "copyRights"}},
+                          {&RealTools::executeStatus, {"create", "copyRights", "execute", "free"}}};
+    for (const auto& [status, calls] : steps) {
+        SCOPED_TRACE(calls.back());
+        const auto made = task("/usr/bin/true");
+        tools.calls.clear();
+        tools.*status = -60006;
+        EXPECT_EQ(made->launch(), -60006);
+        expectUntouched(made);
+        EXPECT_EQ(tools.calls, calls);
+        tools.*status = 0;
+    }
     EXPECT_THAT(newLogLines(), ElementsAre());
 }
 
 TEST_F(Launch, LeavesTheReferenceUnfreedOnRefusalAlone) {
     const auto made = KJPrivilegedTask::initWithLaunchPath(mac.platform, "/usr/bin/true");
-    EXPECT_EQ(made->launch(), 0);
-    made->waitUntilExit();
+    run(made);
     EXPECT_EQ(mac.authorization.unfreed(), 0U);
     person.whenPasswordIsAsked = [] { return platform::errAuthorizationCanceled; };
     EXPECT_EQ(made->launch(), -60006);

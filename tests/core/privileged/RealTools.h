@@ -116,9 +116,12 @@ class PrivilegedTask : public RunningProgram {
     Task waitingTool(int status = 0) const {
         return shell("read line; exit " + std::to_string(status));
     }
-    static std::string outputOf(const Task& task) {
-        EXPECT_EQ(task->launch(), 0);
+    static void run(const Task& task) {
+        ASSERT_EQ(task->launch(), 0);
         task->waitUntilExit();
+    }
+    static std::string outputOf(const Task& task) {
+        run(task);
         return task->outputFileHandle()->readDataToEndOfFile();
     }
     /// Waits until the child has exited, without reaping it.

@@ -5,11 +5,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::EndsWith;
-using testing::StartsWith;
-
 TEST_F(WatchedTask, PostsItsNotificationBeforeItCallsItsHandlerOnce) {
     const auto made = shell("exit 1");
     watch(made);
@@ -138,8 +133,7 @@ class WaitedForTask : public WatchedTask {};
 TEST_F(WaitedForTask, EndsSilently) {
     const auto made = shell("exit 1");
     watch(made);
-    ASSERT_EQ(made->launch(), 0);
-    made->waitUntilExit();
+    run(made);
     passTime(1000);
     EXPECT_THAT(heard, ElementsAre());
     EXPECT_FALSE(made->isRunning());
@@ -149,16 +143,14 @@ TEST_F(WaitedForTask, EndsSilently) {
 
 TEST_F(WaitedForTask, EndsWithZeroWhereASignalKilledIt) {
     const auto made = shell("kill -9 $$");
-    ASSERT_EQ(made->launch(), 0);
-    made->waitUntilExit();
+    run(made);
     EXPECT_EQ(made->terminationStatus(), 0);
 }
 
 TEST_F(WaitedForTask, EndsWithEachExitCode) {
     for (const int code : {0, 1, 127, 255}) {
         const auto made = shell("exit " + std::to_string(code));
-        ASSERT_EQ(made->launch(), 0);
-        made->waitUntilExit();
+        run(made);
         EXPECT_EQ(made->terminationStatus(), code);
     }
 }
@@ -171,8 +163,7 @@ TEST_F(WaitedForTask, ReturnsAtOnceWhereNothingRuns) {
     EXPECT_THAT(lines[0],
                 AllOf(StartsWith("Task <KJPrivilegedTask: 0x"), EndsWith("> is not running")));
     EXPECT_EQ(made->terminationStatus(), 0);
-    ASSERT_EQ(made->launch(), 0);
-    made->waitUntilExit();
+    run(made);
     made->waitUntilExit();
     EXPECT_THAT(newLogLines(), ElementsAre(lines[0]));
     EXPECT_EQ(made->terminationStatus(), 2);
@@ -181,8 +172,7 @@ TEST_F(WaitedForTask, ReturnsAtOnceWhereNothingRuns) {
 TEST_F(WaitedForTask, IsDestroyedWithItsLastOwner) {
     auto made = shell("exit 0");
     const std::weak_ptr<KJPrivilegedTask> observer = made;
-    ASSERT_EQ(made->launch(), 0);
-    made->waitUntilExit();
+    run(made);
     made.reset();
     EXPECT_TRUE(observer.expired());
 }

@@ -5,9 +5,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-using testing::EndsWith;
-
 class TaskFactory : public WatchedTask {
   protected:
     static void expectEnded(const Task& made, int status, const std::string& output) {
@@ -61,7 +58,7 @@ TEST_F(TaskFactory, ReturnsATaskAlsoWhereTheLaunchFailed) {
     }
     const auto lines = newLogLines();
     EXPECT_EQ(lines.size(), 4U);
-    EXPECT_THAT(lines, testing::Each(EndsWith("> is not running")));
+    EXPECT_THAT(lines, Each(EndsWith("> is not running")));
 }
 
 }  // namespace

@@ -5,13 +5,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::Not;
-using testing::StartsWith;
-
 class NewTask : public PrivilegedTask {};
 
 TEST_F(NewTask, HasOnlyTheCurrentDirectory) {

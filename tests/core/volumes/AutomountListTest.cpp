@@ -7,8 +7,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 class AutomountList : public RunningProgram {
   protected:
     void add(const std::string& uuid) {
@@ -19,12 +17,6 @@ class AutomountList : public RunningProgram {
         const auto list = VolumeListHelper::obtain(mac.userDefaults);
         return list ? *list : std::vector<std::string>{"no list"};
     }
-    static std::vector<std::string> numbered(int count) {
-        std::vector<std::string> list;
-        for (int number = 1; number <= count; ++number)
-            list.push_back(std::to_string(number));
-        return list;
-    }
 };
 
 TEST_F(AutomountList, IsAbsentUntilTheFirstChange) {
@@ -32,52 +24,10 @@ TEST_F(AutomountList, IsAbsentUntilTheFirstChange) {
     EXPECT_FALSE(VolumeListHelper::contains(mac.userDefaults, SomeUUID));
 }
 
-TEST_F(AutomountList, KeepsTheOrderOfAdding) {
-    add("B");
-    add("A");
-    EXPECT_THAT(entries(), ElementsAre("B", "A"));
-}
-
-TEST_F(AutomountList, LogsItsCountThenIsWrittenToDisk) {
-    add("A");
-    EXPECT_THAT(newLines(),
-                ElementsAre("log: List count: 1", "default: volumeList = (A)", "synchronize"));
-}
-
 TEST_F(AutomountList, HoldsTheSameEntryTwice) {
     add("A");
     add("A");
     EXPECT_THAT(entries(), ElementsAre("A", "A"));
-}
-
-TEST_F(AutomountList, DropsItsOldestEntryForThe129th) {
-    for (const auto& uuid : numbered(129))
-        add(uuid);
-    EXPECT_EQ(entries().size(), 128U);
-    EXPECT_EQ(entries().front(), "2");
-    EXPECT_EQ(entries().back(), "129");
-    EXPECT_EQ(newLogLines().back(), "List count: 128");
-}
-
-TEST_F(AutomountList, DropsNothingForThe128th) {
-    storeAutomountList(numbered(127));
-    add("128");
-    EXPECT_EQ(entries().front(), "1");
-    EXPECT_EQ(newLogLines().back(), "List count: 128");
-}
-
-TEST_F(AutomountList, DropsOneEntryOnlyFromALongerList) {
-    storeAutomountList(numbered(200));
-    add("new");
-    EXPECT_EQ(entries().size(), 200U);
-    EXPECT_EQ(entries().front(), "2");
-    EXPECT_EQ(newLogLines().back(), "List count: 200");
-}
-
-TEST_F(AutomountList, LosesEveryEqualEntryInOneRemoval) {
-    storeAutomountList({"A", "B", "A"});
-    remove("A");
-    EXPECT_THAT(entries(), ElementsAre("B"));
 }
 
 TEST_F(AutomountList, IsWrittenBackUnchangedWhereNothingWasRemoved) {

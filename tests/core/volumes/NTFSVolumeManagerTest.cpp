@@ -8,8 +8,6 @@
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
-
 /// Records the calls of the manager's initialiser.
 class NotingServices final : public platform::DiskArbitration,
                              public platform::UserNotificationCenter {
@@ -71,33 +69,10 @@ TEST_F(Manager, StartsIdleWithAnEmptyList) {
     EXPECT_FALSE(made.inProgress());
 }
 
-TEST_F(Manager, IsNotifiedOfDisksAttachedBeforeTheStart) {
-    attachNTFS("disk5s1", "Late name, early disk");
-    attachNTFS("disk4s1", "Data");
-    start();
-    attachNTFS("disk3s1", "Third");
-    turn();
-    EXPECT_THAT(devices(), ElementsAre("disk5s1", "disk4s1", "disk3s1"));
-}
-
 TEST_F(Manager, IsNotNotifiedBeforeTheMainLoopTurns) {
     attachNTFS("disk4s1", "Data");
     program.start();
     EXPECT_TRUE(manager().volumes().empty());
-}
-
-TEST_F(Manager, IsNotNotifiedOfADiskWithoutAMountableVolume) {
-    start();
-    auto disk = ntfsDisk("Whole");
-    disk.description.volumeMountable.reset();
-    mac.diskArbitration.attach("disk4", disk);
-    disk.description.volumeMountable = false;
-    mac.diskArbitration.attach("disk5", disk);
-    forgetLines();
-    mac.diskArbitration.detach("disk4");
-    mac.diskArbitration.detach("disk5");
-    turn();
-    EXPECT_THAT(newLines(), ElementsAre());
 }
 
 TEST_F(Manager, DoesNothingForADelegateThatIsGone) {
@@ -110,7 +85,7 @@ TEST_F(Manager, DoesNothingForADelegateThatIsGone) {
     orphan.remountVolumeNamed("disk4s1");
     turn();
     EXPECT_FALSE(orphan.inProgress());
-    EXPECT_THAT(newLines(), testing::Not(testing::Contains(testing::StartsWith("icon:"))));
+    EXPECT_THAT(newLines(), Not(Contains(StartsWith("icon:"))));
 }
 
 TEST_F(Manager, DoesNotKeepItsDelegateAlive) {

@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 
+#include "tests/support/Matchers.h"
 #include "tests/support/SimulatedProgram.h"
 
 #import "tests/macos/frameworks/Prefix.h"

@@ -8,7 +8,6 @@ namespace brisel::tests::macos {
 namespace {
 
 using platform::AlertContent;
-using testing::ElementsAre;
 
 class AlertAdapter : public AdapterTest {
   protected:
@@ -16,11 +15,6 @@ class AlertAdapter : public AdapterTest {
 
     platform::macos::Alert adapter;
 };
-
-TEST_F(AlertAdapter, ShowsItsTextsAndButtons) {
-    adapter.runModal({.messageText = "Größe 💾?", .informativeText = "%@", .buttons = {"a", "b"}});
-    EXPECT_THAT(lines(), ElementsAre("alert: Größe 💾?", "text: %@", "buttons: a | b"));
-}
 
 TEST_F(AlertAdapter, NumbersItsButtonsFromTheFirstOn) {
     const AlertContent content{

@@ -22,34 +22,12 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-
 class ApplicationAdapter : public AdapterTest {
   protected:
-    ApplicationAdapter() {
-        [StageApplication sharedApplication];
-        // Skips the lines of GNUstep's own launch.
-        static const bool launched = ([NSApp finishLaunching], true);
-        linesBefore = launched ? lines().size() : 0;
-    }
+    ApplicationAdapter() { [StageApplication sharedApplication]; }
 
     platform::macos::Application adapter;
-    std::size_t linesBefore = 0;
-
-    [[nodiscard]] std::vector<std::string> newLines() const {
-        return {lines().begin() + static_cast<std::ptrdiff_t>(linesBefore), lines().end()};
-    }
 };
-
-TEST_F(ApplicationAdapter, ComesToTheFront) {
-    adapter.activateIgnoringOtherApps();
-    EXPECT_THAT(newLines(), ElementsAre("activate"));
-}
-
-TEST_F(ApplicationAdapter, ShowsTheAboutPanel) {
-    adapter.orderFrontStandardAboutPanel();
-    EXPECT_THAT(newLines(), ElementsAre("about"));
-}
 
 TEST_F(ApplicationAdapter, LetsNoExceptionOut) {
     orders().nextCallRaises = true;

@@ -82,18 +82,6 @@ TEST_F(AuthorizationAdapter, ReturnsTheStatusOfAFailedStart) {
     EXPECT_EQ(started({"/bin/tool"}, 1).status, -60011);
 }
 
-TEST_F(AuthorizationAdapter, OffersTheCallThatIsThere) {
-    EXPECT_TRUE(adapter.offersExecuteWithPrivileges());
-}
-
-TEST_F(AuthorizationAdapter, StartsAToolWithItsArguments) {
-    const auto tool = started({"/bin/tool", "one", "two words", ""});
-    EXPECT_EQ(tool.status, 0);
-    EXPECT_EQ(lines().back(), "run: /bin/tool one \"two words\" ");
-    EXPECT_EQ(nextExitStatus(), 0);
-    std::fclose(tool.communicationsPipe);
-}
-
 TEST_F(AuthorizationAdapter, GivesAStreamWithoutAnOwner) {
     mac.authorization.setToolEnd({.exitStatus = 7, .output = "said"});
     const auto tool = started({"/bin/tool"});

@@ -10,9 +10,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 class BareProcess : public AdapterTest {
   protected:
     BareProcess() {

@@ -6,28 +6,8 @@ namespace brisel::tests::macos {
 namespace {
 
 using platform::Disk;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class DiskReports : public DiskArbitrationAdapter {};
-
-TEST_F(DiskReports, ReportDisksThatArePresentAppearAndDisappear) {
-    attach("disk4s1");
-    start();
-    deliver();
-    attach("disk5s1");
-    mac.diskArbitration.detach("disk4s1");
-    deliver();
-    EXPECT_THAT(reports, ElementsAre("+ disk4s1", "+ disk5s1", "- disk4s1"));
-}
-
-TEST_F(DiskReports, CarryTheDescriptionOfTheirMoment) {
-    start();
-    attach("disk4s1");
-    mac.diskArbitration.change("disk4s1", ntfsDisk("Later"));
-    deliver();
-    EXPECT_EQ(lastDescription.volumeName, "Data");
-}
 
 TEST_F(DiskReports, ReadTheMatchOnceThereIsASession) {
     ASSERT_EQ(kDADiskDescriptionMatchVolumeMountable, nullptr);

@@ -15,26 +15,11 @@ namespace {
 
 using platform::DAReturn;
 using platform::FileURL;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class DiskRequests : public DiskArbitrationAdapter {
   protected:
     DiskRequests() { start(); }
 };
-
-TEST_F(DiskRequests, CompleteOnTheMainLoopWithoutADissenter) {
-    attach("disk4s1");
-    unmount("disk4s1");
-    EXPECT_THAT(completed, IsEmpty());
-    deliver();
-    EXPECT_THAT(completed, ElementsAre("disk4s1"));
-    EXPECT_FALSE(description("disk4s1").volumePath);
-    mount("disk4s1");
-    deliver();
-    EXPECT_EQ(description("disk4s1").volumePath, FileURL("/Volumes/Data"));
-    EXPECT_THAT(statuses, ElementsAre(std::nullopt, std::nullopt));
-}
 
 TEST_F(DiskRequests, DoNotCompleteWhileAnAlertIsOpen) {
     attachUnmounted("disk4s1");
@@ -80,12 +65,6 @@ TEST_F(DiskRequests, MountWithAllArgumentsInOrder) {
     EXPECT_THAT(lines(), ElementsAre("mount: disk4s1 rw auto nobrowse Größe=💾 noowners  noatime"));
 }
 
-TEST_F(DiskRequests, MountWithoutArguments) {
-    attachUnmounted("disk4s1");
-    mount("disk4s1");
-    EXPECT_THAT(lines(), ElementsAre("mount: disk4s1"));
-}
-
 TEST_F(DiskRequests, WithoutADiskAreRefusedAtOnce) {
     attach("disk4s1");
     mac.faults.failCall(mac.faults.calls() + 1);
@@ -103,17 +82,6 @@ TEST_F(DiskRequests, ReleaseTheirCompletionsAfterTheCall) {
     EXPECT_GT(held.use_count(), 1);
     deliver();
     EXPECT_EQ(held.use_count(), 1);
-}
-
-TEST_F(DiskRequests, MayCompleteMuchLater) {
-    attach("disk4s1");
-    mac.diskArbitration.hold();
-    unmount("disk4s1");
-    deliver();
-    EXPECT_THAT(completed, IsEmpty());
-    mac.diskArbitration.release();
-    deliver();
-    EXPECT_THAT(completed, ElementsAre("disk4s1"));
 }
 
 bool isReadOnly(const std::string& path) {

@@ -12,10 +12,7 @@ namespace brisel::tests::macos {
 namespace {
 
 namespace fs = std::filesystem;
-using platform::Error;
 using platform::FileURL;
-using testing::ElementsAre;
-using Call = platform::simulated::FileManager::Call;
 
 class FileManagerAdapter : public AdapterTest {
   protected:
@@ -27,62 +24,6 @@ TEST_F(FileManagerAdapter, KnowsTheStandardFolders) {
     EXPECT_EQ(adapter.homeDirectory(), "/Users/größe");
     EXPECT_EQ(adapter.volumesDirectory(), "/Volumes");
     EXPECT_EQ(adapter.currentDirectoryPath(), "/");
-}
-
-TEST_F(FileManagerAdapter, TellsWhatIsWritable) {
-    auto disk = ntfsDisk("Data");
-    mac.diskArbitration.attach("disk4s1", disk);
-    EXPECT_FALSE(adapter.isWritableFileAtPath("/Volumes/Data"));
-    disk.writable = true;
-    mac.diskArbitration.change("disk4s1", disk);
-    EXPECT_TRUE(adapter.isWritableFileAtPath("/Volumes/Data"));
-    EXPECT_FALSE(adapter.isWritableFileAtPath(std::nullopt));
-}
-
-TEST_F(FileManagerAdapter, CountsWhatIsInAFolder) {
-    mac.fileSystem.makeFile("/Users/user/.brisel/.hidden");
-    mac.fileSystem.makeFile("/Users/user/.brisel/shown");
-    const auto listing = adapter.contentsOfDirectory(FileURL("/Users/user/.brisel"));
-    EXPECT_EQ(listing.entryCount, 2U);
-    EXPECT_FALSE(listing.error);
-}
-
-TEST_F(FileManagerAdapter, DistinguishesAnEmptyFolderFromAMissingOne) {
-    mac.fileSystem.makeFolder("/Users/user/empty");
-    const auto empty = adapter.contentsOfDirectory(FileURL("/Users/user/empty"));
-    EXPECT_EQ(empty.entryCount, 0U);
-    EXPECT_FALSE(empty.error);
-    const auto none = adapter.contentsOfDirectory(FileURL("/Users/user/none"));
-    EXPECT_EQ(none.entryCount, 0U);
-    EXPECT_TRUE(none.error);
-}
-
-TEST_F(FileManagerAdapter, MakesAFolderWithThoseAboveIt) {
-    EXPECT_FALSE(adapter.createDirectory("/Users/user/.brisel/Größe 💾"));
-    EXPECT_TRUE(mac.fileSystem.hasFolder("/Users/user/.brisel/Größe 💾"));
-    EXPECT_FALSE(adapter.createDirectory("/Users/user/.brisel/Größe 💾"));
-}
-
-TEST_F(FileManagerAdapter, ConvertsErrors) {
-    const Error error{.localizedDescription = "It cannot be.",
-                      .localizedFailureReason = "It must not be."};
-    for (const auto call : {Call::Create, Call::List, Call::Delete})
-        mac.fileManager.fail(call, error);
-    for (const auto& seen : {adapter.createDirectory("/a"), adapter.removeItem("/a"),
-                             adapter.contentsOfDirectory(FileURL("/a")).error}) {
-        ASSERT_TRUE(seen);
-        EXPECT_EQ(seen->localizedDescription, "It cannot be.");
-        EXPECT_EQ(seen->localizedFailureReason, "It must not be.");
-    }
-}
-
-TEST_F(FileManagerAdapter, HasNoReasonIfTheSystemGivesNone) {
-    mac.fileManager.fail(Call::Create,
-                         {.localizedDescription = "No.", .localizedFailureReason = {}});
-    const auto error = adapter.createDirectory("/a");
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->localizedDescription, "No.");
-    EXPECT_EQ(error->localizedFailureReason, std::nullopt);
 }
 
 TEST_F(FileManagerAdapter, TurnsAnExceptionIntoAnError) {

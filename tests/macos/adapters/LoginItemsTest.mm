@@ -7,8 +7,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-
 class LoginItemsAdapter : public AdapterTest {
   protected:
     platform::macos::LoginItems adapter;
@@ -19,20 +17,6 @@ class LoginItemsAdapter : public AdapterTest {
         orders().appServiceAnswer = answer;
     }
 };
-
-TEST_F(LoginItemsAdapter, RegistersAndRemovesAHelper) {
-    EXPECT_TRUE(adapter.setEnabled("org.brisel.Helper", true));
-    EXPECT_TRUE(adapter.setEnabled("org.brisel.Helper", false));
-    EXPECT_THAT(lines(), ElementsAre("login-item: org.brisel.Helper on",
-                                     "login-item: org.brisel.Helper off"));
-}
-
-TEST_F(LoginItemsAdapter, ReportsARefusal) {
-    mac.loginItems.setAnswer(platform::simulated::LoginItems::Answer::Refuse);
-    EXPECT_FALSE(adapter.setEnabled("org.brisel.Helper", true));
-    EXPECT_FALSE(adapter.setEnabled("org.brisel.Helper", false));
-    EXPECT_THAT(logLines(), ElementsAre());
-}
 
 TEST_F(LoginItemsAdapter, AsksTheServiceOfNewerSystemsAfterARefusal) {
     upgrade(true);

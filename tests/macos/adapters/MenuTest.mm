@@ -12,7 +12,6 @@ namespace {
 
 using platform::MenuItem;
 using platform::macos::stdString;
-using testing::ElementsAre;
 
 class MenuAdapter : public AdapterTest {
   protected:
@@ -61,37 +60,6 @@ TEST_F(MenuAdapter, HoldsTheNibsMenu) {
     EXPECT_EQ(platform::macos::insertedItem(check), nullptr);
 }
 
-TEST_F(MenuAdapter, LocalisesTheNibsItems) {
-    mac.bundle.setLanguage("de");
-    [menu insertItem:[NSMenuItem separatorItem] atIndex:1];
-    adapter->connect(menu, check, mac.bundle);
-    EXPECT_THAT(titles(), ElementsAre("Bei der Anmeldung starten", "---", "Quit"));
-}
-
-TEST_F(MenuAdapter, PutsItemsWhereTheyBelong) {
-    adapter->insertItem(item("b"), 0);
-    adapter->insertItem(item("a"), 0);
-    adapter->insertItem(item("end"), 4);
-    adapter->insertItem(item("c"), 2);
-    EXPECT_THAT(titles(), ElementsAre("a", "b", "c", "Start at Login", "Quit", "end"));
-}
-
-TEST_F(MenuAdapter, SetsAllPropertiesOfItems) {
-    auto made = item("re-mount Größe 💾", 105);
-    made.alignment = 1;
-    made.checked = true;
-    made.representedObject = std::make_shared<platform::RepresentedObject>();
-    adapter->insertItem(made, 0);
-    const auto seen = itemsOf(menu).front();
-    EXPECT_EQ(seen.tag, 105);
-    EXPECT_EQ(seen.title, "re-mount Größe 💾");
-    EXPECT_EQ(seen.action, "remountVolume:");
-    EXPECT_EQ(seen.alignment, 1);
-    EXPECT_TRUE(seen.checked);
-    EXPECT_EQ(seen.representedObject, made.representedObject);
-    EXPECT_FALSE(seen.separator);
-}
-
 TEST_F(MenuAdapter, AlignsTheWholeTitle) {
     auto made = item("Größe 💾 end");
     made.alignment = 1;
@@ -117,65 +85,12 @@ TEST_F(MenuAdapter, LeavesUnsetPropertiesUnset) {
     EXPECT_FALSE([seen isEnabled]);
 }
 
-TEST_F(MenuAdapter, HasSeparatorsWithTags) {
-    MenuItem line;
-    line.separator = true;
-    line.tag = 101;
-    adapter->insertItem(line, 1);
-    EXPECT_THAT(titles(), ElementsAre("Start at Login", "---", "Quit"));
-    EXPECT_EQ([[menu itemAtIndex:1] tag], 101);
-}
-
-TEST_F(MenuAdapter, RemovesByTagsAndKeepsTheOthersInOrder) {
-    for (const int tag : {3, 2, 1, 2, 3, 1})
-        adapter->insertItem(item(std::to_string(tag), tag), 0);
-    const std::array tags{1, 3};
-    adapter->removeItemsWithTags(tags);
-    EXPECT_THAT(titles(), ElementsAre("2", "2", "Start at Login", "Quit"));
-    adapter->removeItemsWithTags({});
-    EXPECT_EQ(titles().size(), 4U);
-}
-
 TEST_F(MenuAdapter, LogsAnInvalidIndexAndContinues) {
     adapter->insertItem(item("too far"), 3);
     EXPECT_THAT(titles(), ElementsAre("Start at Login", "Quit"));
-    EXPECT_THAT(logLines(), ElementsAre(testing::StartsWith("The system refused to insert")));
+    EXPECT_THAT(logLines(), ElementsAre(StartsWith("The system refused to insert")));
     adapter->insertItem(item("fine"), 2);
     EXPECT_THAT(titles(), ElementsAre("Start at Login", "Quit", "fine"));
-}
-
-TEST_F(MenuAdapter, ChecksTheItemWithThatActionAlone) {
-    adapter->setChecked("terminate:", true);
-    EXPECT_EQ([check state], NSControlStateValueOff);
-    adapter->setChecked("toggleStartAtLogin:", true);
-    EXPECT_EQ([check state], NSControlStateValueOn);
-    EXPECT_EQ([[menu itemAtIndex:1] state], NSControlStateValueOff);
-    adapter->setChecked("toggleStartAtLogin:", false);
-    EXPECT_EQ([check state], NSControlStateValueOff);
-}
-
-TEST_F(MenuAdapter, CarriesOutTheItemThatIsChosen) {
-    adapter->insertItem(item("first"), 0);
-    adapter->insertItem(item("second"), 1);
-    auto other = item("other");
-    other.action = "unmountVolume:";
-    adapter->insertItem(other, 2);
-    for (const NSInteger index : {2, 0, 1})
-        choose(index);
-    EXPECT_THAT(performed, ElementsAre("other", "first", "second"));
-}
-
-TEST_F(MenuAdapter, PassesTheItemToItsTarget) {
-    auto made = item("a", 105);
-    made.representedObject = std::make_shared<platform::RepresentedObject>();
-    std::optional<MenuItem> sender;
-    made.target = [&](const MenuItem& chosen) { sender = chosen; };
-    adapter->insertItem(made, 0);
-    choose(0);
-    ASSERT_TRUE(sender);
-    EXPECT_EQ(sender->tag, 105);
-    EXPECT_EQ(sender->title, "a");
-    EXPECT_EQ(sender->representedObject, made.representedObject);
 }
 
 TEST_F(MenuAdapter, MayBeRebuiltByTheItemThatIsChosen) {

@@ -25,8 +25,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-
 class NotificationCenterAdapter : public AdapterTest {
   protected:
     /// The one that Brisel runs on.

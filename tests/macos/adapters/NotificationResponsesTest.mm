@@ -11,8 +11,6 @@ namespace brisel::tests::macos {
 namespace {
 
 using platform::NotificationResponse;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class Responses : public Notifications {
   protected:

@@ -7,36 +7,10 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::Optional;
-using testing::Pair;
-
 class ScriptRunnerAdapter : public AdapterTest {
   protected:
     platform::macos::ScriptRunner adapter;
 };
-
-TEST_F(ScriptRunnerAdapter, RunsTheSourceAsItStands) {
-    EXPECT_FALSE(adapter.execute("do shell script \"xattr -c 'Größe 💾' %@\"").error);
-    EXPECT_THAT(lines(), ElementsAre("script: do shell script \"xattr -c 'Größe 💾' %@\""));
-}
-
-TEST_F(ScriptRunnerAdapter, HandsOnTheErrorInItsOrder) {
-    mac.scriptRunner.failNext({{"NSAppleScriptErrorNumber", "1"},
-                               {"NSAppleScriptErrorMessage", "It is größer."},
-                               {"NSAppleScriptErrorBriefMessage", "%s"}});
-    EXPECT_THAT(adapter.execute("x").error,
-                Optional(ElementsAre(Pair("NSAppleScriptErrorNumber", "1"),
-                                     Pair("NSAppleScriptErrorMessage", "It is größer."),
-                                     Pair("NSAppleScriptErrorBriefMessage", "%s"))));
-}
-
-TEST_F(ScriptRunnerAdapter, DistinguishesAnEmptyErrorFromSuccess) {
-    mac.scriptRunner.failNext({});
-    EXPECT_THAT(adapter.execute("x").error, Optional(IsEmpty()));
-    EXPECT_FALSE(adapter.execute("x").error);
-}
 
 TEST_F(ScriptRunnerAdapter, TreatsAnExceptionAsAFailure) {
     orders().nextCallRaises = true;

@@ -9,7 +9,6 @@ namespace brisel::tests::macos {
 namespace {
 
 using platform::macos::stdString;
-using testing::ElementsAre;
 
 class StatusItemAdapter : public AdapterTest {
   protected:

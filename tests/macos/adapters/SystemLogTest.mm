@@ -7,8 +7,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-
 class SystemLogAdapter : public AdapterTest {
   protected:
     platform::macos::SystemLog adapter;

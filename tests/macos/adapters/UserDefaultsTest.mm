@@ -7,9 +7,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::Pointee;
 using List = std::vector<std::string>;
 
 class UserDefaultsAdapter : public AdapterTest {
@@ -32,17 +29,6 @@ TEST_F(UserDefaultsAdapter, AnswersWithWhatIsStoredElseWithWhatIsRegistered) {
     EXPECT_TRUE(adapter.boolForKey("No"));
 }
 
-TEST_F(UserDefaultsAdapter, StoresNothingThatIsOnlyRegistered) {
-    adapter.registerDefaults({{"Yes", true}});
-    EXPECT_THAT(mac.userDefaults.stored(), IsEmpty());
-}
-
-TEST_F(UserDefaultsAdapter, KeepsAListInItsOrder) {
-    setList({"b", "a", "", "Größe 💾", "b"});
-    EXPECT_THAT(adapter.stringArrayForKey("List"),
-                Pointee(ElementsAre("b", "a", "", "Größe 💾", "b")));
-}
-
 TEST_F(UserDefaultsAdapter, DistinguishesAnEmptyListFromAnAbsentOne) {
     EXPECT_EQ(adapter.stringArrayForKey("List"), nullptr);
     setList({});
@@ -54,13 +40,6 @@ TEST_F(UserDefaultsAdapter, TakesAValueOfAnotherTypeAsAbsent) {
     mac.userDefaults.store("Flag", std::string("text"));
     EXPECT_EQ(adapter.stringArrayForKey("List"), nullptr);
     EXPECT_FALSE(adapter.boolForKey("Flag"));
-}
-
-TEST_F(UserDefaultsAdapter, WritesToDiskOnSynchronize) {
-    adapter.setBool("Yes", true);
-    const auto before = lines().size();
-    adapter.synchronize();
-    EXPECT_GT(lines().size(), before);
 }
 
 }  // namespace

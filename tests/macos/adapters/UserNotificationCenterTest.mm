@@ -5,19 +5,6 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-TEST_F(Notifications, AreHandedOverWithAllTheySay) {
-    add();
-    EXPECT_EQ(answers, 1);
-    EXPECT_FALSE(error);
-    EXPECT_THAT(lines(),
-                ElementsAre("notify: id=disk4s1 category=REMOUNT volume=disk4s1 sound=Hero "
-                            "delay=0.2 title=\"Größe 💾 detected\" body=\"%@?\""));
-    EXPECT_EQ(mac.userNotificationCenter.lastPrompt()->userInfo, request.userInfo);
-}
-
 TEST_F(Notifications, AreAnsweredOnAnotherThread) {
     add();
     EXPECT_NE(thread, std::thread::id());
@@ -30,16 +17,6 @@ TEST_F(Notifications, MayBeAcceptedLongAfterTheyWereHandedOver) {
     EXPECT_EQ(answers, 0);
     deliverAnswers();
     EXPECT_EQ(answers, 1);
-    EXPECT_FALSE(error);
-}
-
-TEST_F(Notifications, ThatAreNotAllowedEndInAnError) {
-    mac.userNotificationCenter.refuseNextRequest();
-    add();
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->localizedDescription,
-              platform::simulated::Faults::error().localizedDescription);
-    add();
     EXPECT_FALSE(error);
 }
 
@@ -103,24 +80,6 @@ TEST_F(Permission, MayComeLongAfterTheRequest) {
     deliverAnswers();
     EXPECT_EQ(answers, 1);
     EXPECT_TRUE(granted);
-}
-
-TEST_F(Permission, MayBeDenied) {
-    mac.userNotificationCenter.setPermission(
-        platform::simulated::UserNotificationCenter::Permission::Deny);
-    ask(platform::AuthorizationOptionAlert);
-    EXPECT_THAT(lines(), ElementsAre("permission: alert"));
-    EXPECT_EQ(answers, 1);
-    EXPECT_FALSE(granted);
-    EXPECT_FALSE(error);
-}
-
-TEST_F(Permission, MayEndInAnError) {
-    mac.userNotificationCenter.setPermission(
-        platform::simulated::UserNotificationCenter::Permission::Error);
-    ask(0);
-    EXPECT_FALSE(granted);
-    EXPECT_TRUE(error);
 }
 
 TEST_F(Permission, IsNotGivenByAnException) {

@@ -7,22 +7,10 @@
 namespace brisel::tests::macos {
 namespace {
 
-using testing::ElementsAre;
-
 class WorkspaceAdapter : public AdapterTest {
   protected:
     platform::macos::Workspace adapter;
 };
-
-TEST_F(WorkspaceAdapter, OpensAFolder) {
-    adapter.openURL(platform::FileURL("/Volumes/Größe 100%"));
-    EXPECT_THAT(lines(), ElementsAre("open: file:///Volumes/Gr%C3%B6%C3%9Fe%20100%25/"));
-}
-
-TEST_F(WorkspaceAdapter, PassesNilOn) {
-    adapter.openURL(std::nullopt);
-    EXPECT_THAT(lines(), ElementsAre("open: (null)"));
-}
 
 TEST_F(WorkspaceAdapter, SurvivesAnExceptionForNone) {
     orders().nextCallRaises = true;

@@ -2,15 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/common/Menu.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <array>
+
+#include "tests/support/Matchers.h"
 
 namespace brisel::tests {
 namespace {
-
-using testing::ElementsAre;
 
 class Menu : public testing::Test {
   protected:

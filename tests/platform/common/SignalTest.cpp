@@ -2,19 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/common/Signal.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <string>
 
 #include "platform/common/NotificationCenter.h"
+#include "tests/support/Matchers.h"
 
 namespace brisel::tests {
 namespace {
 
 using platform::Subscription;
 using platform::common::NotificationCenter;
-using testing::ElementsAre;
 
 class Signal : public testing::Test {
   protected:

@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/common/StringsTable.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "platform/common/Bundle.h"
+#include "tests/support/Matchers.h"
 
 namespace brisel::tests {
 namespace {
@@ -15,8 +13,6 @@ namespace {
 using platform::common::Bundle;
 using platform::common::embeddedTables;
 using platform::common::StringsTable;
-using testing::ElementsAre;
-using testing::Pair;
 
 StringsTable parsed(std::string_view text) {
     const auto table = StringsTable::parse(text);

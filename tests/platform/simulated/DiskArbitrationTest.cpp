@@ -1,33 +1,35 @@
-// Simulated disks: reports and mount points.
+// Simulated disks: reports, mount points and requests.
 // SPDX-License-Identifier: MIT
-#include "tests/platform/simulated/Disks.h"
+#include "tests/support/Matchers.h"
+#include "tests/support/SimulatedProgram.h"
 
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
+class Disks : public testing::Test, public SimulatedProgram {
+  protected:
+    platform::simulated::DiskArbitration& disks = mac.diskArbitration;
+    std::vector<std::string> heard;
+    std::vector<platform::DiskDescription> reports;
+    platform::Subscription appeared;
+    platform::Subscription disappeared;
 
-TEST_F(Disks, AreReportedInTheOrderOfAttaching) {
-    attachNTFS("disk9", "A");
-    attachNTFS("disk1", "B");
-    attachNTFS("disk5", "C");
-    listen();
-    attachNTFS("disk0", "D");
-    EXPECT_THAT(heard, ElementsAre());
-    turn();
-    EXPECT_THAT(heard, ElementsAre("+disk9", "+disk1", "+disk5", "+disk0"));
-}
-
-TEST_F(Disks, AreReportedWithTheDescriptionOfTheMoment) {
-    listen();
-    attachNTFS("disk4", "Before");
-    disks.change("disk4", ntfsDisk("After"));
-    disks.report("disk4");
-    turn();
-    ASSERT_EQ(reports.size(), 2U);
-    EXPECT_EQ(reports[0].volumeName, "Before");
-    EXPECT_EQ(reports[1].volumeName, "After");
-}
+    void listen() {
+        disks.createSession();
+        appeared =
+            disks.registerDiskAppearedCallback([this](const auto& disk, const auto& description) {
+                heard.push_back("+" + disk.bsdName);
+                reports.push_back(description);
+            });
+        disappeared = disks.registerDiskDisappearedCallback(
+            [this](const auto& disk, const auto& description) {
+                heard.push_back("-" + disk.bsdName);
+                reports.push_back(description);
+            });
+        disks.scheduleWithRunLoop();
+    }
+    platform::Disk disk(const std::string& name) { return disks.diskFromBSDName(name).value(); }
+};
 
 TEST_F(Disks, DisappearWithTheirLastDescription) {
     listen();
@@ -40,27 +42,6 @@ TEST_F(Disks, DisappearWithTheirLastDescription) {
     EXPECT_FALSE(disks.isAttached("disk4"));
     EXPECT_TRUE(disks.wasEverAttached("disk4"));
     EXPECT_FALSE(disks.wasEverAttached("disk5"));
-}
-
-TEST_F(Disks, LeaveTheirFolderEmpty) {
-    attachNTFS("disk4", "Data");
-    mac.fileSystem.makeFile("/Volumes/Data/file");
-    disks.detach("disk4");
-    EXPECT_TRUE(mac.fileSystem.hasFolder("/Volumes/Data"));
-    EXPECT_EQ(mac.fileSystem.entryCount("/Volumes/Data"), 0U);
-}
-
-TEST_F(Disks, AreNotReportedUnlessMountable) {
-    listen();
-    auto properties = ntfsDisk("Data");
-    properties.description.volumeMountable = false;
-    disks.attach("disk4", properties);
-    disks.report("disk4");
-    disks.detach("disk4");
-    properties.description.volumeMountable.reset();
-    disks.attach("disk4", properties);
-    turn();
-    EXPECT_THAT(heard, ElementsAre());
 }
 
 TEST_F(Disks, AreNotReportedToEndedSubscriptions) {
@@ -97,26 +78,31 @@ TEST_F(Disks, AreFoundByTheirCurrentMountPoint) {
     EXPECT_FALSE(disks.diskFromVolumePath(path));
 }
 
-TEST_F(Disks, OnOnePathResolveToTheLaterMount) {
-    const platform::FileURL path("/Volumes/Data");
-    attachNTFS("disk4", "Data");
-    attachNTFS("disk1", "Data");
-    EXPECT_EQ(disks.diskFromVolumePath(path)->bsdName, "disk1");
-    disks.mountBehind("disk4", "/Volumes/Data");
-    EXPECT_EQ(disks.diskFromVolumePath(path)->bsdName, "disk4");
-    EXPECT_TRUE(disks.isWritable("/Volumes/Data"));
-    disks.detach("disk4");
-    EXPECT_EQ(disks.diskFromVolumePath(path)->bsdName, "disk1");
-    EXPECT_FALSE(disks.isWritable("/Volumes/Data"));
-}
-
 TEST_F(Disks, CountAsNewlyMountedOnlyIfTheirPathChanges) {
     attachNTFS("disk4", "Data");
     attachNTFS("disk5", "Data");
-    auto changed = properties("disk4");
+    auto changed = disks.properties("disk4");
     changed.writable = true;
     disks.change("disk4", changed);
     EXPECT_EQ(disks.diskFromVolumePath(platform::FileURL("/Volumes/Data"))->bsdName, "disk5");
+}
+
+TEST_F(Disks, CompleteRequestsMadeBeforeTheHold) {
+    attachNTFS("disk4", "Data");
+    bool completed = false;
+    disks.unmount(disk("disk4"), [&](const auto&, const auto&) { completed = true; });
+    disks.hold();
+    turn();
+    EXPECT_TRUE(completed);
+}
+
+TEST_F(Disks, AreMountedBehindTheServiceOnlyWhereAttached) {
+    attachNTFS("disk4", "Data");
+    disks.mountBehind("disk77", "/somewhere");
+    EXPECT_FALSE(mac.fileSystem.hasFolder("/somewhere"));
+    disks.detach("disk4");
+    disks.mountBehind("disk4", "/somewhere");
+    EXPECT_FALSE(mac.fileSystem.hasFolder("/somewhere"));
 }
 
 }  // namespace

@@ -1,14 +1,11 @@
 // Simulated folders, and the file manager on top of them.
 // SPDX-License-Identifier: MIT
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
+#include "tests/support/Matchers.h"
 #include "tests/support/SimulatedProgram.h"
 
 namespace brisel::tests {
 namespace {
 
-using testing::ElementsAre;
 using Call = platform::simulated::FileManager::Call;
 
 class Folders : public testing::Test {
@@ -21,24 +18,6 @@ TEST_F(Folders, AreMadeWithThoseAboveThem) {
     EXPECT_TRUE(files.hasFolder("/a"));
     EXPECT_TRUE(files.hasFolder("/a/b/c/"));
     EXPECT_FALSE(files.hasFolder("/a/b/c/d"));
-}
-
-TEST_F(Folders, AreListedInAlphabeticalOrder) {
-    files.makeFolder("/h/b");
-    files.makeFolder("/h/a/x");
-    files.makeFolder("/hx");
-    EXPECT_THAT(files.foldersFrom("/h"), ElementsAre("/h", "/h/a", "/h/a/x", "/h/b"));
-    EXPECT_THAT(files.foldersFrom("/none"), ElementsAre());
-}
-
-TEST_F(Folders, CountWhatIsDirectlyInThem) {
-    files.makeFile("/h/one");
-    files.makeFile("/h/.hidden");
-    files.makeFile("/h/inner/deep");
-    files.makeFile("/h2/other");
-    EXPECT_EQ(files.entryCount("/h"), 3U);
-    EXPECT_EQ(files.entryCount("/h/inner"), 1U);
-    EXPECT_EQ(files.entryCount("/none"), 0U);
 }
 
 TEST_F(Folders, AreRemovedWithTheirContents) {
@@ -85,35 +64,6 @@ TEST_F(Files, RecordEachRequestRegardlessOfItsOutcome) {
     EXPECT_TRUE(manager.removeItem("/a"));
     EXPECT_THAT(newLines(),
                 ElementsAre("mkdir: /a", "mkdir: /a", "mkdir: /a", "delete: /a", "delete: /a"));
-}
-
-TEST_F(Files, FailForAFolderThatIsNotThere) {
-    const auto listing = manager.contentsOfDirectory(platform::FileURL("/none"));
-    ASSERT_TRUE(listing.error);
-    EXPECT_EQ(listing.error->localizedDescription, "No such file or directory");
-    EXPECT_EQ(listing.error->localizedFailureReason, std::nullopt);
-    const auto removal = manager.removeItem("/none");
-    ASSERT_TRUE(removal);
-    EXPECT_EQ(removal->localizedDescription, "No such file or directory");
-    EXPECT_EQ(removal->localizedFailureReason, std::nullopt);
-}
-
-TEST_F(Files, FailAsScriptedInOrder) {
-    mac.fileSystem.makeFolder("/a");
-    manager.fail(Call::List, error("one"));
-    manager.fail(Call::List, error("two"));
-    const platform::FileURL folder("/a");
-    EXPECT_EQ(manager.contentsOfDirectory(folder).error->localizedDescription, "one");
-    EXPECT_EQ(manager.contentsOfDirectory(folder).error->localizedDescription, "two");
-    EXPECT_FALSE(manager.contentsOfDirectory(folder).error);
-}
-
-TEST_F(Files, FailOnlyTheScriptedCall) {
-    manager.fail(Call::Delete, error("busy"));
-    EXPECT_FALSE(manager.createDirectory("/a"));
-    EXPECT_FALSE(manager.contentsOfDirectory(platform::FileURL("/a")).error);
-    EXPECT_EQ(manager.removeItem("/a")->localizedDescription, "busy");
-    EXPECT_TRUE(mac.fileSystem.hasFolder("/a"));
 }
 
 TEST_F(Files, AreWritableIfTheirDiskIs) {

@@ -2,17 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/simulated/MainLoop.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "platform/simulated/Faults.h"
+#include "tests/support/Matchers.h"
 
 namespace brisel::tests {
 namespace {
 
 using platform::Subscription;
 using std::chrono::milliseconds;
-using testing::ElementsAre;
 
 class MainLoop : public testing::Test {
   protected:

@@ -15,7 +15,6 @@ NS_ASSUME_NONNULL_BEGIN
 - (instancetype)initWithTitle:(NSString*)title
                        action:(nullable SEL)action
                 keyEquivalent:(NSString*)character NS_DESIGNATED_INITIALIZER;
-- (instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property(nullable, assign) NSMenu* menu;
 @property(copy) NSString* title;
 @property(nullable, copy) NSAttributedString* attributedTitle;
@@ -35,7 +34,6 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSMenu : NSObject <NSCopying, NSCoding>
 - (instancetype)initWithTitle:(NSString*)title NS_DESIGNATED_INITIALIZER;
-- (instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property(copy) NSString* title;
 // These raise exceptions for an index outside, for another menu's item and for nil.
 - (void)insertItem:(NSMenuItem*)item atIndex:(NSInteger)index;
@@ -56,7 +54,6 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
 };
 
 typedef NS_OPTIONS(NSUInteger, NSApplicationActivationOptions) {
-    NSApplicationActivateAllWindows = 1 << 0,
     NSApplicationActivateIgnoringOtherApps API_DEPRECATED("has no effect in macOS 14",
                                                           macos(10.6, 14.0)) = 1 << 1,
 };
@@ -72,11 +69,7 @@ typedef NS_OPTIONS(NSUInteger, NSApplicationActivationOptions) {
 @protocol NSApplicationDelegate;
 
 typedef NSInteger NSModalResponse;
-static const NSModalResponse NSModalResponseStop = -1000;
 static const NSModalResponse NSModalResponseAbort = -1001;
-static const NSModalResponse NSModalResponseContinue = -1002;
-static const NSModalResponse NSModalResponseOK = 1;
-static const NSModalResponse NSModalResponseCancel = 0;
 
 extern NSRunLoopMode const NSModalPanelRunLoopMode;
 extern NSRunLoopMode const NSEventTrackingRunLoopMode;
@@ -110,14 +103,10 @@ CF_EXTERN_C_END
 
 // Alerts.
 typedef NS_ENUM(NSUInteger, NSAlertStyle) {
-    NSAlertStyleWarning = 0,
-    NSAlertStyleInformational = 1,
     NSAlertStyleCritical = 2,
 };
 
 static const NSModalResponse NSAlertFirstButtonReturn = 1000;
-static const NSModalResponse NSAlertSecondButtonReturn = 1001;
-static const NSModalResponse NSAlertThirdButtonReturn = 1002;
 
 @interface NSAlert : NSObject
 @property(copy) NSString* messageText;
@@ -135,7 +124,6 @@ static const NSModalResponse NSAlertThirdButtonReturn = 1002;
 @class NSStatusItem;
 
 static const CGFloat NSVariableStatusItemLength = -1.0;
-static const CGFloat NSSquareStatusItemLength = -2.0;
 
 @interface NSStatusBar : NSObject
 @property(class, readonly, strong) NSStatusBar* systemStatusBar;

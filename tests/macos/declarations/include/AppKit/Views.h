@@ -30,21 +30,12 @@ static const NSControlStateValue NSControlStateValueMixed API_AVAILABLE(macos(10
 static const NSControlStateValue NSControlStateValueOff API_AVAILABLE(macos(10.13)) = 0;
 static const NSControlStateValue NSControlStateValueOn API_AVAILABLE(macos(10.13)) = 1;
 
-static const NSControlStateValue NSMixedState
-    API_DEPRECATED_WITH_REPLACEMENT("NSControlStateValueMixed", macos(10.0, 10.14)) = -1;
-static const NSControlStateValue NSOffState
-    API_DEPRECATED_WITH_REPLACEMENT("NSControlStateValueOff", macos(10.0, 10.14)) = 0;
-static const NSControlStateValue NSOnState API_DEPRECATED_WITH_REPLACEMENT("NSControlStateValueOn",
-                                                                           macos(10.0, 10.14)) = 1;
-
 // Images.
 typedef NSString* NSImageName;
 
 @interface NSImage : NSObject <NSCopying, NSSecureCoding>
 // The object is shared by all who ask for the name.
 + (nullable NSImage*)imageNamed:(NSImageName)name;
-- (instancetype)initWithSize:(NSSize)size NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property NSSize size;
 - (nullable NSImageName)name;
 @end
@@ -52,22 +43,17 @@ typedef NSString* NSImageName;
 // What can answer to events.
 @interface NSResponder : NSObject <NSCoding>
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @end
 
 // What draws itself in a window.
 @class NSWindow;
 
 @interface NSView : NSResponder <NSAppearanceCustomization, NSAccessibility>
-- (instancetype)initWithFrame:(NSRect)frame NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property(nullable, readonly, assign) NSWindow* window;
 @end
 
 // Views that do something.
 @interface NSControl : NSView
-- (instancetype)initWithFrame:(NSRect)frame NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
 @property NSInteger tag;
@@ -95,7 +81,6 @@ typedef NSString* NSImageName;
 
 // The numbers of center and right change places on Intel.
 typedef NS_ENUM(NSInteger, NSTextAlignment) {
-    NSTextAlignmentLeft = 0,
 #if __arm64__
     NSTextAlignmentCenter = 1,
     NSTextAlignmentRight = 2,
@@ -103,8 +88,6 @@ typedef NS_ENUM(NSInteger, NSTextAlignment) {
     NSTextAlignmentRight = 1,
     NSTextAlignmentCenter = 2,
 #endif
-    NSTextAlignmentJustified = 3,
-    NSTextAlignmentNatural = 4,
 };
 
 // Attributes of text on the screen.

@@ -26,10 +26,6 @@ typedef struct {
 @property(readonly) NSUInteger count;
 - (nullable ObjectType)objectForKey:(KeyType)key;
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
-- (instancetype)initWithObjects:(const ObjectType _Nonnull[_Nullable])objects
-                        forKeys:(const KeyType<NSCopying> _Nonnull[_Nullable])keys
-                          count:(NSUInteger)count NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @end
 
 @interface NSDictionary <KeyType, ObjectType>(NSExtendedDictionary)
@@ -44,8 +40,6 @@ typedef struct {
 @interface NSMutableDictionary<KeyType, ObjectType> : NSDictionary <KeyType, ObjectType>
 - (void)setObject:(ObjectType)object forKey:(KeyType<NSCopying>)key;
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
-- (instancetype)initWithCapacity:(NSUInteger)capacity NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @end
 
 @interface NSMutableDictionary <KeyType, ObjectType>(NSExtendedMutableDictionary)
@@ -59,9 +53,6 @@ typedef struct {
     : NSObject <NSCopying, NSMutableCopying, NSSecureCoding, NSFastEnumeration>
 @property(readonly) NSUInteger count;
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
-- (instancetype)initWithObjects:(const ObjectType _Nonnull[_Nullable])objects
-                          count:(NSUInteger)count NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @end
 
 @interface NSArray <ObjectType>(NSArrayCreation)
@@ -74,8 +65,6 @@ typedef struct {
 @interface NSMutableArray<ObjectType> : NSArray <ObjectType>
 - (void)addObject:(ObjectType)object;
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
-- (instancetype)initWithCapacity:(NSUInteger)capacity NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @end
 
 @interface NSMutableArray <ObjectType>(NSExtendedMutableArray)
@@ -104,20 +93,10 @@ typedef NSString* NSErrorDomain;
 typedef NSString* NSErrorUserInfoKey;
 
 NS_ENUM(NSInteger){
-    NSFileNoSuchFileError = 4,
-    NSFileReadNoPermissionError = 257,
-    NSFileReadNoSuchFileError = 260,
-    NSFileWriteUnknownError = 512,
     NSFileWriteNoPermissionError = 513,
-    NSFileWriteFileExistsError = 516,
-    NSFileWriteVolumeReadOnlyError = 642,
 };
 
 @interface NSError : NSObject <NSCopying, NSSecureCoding>
-- (instancetype)initWithDomain:(NSErrorDomain)domain
-                          code:(NSInteger)code
-                      userInfo:(nullable NSDictionary<NSErrorUserInfoKey, id>*)userInfo
-    NS_DESIGNATED_INITIALIZER;
 @property(readonly, copy) NSDictionary<NSErrorUserInfoKey, id>* userInfo;
 @property(readonly, copy) NSString* localizedDescription;
 @property(nullable, readonly, copy) NSString* localizedFailureReason;
@@ -126,9 +105,6 @@ NS_ENUM(NSInteger){
 // Exceptions.
 
 @interface NSException : NSObject <NSCopying, NSSecureCoding>
-- (instancetype)initWithName:(NSExceptionName)name
-                      reason:(nullable NSString*)reason
-                    userInfo:(nullable NSDictionary*)userInfo NS_DESIGNATED_INITIALIZER;
 @property(readonly, copy) NSExceptionName name;
 @property(nullable, readonly, copy) NSString* reason;
 @property(nullable, readonly, copy) NSDictionary* userInfo;
@@ -144,9 +120,6 @@ NS_ENUM(NSInteger){
     : NSObject <NSCopying, NSMutableCopying, NSSecureCoding, NSFastEnumeration>
 @property(readonly) NSUInteger count;
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
-- (instancetype)initWithObjects:(const ObjectType _Nonnull[_Nullable])objects
-                          count:(NSUInteger)count NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @end
 
 @interface NSSet <ObjectType>(NSExtendedSet)
@@ -156,8 +129,6 @@ NS_ENUM(NSInteger){
 @interface NSMutableSet<ObjectType> : NSSet <ObjectType>
 - (void)addObject:(ObjectType)object;
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
-- (instancetype)initWithCapacity:(NSUInteger)capacity NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -14,9 +14,6 @@ NS_ASSUME_NONNULL_BEGIN
 
 // Main thread only.
 @interface NSAppleScript : NSObject <NSCopying>
-- (nullable instancetype)initWithContentsOfURL:(NSURL*)url
-                                         error:(NSDictionary<NSString*, id>* _Nullable* _Nullable)
-                                                   errorInfo NS_DESIGNATED_INITIALIZER;
 - (nullable instancetype)initWithSource:(NSString*)source NS_DESIGNATED_INITIALIZER;
 @property(nullable, readonly, copy) NSString* source;
 // Nil on failure, although the type excludes it.
@@ -29,9 +26,6 @@ typedef NSString* NSKeyValueChangeKey;
 
 typedef NS_OPTIONS(NSUInteger, NSKeyValueObservingOptions) {
     NSKeyValueObservingOptionNew = 0x01,
-    NSKeyValueObservingOptionOld = 0x02,
-    NSKeyValueObservingOptionInitial = 0x04,
-    NSKeyValueObservingOptionPrior = 0x08,
 };
 
 @interface NSObject (NSKeyValueObserving)
@@ -60,10 +54,6 @@ typedef NSString* NSNotificationName;
 @property(readonly, copy) NSNotificationName name;
 @property(nullable, readonly, retain) id object;
 @property(nullable, readonly, copy) NSDictionary* userInfo;
-- (instancetype)initWithName:(NSNotificationName)name
-                      object:(nullable id)object
-                    userInfo:(nullable NSDictionary*)userInfo NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @end
 
 @interface NSNotificationCenter : NSObject

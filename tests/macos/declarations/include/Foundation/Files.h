@@ -11,16 +11,12 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSBundle : NSObject
 @property(class, readonly, strong) NSBundle* mainBundle;
-- (nullable instancetype)initWithPath:(NSString*)path NS_DESIGNATED_INITIALIZER;
 @property(readonly, copy) NSString* bundlePath;
 @property(nullable, readonly, copy) NSString* bundleIdentifier;
 - (NSString*)localizedStringForKey:(NSString*)key
                              value:(nullable NSString*)value
                              table:(nullable NSString*)tableName NS_FORMAT_ARGUMENT(1);
 @end
-
-#define NSLocalizedString(key, comment) \
-    [NSBundle.mainBundle localizedStringForKey:(key) value:@"" table:nil]
 
 // The file system.
 @class NSURL;
@@ -30,8 +26,6 @@ typedef NSString* NSFileAttributeKey;
 typedef NSString* NSURLResourceKey;
 
 typedef NS_OPTIONS(NSUInteger, NSDirectoryEnumerationOptions) {
-    NSDirectoryEnumerationSkipsSubdirectoryDescendants = 1UL << 0,
-    NSDirectoryEnumerationSkipsPackageDescendants = 1UL << 1,
     NSDirectoryEnumerationSkipsHiddenFiles = 1UL << 2,
 };
 
@@ -75,12 +69,7 @@ NSString* NSHomeDirectory(void);
 CF_EXTERN_C_END
 
 // Addresses.
-typedef NSString* NSURLResourceKey;
-
 @interface NSURL : NSObject <NSSecureCoding, NSCopying>
-- (instancetype)initFileURLWithPath:(NSString*)path
-                        isDirectory:(BOOL)isDirectory NS_DESIGNATED_INITIALIZER;
-- (instancetype)initFileURLWithPath:(NSString*)path NS_DESIGNATED_INITIALIZER;
 + (NSURL*)fileURLWithPath:(NSString*)path isDirectory:(BOOL)isDirectory;
 + (NSURL*)fileURLWithPath:(NSString*)path;
 - (nullable instancetype)initWithString:(NSString*)text;
@@ -93,7 +82,6 @@ typedef NSString* NSURLResourceKey;
 @interface NSUserDefaults : NSObject
 @property(class, readonly, strong) NSUserDefaults* standardUserDefaults;
 - (instancetype)init;
-- (nullable instancetype)initWithSuiteName:(nullable NSString*)name NS_DESIGNATED_INITIALIZER;
 - (nullable id)objectForKey:(NSString*)key;
 - (void)setObject:(nullable id)value forKey:(NSString*)key;
 // Nil where any element is no string.

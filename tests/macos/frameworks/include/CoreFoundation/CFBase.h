@@ -52,7 +52,6 @@
 #define CF_ASSUME_NONNULL_BEGIN _Pragma("clang assume_nonnull begin")
 #define CF_ASSUME_NONNULL_END _Pragma("clang assume_nonnull end")
 #define CF_RETURNS_RETAINED __attribute__((cf_returns_retained))
-#define CF_RETURNS_NOT_RETAINED __attribute__((cf_returns_not_retained))
 
 // Which Objective-C class an object may be cast to and from.
 #define CF_BRIDGED_TYPE(type) __attribute__((objc_bridge(type)))
@@ -62,19 +61,11 @@ CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
 typedef unsigned long CFTypeID;
-typedef unsigned long CFOptionFlags;
-typedef unsigned long CFHashCode;
 typedef long CFIndex;
-
-typedef struct {
-    CFIndex location;
-    CFIndex length;
-} CFRange;
 
 typedef const CF_BRIDGED_TYPE(id) void* CFTypeRef;
 typedef const struct CF_BRIDGED_TYPE(NSString) __CFString* CFStringRef;
 typedef const struct CF_BRIDGED_TYPE(id) __CFAllocator* CFAllocatorRef;
-typedef CFTypeRef CFPropertyListRef;
 
 // Null: the default allocator.
 extern const CFAllocatorRef _Null_unspecified kCFAllocatorDefault;

@@ -9,8 +9,6 @@
 CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
-typedef const struct CF_BRIDGED_TYPE(NSArray) __CFArray* CFArrayRef;
-
 // Dictionaries.
 typedef const struct CF_BRIDGED_TYPE(NSDictionary) __CFDictionary* CFDictionaryRef;
 
@@ -19,19 +17,6 @@ const void* _Nullable CFDictionaryGetValue(CFDictionaryRef dictionary, const voi
 
 // Truth values and numbers.
 typedef const struct CF_BRIDGED_TYPE(NSNumber) __CFBoolean* CFBooleanRef;
-typedef const struct CF_BRIDGED_TYPE(NSNumber) __CFNumber* CFNumberRef;
-
-typedef CF_ENUM(CFIndex, CFNumberType) {
-    kCFNumberSInt8Type = 1,
-    kCFNumberSInt16Type = 2,
-    kCFNumberSInt32Type = 3,
-    kCFNumberSInt64Type = 4,
-    kCFNumberFloat32Type = 5,
-    kCFNumberFloat64Type = 6,
-    kCFNumberIntType = 9,
-    kCFNumberLongLongType = 11,
-    kCFNumberDoubleType = 13,
-};
 
 CFTypeID CFBooleanGetTypeID(void);
 Boolean CFBooleanGetValue(CFBooleanRef value);
@@ -51,29 +36,11 @@ CF_EXTERN_C_END
 CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
-typedef UInt32 CFStringEncoding;
-
-typedef CF_ENUM(CFStringEncoding, CFStringBuiltInEncodings) {
-    kCFStringEncodingMacRoman = 0,
-    kCFStringEncodingISOLatin1 = 0x0201,
-    kCFStringEncodingASCII = 0x0600,
-    kCFStringEncodingUnicode = 0x0100,
-    kCFStringEncodingUTF8 = 0x08000100,
-};
-
 CFTypeID CFStringGetTypeID(void);
 
 // Run loops and their modes.
-typedef double CFTimeInterval;
 typedef CFStringRef CFRunLoopMode;
 typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFRunLoop* CFRunLoopRef;
-
-typedef CF_ENUM(SInt32, CFRunLoopRunResult) {
-    kCFRunLoopRunFinished = 1,
-    kCFRunLoopRunStopped = 2,
-    kCFRunLoopRunTimedOut = 3,
-    kCFRunLoopRunHandledSource = 4,
-};
 
 extern const CFRunLoopMode kCFRunLoopDefaultMode;
 extern const CFRunLoopMode kCFRunLoopCommonModes;
@@ -83,11 +50,6 @@ CFRunLoopRef _Null_unspecified CFRunLoopGetMain(void);
 
 // Addresses.
 typedef const struct CF_BRIDGED_TYPE(NSURL) __CFURL* CFURLRef;
-
-typedef CF_ENUM(CFIndex, CFURLPathStyle) {
-    kCFURLPOSIXPathStyle = 0,
-    kCFURLWindowsPathStyle = 2,
-};
 
 CFTypeID CFURLGetTypeID(void);
 // False where the path and its terminating zero do not fit in the buffer.

@@ -49,17 +49,9 @@ typedef mach_error_t DAReturn;
 #define err_local_diskarbitration err_sub(0x368)
 
 enum {
-    kDAReturnSuccess = 0,
     kDAReturnError = err_local | err_local_diskarbitration | 0x01,
     kDAReturnBusy = err_local | err_local_diskarbitration | 0x02,
-    kDAReturnBadArgument = err_local | err_local_diskarbitration | 0x03,
-    kDAReturnExclusiveAccess = err_local | err_local_diskarbitration | 0x04,
-    kDAReturnNoResources = err_local | err_local_diskarbitration | 0x05,
-    kDAReturnNotFound = err_local | err_local_diskarbitration | 0x06,
-    kDAReturnNotMounted = err_local | err_local_diskarbitration | 0x07,
-    kDAReturnNotPermitted = err_local | err_local_diskarbitration | 0x08,
     kDAReturnNotPrivileged = err_local | err_local_diskarbitration | 0x09,
-    kDAReturnNotReady = err_local | err_local_diskarbitration | 0x0A,
     kDAReturnNotWritable = err_local | err_local_diskarbitration | 0x0B,
     kDAReturnUnsupported = err_local | err_local_diskarbitration | 0x0C,
 };
@@ -70,8 +62,6 @@ DAReturn DADissenterGetStatus(DADissenterRef dissenter);
 // Null until the first session is created; null as a match means every disk.
 extern CFDictionaryRef _Null_unspecified kDADiskDescriptionMatchVolumeMountable;
 
-enum { kDADiskOptionDefault = 0x00000000 };
-
 enum {
     kDADiskMountOptionDefault = 0x00000000,
     kDADiskMountOptionWhole = 0x00000001,
@@ -81,13 +71,10 @@ typedef UInt32 DADiskMountOptions;
 enum {
     kDADiskUnmountOptionDefault = 0x00000000,
     kDADiskUnmountOptionForce = 0x00080000,
-    kDADiskUnmountOptionWhole = 0x00000001,
 };
 typedef UInt32 DADiskUnmountOptions;
 
 typedef void (*DADiskAppearedCallback)(DADiskRef disk, void* _Nullable context);
-typedef void (*DADiskDescriptionChangedCallback)(DADiskRef disk, CFArrayRef keys,
-                                                 void* _Nullable context);
 typedef void (*DADiskDisappearedCallback)(DADiskRef disk, void* _Nullable context);
 typedef void (*DADiskMountCallback)(DADiskRef disk, DADissenterRef _Nullable dissenter,
                                     void* _Nullable context);

@@ -8,36 +8,18 @@
 CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
-#define kAuthorizationEmptyEnvironment NULL
-
 CF_ENUM(OSStatus){
-    errAuthorizationSuccess = 0,
-    errAuthorizationInvalidSet = -60001,
-    errAuthorizationInvalidRef = -60002,
-    errAuthorizationInvalidTag = -60003,
-    errAuthorizationInvalidPointer = -60004,
-    errAuthorizationDenied = -60005,
-    errAuthorizationCanceled = -60006,
-    errAuthorizationInteractionNotAllowed = -60007,
-    errAuthorizationInternal = -60008,
-    errAuthorizationExternalizeNotAllowed = -60009,
-    errAuthorizationInternalizeNotAllowed = -60010,
-    errAuthorizationInvalidFlags = -60011,
-    errAuthorizationToolExecuteFailure = -60031,
-    errAuthorizationToolEnvironmentError = -60032,
-    errAuthorizationBadAddress = -60033,
+    errAuthorizationSuccess = 0,           errAuthorizationDenied = -60005,
+    errAuthorizationCanceled = -60006,     errAuthorizationInternal = -60008,
+    errAuthorizationInvalidFlags = -60011, errAuthorizationToolExecuteFailure = -60031,
 };
 
 typedef CF_OPTIONS(UInt32, AuthorizationFlags) {
     kAuthorizationFlagDefaults = 0,
     kAuthorizationFlagInteractionAllowed = 1 << 0,
     kAuthorizationFlagExtendRights = 1 << 1,
-    kAuthorizationFlagPartialRights = 1 << 2,
-    kAuthorizationFlagDestroyRights = 1 << 3,
     kAuthorizationFlagPreAuthorize = 1 << 4,
 };
-
-enum { kAuthorizationFlagCanNotPreAuthorize = 1 << 0 };
 
 typedef const struct AuthorizationOpaqueRef* AuthorizationRef;
 typedef const char* AuthorizationString;

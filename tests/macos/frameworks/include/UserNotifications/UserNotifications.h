@@ -10,13 +10,6 @@ NS_ASSUME_NONNULL_BEGIN
 // Errors of User Notifications.
 extern NSString* const UNErrorDomain API_AVAILABLE(macos(10.14));
 
-typedef NS_ENUM(NSInteger, UNErrorCode) {
-    UNErrorCodeNotificationsNotAllowed = 1,
-    UNErrorCodeAttachmentInvalidURL = 100,
-    UNErrorCodeNotificationInvalidNoDate = 1400,
-    UNErrorCodeNotificationInvalidNoContent = 1401,
-} API_AVAILABLE(macos(10.14));
-
 // The sound of a notification.
 typedef NSString* UNNotificationSoundName;
 
@@ -95,8 +88,6 @@ API_AVAILABLE(macos(10.14))
 
 // A button of a notification.
 typedef NS_OPTIONS(NSUInteger, UNNotificationActionOptions) {
-    UNNotificationActionOptionAuthenticationRequired = (1 << 0),
-    UNNotificationActionOptionDestructive = (1 << 1),
     UNNotificationActionOptionForeground = (1 << 2),
 } API_AVAILABLE(macos(10.14));
 
@@ -117,8 +108,6 @@ API_AVAILABLE(macos(10.14))
 
 // A kind of notification, with its buttons.
 typedef NS_OPTIONS(NSUInteger, UNNotificationCategoryOptions) {
-    UNNotificationCategoryOptionCustomDismissAction = (1 << 0),
-    UNNotificationCategoryOptionHiddenPreviewsShowTitle = (1 << 2),
     UNNotificationCategoryOptionHiddenPreviewsShowSubtitle = (1 << 3),
 } API_AVAILABLE(macos(10.14));
 
@@ -157,29 +146,14 @@ API_AVAILABLE(macos(10.14))
 @protocol UNUserNotificationCenterDelegate;
 
 typedef NS_OPTIONS(NSUInteger, UNAuthorizationOptions) {
-    UNAuthorizationOptionBadge = (1 << 0),
     UNAuthorizationOptionSound = (1 << 1),
     UNAuthorizationOptionAlert = (1 << 2),
-    UNAuthorizationOptionCarPlay = (1 << 3),
-    UNAuthorizationOptionCriticalAlert = (1 << 4),
-    UNAuthorizationOptionProvidesAppNotificationSettings = (1 << 5),
-    UNAuthorizationOptionProvisional = (1 << 6),
 } API_AVAILABLE(macos(10.14));
 
-static const UNAuthorizationOptions UNAuthorizationOptionNone API_AVAILABLE(macos(10.14)) = 0;
-
 typedef NS_OPTIONS(NSUInteger, UNNotificationPresentationOptions) {
-    UNNotificationPresentationOptionBadge = (1 << 0),
-    UNNotificationPresentationOptionSound = (1 << 1),
-    UNNotificationPresentationOptionAlert API_DEPRECATED(
-        "use UNNotificationPresentationOptionList and UNNotificationPresentationOptionBanner",
-        macos(10.14, 11.0)) = (1 << 2),
     UNNotificationPresentationOptionList API_AVAILABLE(macos(11.0)) = (1 << 3),
     UNNotificationPresentationOptionBanner API_AVAILABLE(macos(11.0)) = (1 << 4),
 } API_AVAILABLE(macos(10.14));
-
-static const UNNotificationPresentationOptions UNNotificationPresentationOptionNone
-    API_AVAILABLE(macos(10.14)) = 0;
 
 typedef NS_ENUM(NSInteger, UNAuthorizationStatus) {
     UNAuthorizationStatusNotDetermined,
