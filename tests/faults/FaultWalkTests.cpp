@@ -133,8 +133,6 @@ std::string testName(const ::testing::TestParamInfo<std::string>& scenario) {
     return name;
 }
 
-}  // namespace
-
 TEST_P(FaultWalk, LeavesTheProgramAliveAndTellsOfEachFault) {
     const auto lines = commands();
     FaultyRun plain(lines, 0);
@@ -155,4 +153,5 @@ TEST(ScenarioFolder, HoldsScenariosToWalk) {
     EXPECT_FALSE(scenarioNames().empty());
 }
 
+}  // namespace
 }  // namespace brisel::tests

@@ -166,7 +166,8 @@ TEST_P(LanguageTable, LeavesNoTextInEnglish) {
     if (GetParam().stem() == "en") return;
     for (const auto& [key, text] : texts) {
         // "OK" is a word of most of the languages.
-        if (key != "OK") EXPECT_NE(text, inEnglish.at(key));
+        if (key == "OK") continue;
+        EXPECT_NE(text, inEnglish.at(key));
     }
 }
 

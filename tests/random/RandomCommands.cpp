@@ -3,7 +3,8 @@
 #include "tests/random/RandomCommands.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <iomanip>
+#include <sstream>
 
 #include "tests/random/Vocabulary.h"
 
@@ -21,9 +22,10 @@ constexpr std::size_t StepsOfAShortOne = 45;
 RandomCommands::Lines longList(std::size_t length) {
     RandomCommands::Lines uuids;
     for (std::size_t place = 0; place < length; ++place) {
-        char uuid[] = "00000000-0000-0000-0000-000000000000";
-        std::snprintf(uuid, sizeof uuid, "%08zX-0000-0000-0000-000000000000", place);
-        uuids.emplace_back(uuid);
+        std::ostringstream uuid;
+        uuid << std::hex << std::uppercase << std::setfill('0') << std::setw(8) << place
+             << "-0000-0000-0000-000000000000";
+        uuids.push_back(uuid.str());
     }
     return uuids;
 }

@@ -68,8 +68,8 @@ TEST_F(RefusedRequest, IsOneForAFolderOfAnotherUser) {
 }
 
 TEST_F(RefusedRequest, IsOneForTheHomeOfAnotherUser) {
-    for (const char* const user : {"PKEXEC_UID=1", "-u PKEXEC_UID"})
-        expectRefusal(runTool(user), "must be in .brisel of the requesting user's home");
+    for (const char* const caller : {"PKEXEC_UID=1", "-u PKEXEC_UID"})
+        expectRefusal(runTool(caller), "must be in .brisel of the requesting user's home");
     mountPoint_ = brisel() + "/Data/../../.brisel/Data";
     expectRefusal(runTool(), "The mount point");
     expectRefusal(runTool("PKEXEC_UID=0x0"), "PKEXEC_UID is not a user ID.");
