@@ -1,4 +1,4 @@
-// The commands of a scenario, then whatever brings the program to rest, then a probe.
+// The commands of a scenario, then the answers that bring the program to rest, then a probe.
 // SPDX-License-Identifier: MIT
 #pragma once
 

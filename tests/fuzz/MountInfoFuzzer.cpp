@@ -54,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     rest << input.rdbuf();
     const auto table = rest.str();
     static_cast<void>(mountState(table, path));
-    // Whatever stands before it, the last line is the mount on top.
+    // The last line is the mount on top, regardless of the lines before it.
     must(mountState(table + line(path, "rw"), path) == MountState::ReadWrite);
     must(mountState(table + line(path, "ro"), path) == MountState::ReadOnly);
     must(mountState(table + line(path, "rw"), path + "/") == mountState(table, path + "/"));

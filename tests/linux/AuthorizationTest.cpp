@@ -20,16 +20,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Drops the effective user to nobody: root needs no pkexec.
-class Nobody {
+/// Drops root's rights while it lives, because root needs no pkexec.
+class UserWithoutRights {
   public:
-    Nobody() { EXPECT_TRUE(before_ != 0 || seteuid(NobodysNumber) == 0); }
-    Nobody(const Nobody&) = delete;
-    Nobody& operator=(const Nobody&) = delete;
-    ~Nobody() { EXPECT_EQ(seteuid(before_), 0); }
+    UserWithoutRights() { EXPECT_TRUE(before_ != 0 || seteuid(UnprivilegedUID) == 0); }
+    UserWithoutRights(const UserWithoutRights&) = delete;
+    UserWithoutRights& operator=(const UserWithoutRights&) = delete;
+    ~UserWithoutRights() { EXPECT_EQ(seteuid(before_), 0); }
 
   private:
-    static constexpr uid_t NobodysNumber = 65534;
+    static constexpr uid_t UnprivilegedUID = 65534;
     uid_t before_ = geteuid();
 };
 
@@ -48,7 +48,7 @@ class ThePasswordPrompt : public testing::Test {
         std::ofstream(pkexec_) << "#!/bin/bash\n" << script << '\n';
         fs::permissions(pkexec_, fs::perms(0755));
         const std::array<char*, 3> arguments{first_.data(), second_.data(), nullptr};
-        const Nobody nobody;
+        const UserWithoutRights user;
         Authorization authorization(terminationSignals_[0], pkexec_);
         EXPECT_TRUE(authorization.offersExecuteWithPrivileges());
         EXPECT_EQ(authorization.copyRights(nullptr, {}, 0), errAuthorizationSuccess);

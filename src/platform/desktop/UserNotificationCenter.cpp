@@ -29,7 +29,7 @@ UserNotificationCenter::UserNotificationCenter(NotificationServer& server,
     });
     actions_ =
         server_.onActionInvoked([this](auto number, const auto& key) { answer(number, key); });
-    // Whatever the reason: the number of a closed notification is invalid.
+    // The number of a closed notification is invalid, also of one that expired.
     closings_ = server_.onClosed([this](std::uint32_t number, std::uint32_t reason) {
         const auto dismissal = close(number, NotificationDismissActionIdentifier);
         if (dismissal && reason == NotificationServer::Dismissed) respond(*dismissal);

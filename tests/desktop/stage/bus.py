@@ -97,7 +97,7 @@ def own_name(connection, name):
     replace_existing = 2
     answer = driver(connection, "RequestName", "(su)", name, replace_existing)
     if answer not in (1, 4):
-        raise RuntimeError(f"{name} belongs to somebody else")
+        raise RuntimeError(f"{name} belongs to another program")
 
 
 def properties(connection, name, path, interface):
