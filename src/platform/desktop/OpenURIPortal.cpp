@@ -9,13 +9,15 @@
 #include <utility>
 
 #include "shared/Descriptor.h"
+#include "shared/SettingsPortal.h"
 
 namespace brisel::platform::desktop {
 
 namespace {
 
-constexpr const char* PortalName = "org.freedesktop.portal.Desktop";
-constexpr const char* PortalPath = "/org/freedesktop/portal/desktop";
+// One service and one object have all portals.
+constexpr const char* PortalName = shared::SettingsPortal::Name;
+constexpr const char* PortalPath = shared::SettingsPortal::Path;
 // Neither success nor closed by the user (org.freedesktop.portal.Request).
 constexpr guint32 ResponseOther = 2;
 
