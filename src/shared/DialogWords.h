@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string_view>
+
 namespace brisel::shared {
 
 /// The window is on screen.
-inline constexpr const char* ShownWord = "shown";
+inline constexpr std::string_view ShownWord = "shown";
 /// Followed by the index of the pressed button or the ID of the chosen item.
-inline constexpr const char* PressedWord = "pressed ";
+inline constexpr std::string_view PressedWord = "pressed ";
 /// The window was closed unanswered.
-inline constexpr const char* ClosedWord = "closed";
+inline constexpr std::string_view ClosedWord = "closed";
 
 }  // namespace brisel::shared

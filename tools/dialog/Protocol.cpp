@@ -12,11 +12,12 @@
 namespace brisel::dialog {
 
 std::string shownLine() {
-    return shared::ShownWord + std::string("\n");
+    return std::string(shared::ShownWord) + "\n";
 }
 
 std::string answerLine(const Answer& answer) {
-    return (answer ? shared::PressedWord + *answer : shared::ClosedWord) + "\n";
+    if (!answer) return std::string(shared::ClosedWord) + "\n";
+    return std::string(shared::PressedWord) + *answer + "\n";
 }
 
 void tell(const std::string& line) {

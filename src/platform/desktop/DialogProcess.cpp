@@ -21,9 +21,8 @@ namespace brisel::platform::desktop {
 namespace {
 
 using shared::Descriptor;
-
-constexpr std::string_view ShownWord = shared::ShownWord;
-constexpr std::string_view PressedWord = shared::PressedWord;
+using shared::PressedWord;
+using shared::ShownWord;
 
 // A memfd, not a pipe: writing never blocks. No file if it cannot be written.
 Descriptor fileWith(const std::string& text) {

@@ -32,9 +32,9 @@ bool isRoot() {
 }
 
 /// A program with its arguments, for execv.
-class CommandLine {
+class ExecArguments {
   public:
-    CommandLine(std::vector<std::string> words, char* const* furtherWords)
+    ExecArguments(std::vector<std::string> words, char* const* furtherWords)
         : words_(std::move(words)) {
         for (; *furtherWords != nullptr; ++furtherWords)
             words_.emplace_back(*furtherWords);
@@ -106,7 +106,7 @@ StartedTool Authorization::executeWithPrivileges(AuthorizationRef /*authorizatio
                                                  const char* pathToTool, std::uint32_t /*flags*/,
                                                  char* const* arguments) {
     if (isRoot()) {
-        const CommandLine command({pathToTool}, arguments);
+        const ExecArguments command({pathToTool}, arguments);
         return common::startToolProcess([&] { command.execute(); });
     }
     std::array<int, 2> ends{-1, -1};
@@ -115,7 +115,7 @@ StartedTool Authorization::executeWithPrivileges(AuthorizationRef /*authorizatio
     }
     const shared::Descriptor ours(ends[0]);
     shared::Descriptor pkexecs(ends[1]);
-    const CommandLine command({pkexec_, "--disable-internal-agent", pathToTool}, arguments);
+    const ExecArguments command({pkexec_, "--disable-internal-agent", pathToTool}, arguments);
     const auto tool = common::startToolProcess([&] {
         // Inherited by pkexec, which closes it when it starts the tool.
         fcntl(pkexecs.number(), F_SETFD, 0);
